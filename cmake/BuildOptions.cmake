@@ -1,0 +1,41 @@
+# Flags that every target of ours takes (link it PRIVATE): warnings are errors.
+add_library(merovane_build_options INTERFACE)
+target_compile_options(merovane_build_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
+  $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual>)
+
+if(MEROVANE_SANITIZE)
+  add_compile_options(-fsanitize=${MEROVANE_SANITIZE} -fno-omit-frame-pointer -g)
+  add_link_options(-fsanitize=${MEROVANE_SANITIZE})
+  if(MEROVANE_SANITIZE MATCHES "undefined")
+    add_compile_options(-fno-sanitize-recover=undefined)
+  endif()
+endif()
+
+if(WIN32)
+  add_compile_definitions(_WIN32_WINNT=0x0601 WINVER=0x0601 UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
+  # Nothing but the product's own DLLs is shipped.
+  add_link_options(-static -static-libgcc -static-libstdc++)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    add_compile_options(-msse2 -mfpmath=sse -mstackrealign)
+  endif()
+  # The build machine's header-only packages, linked into a folder of their own:
+  # its other system headers must not be on the cross compiler's path.
+  set(header_only ${CMAKE_BINARY_DIR}/header-only)
+  file(MAKE_DIRECTORY ${header_only})
+  foreach(entry asio asio.hpp CLI nlohmann)
+    if(EXISTS /usr/include/${entry} AND NOT EXISTS ${header_only}/${entry})
+      file(CREATE_LINK /usr/include/${entry} ${header_only}/${entry} SYMBOLIC)
+    endif()
+  endforeach()
+endif()
+
+# Header-only packages (Asio, CLI11, nlohmann-json) for companions, simulator, tools and tests.
+add_library(merovane_header_only INTERFACE)
+if(WIN32)
+  target_include_directories(merovane_header_only SYSTEM INTERFACE ${CMAKE_BINARY_DIR}/header-only)
+  target_link_libraries(merovane_header_only INTERFACE ws2_32 mswsock)
+else()
+  target_link_libraries(merovane_header_only INTERFACE Threads::Threads)
+endif()
+target_compile_definitions(merovane_header_only INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)

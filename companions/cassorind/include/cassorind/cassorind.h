@@ -1,0 +1,71 @@
+// Cassorind: the serial channel library.
+//
+// A channel is a byte stream to one handset. CreateChannel makes one, its
+// operations open, drive and close it, ReleaseChannel frees it.
+//
+// Port n is the device named by the environment variable CASSORIND_COM<n>: a
+// tty path, "socket://host:port" for a TCP stream or, on Windows, a name like
+// "COM12". Without the variable it is /dev/ttyS<n-1> (Windows: \\.\COM<n>).
+#ifndef CASSORIND_CASSORIND_H
+#define CASSORIND_CASSORIND_H
+
+#include <cstdint>
+
+#include "companions/export.h"
+
+#ifdef CASSORIND_BUILD
+#define CASSORIND_API COMPANION_EXPORT
+#else
+#define CASSORIND_API COMPANION_IMPORT
+#endif
+
+struct CassorindOpenParameters {
+  std::uint32_t kind;      // 0: a serial port, 8 data bits, no parity, 1 stop bit, raw
+  std::uint32_t port;      // 1 and up
+  std::uint32_t baudRate;  // any standard rate; not used by a TCP stream
+};
+
+// The operations stand in the order in which callers built against other
+// versions of this library expect them; none may be added before the last.
+class CassorindChannel {
+ public:
+  // Enabled (non-zero): from the next open on, received data is not kept for Read but posted
+  // to thread `threadId` as messages `messageId` whose first parameter is a
+  // chunk's address and whose second is its length in bytes. Zero ends that.
+  // May be called before or after Open. Returns non-zero on success.
+  //
+  // The channel owns every chunk: the receiver reads it and never frees it. A
+  // chunk stays as it is until 128 KiB more have been posted or the channel is
+  // released, whichever comes first.
+  virtual std::int32_t SetReceiver(std::uint32_t messageId, std::int32_t enabled,
+                                   std::uint32_t threadId) = 0;
+  // Non-zero on success. Opening an open channel fails.
+  virtual std::int32_t Open(const CassorindOpenParameters* parameters) = 0;
+  // Non-zero when the channel was open. Ends posting before it returns; a Read
+  // or Write that runs on another thread returns at once.
+  virtual std::int32_t Close() = 0;
+  // Purges input that was received and not yet read, in the system and here. Non-zero on success.
+  virtual std::int32_t Clear() = 0;
+  // Waits until at least one byte is there, then takes what is there, at most
+  // `maxBytes`. Returns the number of bytes; 0 when `timeLimitMs` passed
+  // without any, and -1 at once when the channel is closed or its device is gone.
+  virtual std::int32_t Read(void* buffer, std::uint32_t maxBytes, std::uint32_t timeLimitMs,
+                            std::uint32_t reserved) = 0;
+  // Returns the number of bytes that the system took: `length`, or fewer when
+  // the device is gone or takes nothing for 2 seconds. May run while another
+  // thread reads; writes of several threads do not mix.
+  virtual std::int32_t Write(const void* data, std::uint32_t length, std::uint32_t reserved) = 0;
+
+ protected:
+  ~CassorindChannel() = default;
+};
+
+extern "C" {
+// Stores a new, closed channel. Non-zero on success, 0 for a null pointer or a kind other than 0.
+CASSORIND_API std::int32_t COMPANION_CALL CreateChannel(CassorindChannel** channel,
+                                                        std::uint32_t kind);
+// Closes the channel if need be and frees it; null is ignored.
+CASSORIND_API void COMPANION_CALL ReleaseChannel(CassorindChannel* channel);
+}
+
+#endif

@@ -1,0 +1,23 @@
+// The console that logs can be mirrored to, and message boxes.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace merovane::platform {
+
+enum class ConsoleState { Off, Shown, Hidden };
+
+// Gives the process a console (Windows), shows or hides it, or releases it again.
+void SetConsole(ConsoleState state);
+void WriteConsole(std::string_view text);
+
+// Shows a box with an OK button; elsewhere than on Windows a line "caption: text" on standard error.
+void ShowMessageBox(const std::string& text, const std::string& caption);
+
+// Tests put their own in its place; null puts the system's back.
+using MessageBoxFunction = std::function<void(const std::string& text, const std::string& caption)>;
+void SetMessageBox(MessageBoxFunction function);
+
+}  // namespace merovane::platform

@@ -1,0 +1,39 @@
+// Manual-reset events.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+
+namespace merovane::platform {
+
+class Event {
+ public:
+  void Set();
+  void Reset();
+  bool IsSet() const { return set_.load(std::memory_order_acquire); }
+  // True when the event is set within the time; UINT32_MAX waits without end.
+  bool WaitMs(std::uint32_t ms);
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::atomic<bool> set_{false};
+};
+
+// An event that the caller of the library owns: a Win32 event handle, elsewhere
+// an eventfd descriptor. 0 and, elsewhere, negative values count as null.
+class CallerEvent {
+ public:
+  CallerEvent() = default;
+  explicit CallerEvent(std::intptr_t handle) : handle_(handle) {}
+  bool IsNull() const;
+  void Set() const;
+  void Reset() const;
+
+ private:
+  std::intptr_t handle_ = 0;
+};
+
+}  // namespace merovane::platform

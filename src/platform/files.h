@@ -1,0 +1,51 @@
+// Files and paths.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <string_view>
+
+namespace merovane::platform {
+
+// The directory of the host process's executable.
+std::filesystem::path ExecutableDirectory();
+// The system's directory for temporary files.
+std::filesystem::path TemporaryDirectory();
+
+// A path as callers and project files write it: bytes in the system's narrow encoding, both
+// separators taken on every system.
+std::filesystem::path PathFromText(std::string_view text);
+
+// A file that is written at its end, unbuffered: what Write has taken survives a crash of the process.
+class AppendFile {
+ public:
+  AppendFile() = default;
+  ~AppendFile();
+  AppendFile(AppendFile&& other) noexcept;
+  AppendFile& operator=(AppendFile&& other) noexcept;
+
+  // Creates the file, its directories too, or opens it to go on at its end. False on failure.
+  bool Open(const std::filesystem::path& path);
+  bool IsOpen() const;
+  // False when not all was written (a full disk, say).
+  bool Write(std::span<const char> data);
+  // The file's size now, in bytes.
+  std::uint64_t Size() const;
+  void Close();
+
+ private:
+  std::intptr_t handle_ = -1;
+};
+
+// The read-only attribute, every other attribute bit left as it is. False when the attributes cannot be read or set.
+bool SetReadOnly(const std::filesystem::path& path, bool readOnly);
+bool IsReadOnly(const std::filesystem::path& path);
+
+// Puts `data` in place of the file's content as one step: on failure (false) the old file stands
+// whole. A file that is read-only is not written.
+bool ReplaceFile(const std::filesystem::path& path, std::span<const char> data);
+
+}  // namespace merovane::platform

@@ -1,0 +1,33 @@
+// Private-profile settings files ("Name.ini") by the rules of Windows on every
+// system: names compare without regard to case, blanks round names and values
+// are trimmed, one pair of quotation marks round a value is stripped, the first
+// section of a name wins, and in it the first key.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace merovane::platform {
+
+class ProfileFile {
+ public:
+  // Reads the file whole. One that is missing, a directory or unreadable is like an empty
+  // one. A byte-order mark is skipped (UTF-16 text is taken too).
+  static ProfileFile Load(const std::filesystem::path& path);
+  static ProfileFile Parse(std::string text);
+
+  // The key's value; `fallback` when section or key is missing.
+  std::string Text(std::string_view section, std::string_view key,
+                   std::string_view fallback) const;
+  // The value read as far as its decimal digits go (a sign may lead; "0x" leads
+  // hexadecimal ones), in 32 bits; 0 for a value without digits, `fallback` when the key is missing or empty.
+  std::uint32_t Integer(std::string_view section, std::string_view key,
+                        std::uint32_t fallback) const;
+
+ private:
+  std::string text_;
+};
+
+}  // namespace merovane::platform
