@@ -15,9 +15,10 @@ class DeviceMonitor {
   virtual bool TakeArrival(std::int32_t& port) = 0;
 };
 
-// Watches the system's serial devices: on Windows the COM ports in the registry's device map, elsewhere
-// the devices that the numbered ports name (CASSORIND_COM<n>, else /dev/ttyS<n-1>) for n from 1 to 256, and the
-// named TCP endpoints that begin to listen are not devices. Polled, at most every 10 ms, from TakeArrival.
+// Watches the numbered ports 1 to 256: each is the device that CASSORIND_COM<n> names, else
+// /dev/ttyS<n-1>, on Windows COM<n>. A device that goes and comes back arrives again, also when
+// another took its place between two looks. TCP endpoints never arrive. The variables are read at
+// each look, and looks are taken by TakeArrival, at most one in 10 ms. For one thread.
 std::unique_ptr<DeviceMonitor> CreateDeviceMonitor();
 
 }  // namespace merovane::platform

@@ -2,14 +2,18 @@
 #pragma once
 
 #include <atomic>
-#include <condition_variable>
 #include <cstdint>
-#include <mutex>
+#include <memory>
 
 namespace merovane::platform {
 
 class Event {
  public:
+  Event();
+  ~Event();
+  Event(const Event&) = delete;
+  Event& operator=(const Event&) = delete;
+
   void Set();
   void Reset();
   bool IsSet() const { return set_.load(std::memory_order_acquire); }
@@ -17,9 +21,9 @@ class Event {
   bool WaitMs(std::uint32_t ms);
 
  private:
-  std::mutex mutex_;
-  std::condition_variable changed_;
+  struct Wait;
   std::atomic<bool> set_{false};
+  std::unique_ptr<Wait> wait_;
 };
 
 // An event that the caller of the library owns: a Win32 event handle, elsewhere

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
 #include <filesystem>
-#include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace merovane::platform {
@@ -18,8 +17,11 @@ std::filesystem::path TemporaryDirectory();
 // A path as callers and project files write it: bytes in the system's narrow encoding, both
 // separators taken on every system.
 std::filesystem::path PathFromText(std::string_view text);
+// The way back: the path in the system's narrow encoding, never an exception.
+std::string TextFromPath(const std::filesystem::path& path);
 
-// A file that is written at its end, unbuffered: what Write has taken survives a crash of the process.
+// A file that is written at its end, unbuffered: what Write has taken survives a crash of the
+// process.
 class AppendFile {
  public:
   AppendFile() = default;
@@ -40,7 +42,8 @@ class AppendFile {
   std::intptr_t handle_ = -1;
 };
 
-// The read-only attribute, every other attribute bit left as it is. False when the attributes cannot be read or set.
+// The read-only attribute, every other attribute bit left as it is. False when the attributes
+// cannot be read or set.
 bool SetReadOnly(const std::filesystem::path& path, bool readOnly);
 bool IsReadOnly(const std::filesystem::path& path);
 

@@ -9,8 +9,9 @@ inline constexpr std::uint32_t kQuitMessage = 18;  // WM_QUIT
 
 struct Message {
   std::uint32_t id = 0;
-  std::uintptr_t first = 0;   // WPARAM
-  std::intptr_t second = 0;   // LPARAM
+  std::uintptr_t first = 0;  // WPARAM
+  std::intptr_t second = 0;  // LPARAM
+  void* window = nullptr;    // the window that it is for; never one elsewhere than on Windows
 };
 
 std::uint32_t CurrentThreadId();

@@ -13,7 +13,8 @@ class Module {
   Module(const Module&) = delete;
   Module& operator=(const Module&) = delete;
 
-  // `name` without prefix and ending ("Tollvane"). Looks beside this library first, then where the system looks.
+  // `name` without prefix and ending ("Tollvane"). Looks beside this library first, then where the
+  // system looks.
   bool Load(std::string_view name);
   bool IsLoaded() const { return handle_ != nullptr; }
   void* Find(const char* function) const;

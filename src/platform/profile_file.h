@@ -19,10 +19,10 @@ class ProfileFile {
   static ProfileFile Parse(std::string text);
 
   // The key's value; `fallback` when section or key is missing.
-  std::string Text(std::string_view section, std::string_view key,
-                   std::string_view fallback) const;
+  std::string Text(std::string_view section, std::string_view key, std::string_view fallback) const;
   // The value read as far as its decimal digits go (a sign may lead; "0x" leads
-  // hexadecimal ones), in 32 bits; 0 for a value without digits, `fallback` when the key is missing or empty.
+  // hexadecimal ones), in 32 bits; 0 for a value without digits, `fallback` when the key is missing
+  // or empty.
   std::uint32_t Integer(std::string_view section, std::string_view key,
                         std::uint32_t fallback) const;
 

@@ -1,0 +1,42 @@
+#include "platform/console.h"
+
+#include <mutex>
+#include <utility>
+
+namespace merovane::platform {
+namespace {
+
+struct Replacement {
+  std::mutex mutex;
+  MessageBoxFunction function;
+};
+
+Replacement& MessageBoxReplacement() {
+  static Replacement replacement;
+  return replacement;
+}
+
+}  // namespace
+
+void SetMessageBox(MessageBoxFunction function) {
+  Replacement& replacement = MessageBoxReplacement();
+  const std::lock_guard lock(replacement.mutex);
+  replacement.function = std::move(function);
+}
+
+void ShowMessageBox(const std::string& text, const std::string& caption) {
+  MessageBoxFunction function;
+  {
+    Replacement& replacement = MessageBoxReplacement();
+    const std::lock_guard lock(replacement.mutex);
+    function = replacement.function;
+  }
+  // Outside the lock: a box stands for as long as nobody closes it.
+  if (function) {
+    function(text, caption);
+  } else {
+    ShowSystemMessageBox(text, caption);
+  }
+}
+
+}  // namespace merovane::platform

@@ -1,0 +1,58 @@
+#include "platform/device_monitor.h"
+
+#include <deque>
+#include <map>
+
+#include "platform/clock.h"
+#include "platform/serial_ports.h"
+
+namespace merovane::platform {
+namespace {
+
+constexpr std::uint32_t kPollIntervalMs = 10;
+
+class PollingDeviceMonitor final : public DeviceMonitor {
+ public:
+  void Start() override {
+    known_ = ports_.Present();
+    arrivals_.clear();
+    polledAtMs_ = SystemClock().NowMs();
+    started_ = true;
+  }
+
+  bool TakeArrival(std::int32_t& port) override {
+    if (!started_) return false;
+    if (arrivals_.empty()) Poll();
+    if (arrivals_.empty()) return false;
+    port = arrivals_.front();
+    arrivals_.pop_front();
+    return true;
+  }
+
+ private:
+  void Poll() {
+    const std::uint32_t nowMs = SystemClock().NowMs();
+    if (nowMs - polledAtMs_ < kPollIntervalMs) return;
+    polledAtMs_ = nowMs;
+    auto present = ports_.Present();
+    for (const auto& [port, device] : present) {
+      const auto before = known_.find(port);
+      if (before == known_.end() || before->second != device) arrivals_.push_back(port);
+    }
+    known_ = std::move(present);
+  }
+
+  SerialPorts ports_;
+  std::map<std::int32_t, std::uint64_t> known_;
+  std::deque<std::int32_t> arrivals_;
+  std::uint32_t polledAtMs_ = 0;
+  bool started_ = false;
+};
+
+}  // namespace
+
+std::unique_ptr<DeviceMonitor> CreateDeviceMonitor() {
+  return std::make_unique<PollingDeviceMonitor>();
+}
+
+}  // namespace merovane::platform

@@ -1,0 +1,80 @@
+#include "platform/event.h"
+
+#include <poll.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
+namespace merovane::platform {
+
+struct Event::Wait {
+  std::mutex mutex;
+  std::condition_variable changed;
+};
+
+Event::Event() : wait_(std::make_unique<Wait>()) {}
+Event::~Event() = default;
+
+void Event::Set() {
+  // Told under the lock: the waiter may destroy the event as soon as it sees it set.
+  const std::lock_guard lock(wait_->mutex);
+  set_.store(true, std::memory_order_release);
+  wait_->changed.notify_all();
+}
+
+void Event::Reset() {
+  const std::lock_guard lock(wait_->mutex);
+  set_.store(false, std::memory_order_release);
+}
+
+bool Event::WaitMs(std::uint32_t ms) {
+  std::unique_lock lock(wait_->mutex);
+  const auto isSet = [this] { return IsSet(); };
+  if (ms == UINT32_MAX) {
+    wait_->changed.wait(lock, isSet);
+    return true;
+  }
+  return wait_->changed.wait_for(lock, std::chrono::milliseconds(ms), isSet);
+}
+
+namespace {
+
+bool Ready(int descriptor, short events) {
+  pollfd entry{descriptor, events, 0};
+  return poll(&entry, 1, 0) == 1 && (entry.revents & events) != 0;
+}
+
+}  // namespace
+
+bool CallerEvent::IsNull() const { return handle_ <= 0; }
+
+void CallerEvent::Set() const {
+  const int descriptor = static_cast<int>(handle_);
+  // A counter that is full is set already; writing to it would wait.
+  if (IsNull() || !Ready(descriptor, POLLOUT)) return;
+  const std::uint64_t one = 1;
+  while (write(descriptor, &one, sizeof one) < 0 && errno == EINTR) {
+  }
+}
+
+void CallerEvent::Reset() const {
+  if (IsNull()) return;
+  const int descriptor = static_cast<int>(handle_);
+  // One read empties a counter; one made as a semaphore gives 1 at a time. The limit is for
+  // descriptors that are something else and never run dry.
+  constexpr int kMostReads = 4096;
+  for (int i = 0; i < kMostReads && Ready(descriptor, POLLIN); ++i) {
+    std::uint64_t count = 0;
+    iovec into{&count, sizeof count};
+    // Another reader may have been quicker: a blocking descriptor must not hold us then.
+    ssize_t got = preadv2(descriptor, &into, 1, -1, RWF_NOWAIT);
+    if (got < 0 && errno == EOPNOTSUPP) got = read(descriptor, &count, sizeof count);
+    if (got <= 0 && errno != EINTR) return;
+  }
+}
+
+}  // namespace merovane::platform

@@ -1,0 +1,29 @@
+#include "platform/message_queue.h"
+
+#include <threadqueue/threadqueue.h>
+
+namespace merovane::platform {
+
+std::uint32_t CurrentThreadId() { return threadqueue_current_thread(); }
+
+void CreateMessageQueue() {
+  // Asking for messages of an empty range makes the queue and takes none.
+  THREADQUEUE_MESSAGE none{};
+  threadqueue_take_range(&none, 1, 0);
+}
+
+bool PostMessageToThread(std::uint32_t threadId, std::uint32_t id, std::uintptr_t first,
+                         std::intptr_t second) {
+  return threadqueue_post(threadId, id, first, second) != 0;
+}
+
+bool TakeMessage(Message& message, std::uint32_t timeLimitMs) {
+  THREADQUEUE_MESSAGE taken{};
+  if (threadqueue_take(&taken, timeLimitMs) == 0) return false;
+  message = {.id = taken.id, .first = taken.first, .second = taken.second};
+  return true;
+}
+
+void DispatchForeignMessage(const Message&) {}
+
+}  // namespace merovane::platform
