@@ -23,8 +23,8 @@ extern "C" {
 
 typedef struct THREADQUEUE_MESSAGE {
   uint32_t id;
-  uintptr_t first;  /* WPARAM */
-  intptr_t second;  /* LPARAM */
+  uintptr_t first; /* WPARAM */
+  intptr_t second; /* LPARAM */
 } THREADQUEUE_MESSAGE;
 
 /* The calling thread's id (not 0). Does not make a queue. */

@@ -1,0 +1,138 @@
+#include "threadqueue/threadqueue.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <new>
+#include <unordered_map>
+
+namespace {
+
+constexpr std::size_t kCapacity = 10000;
+
+class Queue {
+ public:
+  bool Post(const THREADQUEUE_MESSAGE& message) {
+    {
+      std::lock_guard lock(mutex_);
+      if (messages_.size() >= kCapacity) return false;
+      messages_.push_back(message);
+    }
+    posted_.notify_one();
+    return true;
+  }
+
+  bool Take(THREADQUEUE_MESSAGE& message, std::uint32_t timeLimitMs) {
+    std::unique_lock lock(mutex_);
+    const auto ready = [this] { return !messages_.empty(); };
+    if (timeLimitMs == UINT32_MAX) {
+      posted_.wait(lock, ready);
+    } else if (!ready() &&
+               (timeLimitMs == 0 ||
+                !posted_.wait_for(lock, std::chrono::milliseconds(timeLimitMs), ready))) {
+      return false;
+    }
+    message = messages_.front();
+    messages_.pop_front();
+    return true;
+  }
+
+  bool TakeRange(THREADQUEUE_MESSAGE& message, std::uint32_t firstId, std::uint32_t lastId) {
+    std::lock_guard lock(mutex_);
+    const auto found = std::find_if(messages_.begin(), messages_.end(), [&](const auto& each) {
+      return each.id >= firstId && each.id <= lastId;
+    });
+    if (found == messages_.end()) return false;
+    message = *found;
+    messages_.erase(found);
+    return true;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::condition_variable posted_;
+  std::deque<THREADQUEUE_MESSAGE> messages_;
+};
+
+class Registry {
+ public:
+  void Add(std::uint32_t threadId, std::shared_ptr<Queue> queue) {
+    std::lock_guard lock(mutex_);
+    queues_[threadId] = std::move(queue);
+  }
+  void Remove(std::uint32_t threadId) {
+    std::lock_guard lock(mutex_);
+    queues_.erase(threadId);
+  }
+  std::shared_ptr<Queue> Find(std::uint32_t threadId) {
+    std::lock_guard lock(mutex_);
+    const auto found = queues_.find(threadId);
+    return found == queues_.end() ? nullptr : found->second;
+  }
+
+ private:
+  std::mutex mutex_;
+  std::unordered_map<std::uint32_t, std::shared_ptr<Queue>> queues_;
+};
+
+// Never destroyed: threads may post and end after the process began to exit.
+Registry& TheRegistry() {
+  static Registry* const registry = new Registry;
+  return *registry;
+}
+
+// The calling thread's own queue. The flag has no destructor, so it can still be asked when
+// the thread's other locals call here while they are destroyed after the queue.
+thread_local bool queueIsGone = false;
+
+struct OwnQueue {
+  std::shared_ptr<Queue> queue = std::make_shared<Queue>();
+  std::uint32_t threadId = threadqueue_current_thread();
+
+  OwnQueue() { TheRegistry().Add(threadId, queue); }
+  OwnQueue(const OwnQueue&) = delete;
+  OwnQueue& operator=(const OwnQueue&) = delete;
+  ~OwnQueue() {
+    TheRegistry().Remove(threadId);
+    queueIsGone = true;
+  }
+};
+
+Queue* CallersQueue() {
+  if (queueIsGone) return nullptr;
+  thread_local OwnQueue own;
+  return own.queue.get();
+}
+
+}  // namespace
+
+std::uint32_t threadqueue_current_thread() { return static_cast<std::uint32_t>(::gettid()); }
+
+int threadqueue_post(std::uint32_t thread_id, std::uint32_t id, std::uintptr_t first,
+                     std::intptr_t second) try {
+  const auto queue = TheRegistry().Find(thread_id);
+  return queue && queue->Post({id, first, second}) ? 1 : 0;
+} catch (const std::bad_alloc&) {
+  return 0;
+}
+
+int threadqueue_take(THREADQUEUE_MESSAGE* message, std::uint32_t time_limit_ms) try {
+  Queue* const queue = CallersQueue();
+  return queue && message && queue->Take(*message, time_limit_ms) ? 1 : 0;
+} catch (const std::bad_alloc&) {
+  return 0;
+}
+
+int threadqueue_take_range(THREADQUEUE_MESSAGE* message, std::uint32_t first_id,
+                           std::uint32_t last_id) try {
+  Queue* const queue = CallersQueue();
+  return queue && message && queue->TakeRange(*message, first_id, last_id) ? 1 : 0;
+} catch (const std::bad_alloc&) {
+  return 0;
+}
