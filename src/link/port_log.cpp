@@ -1,0 +1,49 @@
+#include "link/port_log.h"
+
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "platform/clock.h"
+
+namespace merovane {
+namespace {
+
+constexpr std::uint32_t kPortLogFlags = 0x7000;
+constexpr std::uint32_t kPortLogFirst = 5;
+constexpr std::uint32_t kPortLogSecond = 300;
+
+// The folder's date is UTC while time stamps are local: one folder a day wherever stations stand.
+std::string DayFolder() {
+  const platform::CalendarTime day = platform::UtcTime();
+  std::array<char, 40> text;
+  std::snprintf(text.data(), text.size(), "%04d-%02d-%02d", day.year, day.month, day.day);
+  return text.data();
+}
+
+}  // namespace
+
+bool PortLog::Open(std::string_view fileName) {
+  file_.SetOption(LogOption::Directory, LogDirectory{LogDirectory::Kind::Executable, DayFolder()});
+  if (!file_.Open(fileName, kPortLogFlags, kPortLogFirst, kPortLogSecond)) return false;
+  file_.Raw("\r\n" + std::string(60, '-') + "\r\n");
+  return true;
+}
+
+void PortLog::Line(std::string_view text) { file_.Text(text); }
+
+void PortLog::Data(std::span<const std::uint8_t> bytes, bool sent) {
+  if (!bytes.data()) return;
+  file_.Dump(bytes, sent ? LogDirection::Sent : LogDirection::Received);
+}
+
+void PortLog::Result(merovane::Result code, std::string_view name) {
+  std::array<char, 96> text;
+  std::snprintf(text.data(), text.size(), "Error Code = %d (%.*s)", static_cast<int>(code),
+                static_cast<int>(name.size()), name.data());
+  file_.Text(text.data());
+}
+
+void PortLog::Close() { file_.Close(); }
+
+}  // namespace merovane

@@ -1,0 +1,26 @@
+// One of a port's two logs: the Useful log of what commands did, or the All log of every byte.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+#include "link/log_file.h"
+#include "link/result.h"
+
+namespace merovane {
+
+class PortLog {
+ public:
+  // Opens `fileName` in the folder of the day; false when that cannot be done.
+  bool Open(std::string_view fileName);
+  void Line(std::string_view text);
+  void Data(std::span<const std::uint8_t> bytes, bool sent);
+  void Result(merovane::Result code, std::string_view name);
+  void Close();
+
+ private:
+  LogFile file_;
+};
+
+}  // namespace merovane

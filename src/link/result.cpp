@@ -1,0 +1,37 @@
+#include "link/result.h"
+
+#include <array>
+
+namespace merovane {
+namespace {
+
+struct ResultText {
+  std::string_view name;
+  std::string_view meaning;
+};
+
+constexpr std::array kResultTexts = {
+#define RESULT(code, name, publicName, meaning) ResultText{publicName, meaning},
+#include "link/result_codes.def"
+#undef RESULT
+};
+static_assert(kResultTexts.size() == 40);
+
+const ResultText* FindText(Result result) {
+  const auto code = static_cast<std::uint32_t>(result);
+  return code < kResultTexts.size() ? &kResultTexts[code] : nullptr;
+}
+
+}  // namespace
+
+std::string_view ResultName(Result result) {
+  const ResultText* text = FindText(result);
+  return text ? text->name : "SUCCESS";
+}
+
+std::string_view ResultMeaning(Result result) {
+  const ResultText* text = FindText(result);
+  return text ? text->meaning : std::string_view{};
+}
+
+}  // namespace merovane
