@@ -1,21 +1,28 @@
-# merovane_test(NAME SOURCES … [LIBRARIES …] [LABELS …] [TIMEOUT seconds]): a GoogleTest program and its CTest entries.
+# merovane_test(NAME SOURCES … [LIBRARIES …] [LABELS …] [TIMEOUT seconds] [WINE])
+# A GoogleTest program and its CTest entry. For Windows it is built by default, and named in
+# ${CMAKE_BINARY_DIR}/wine-tests.txt, when WINE says that it needs nothing but Windows: no pty, no
+# program of the build machine.
 if(WIN32)
   # The packaged GoogleTest is for the build machine: build its sources.
   if(NOT TARGET gtest)
     set(INSTALL_GTEST OFF CACHE BOOL "" FORCE)
     set(BUILD_GMOCK ON CACHE BOOL "" FORCE)
     add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
-    add_library(GTest::gtest ALIAS gtest)
-    add_library(GTest::gmock ALIAS gmock)
-    add_library(GTest::gmock_main ALIAS gmock_main)
   endif()
+  cmake_language(DEFER DIRECTORY ${CMAKE_SOURCE_DIR} CALL merovane_write_wine_tests)
 else()
   find_package(GTest REQUIRED)
 endif()
-include(GoogleTest)
+
+function(merovane_write_wine_tests)
+  get_property(programs GLOBAL PROPERTY MEROVANE_WINE_TESTS)
+  list(TRANSFORM programs APPEND ".exe\n")
+  list(JOIN programs "" lines)
+  file(WRITE ${CMAKE_BINARY_DIR}/wine-tests.txt "${lines}")
+endfunction()
 
 function(merovane_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 test "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
+  cmake_parse_arguments(PARSE_ARGV 1 test "WINE" "TIMEOUT" "SOURCES;LIBRARIES;LABELS")
   if(NOT test_TIMEOUT)
     set(test_TIMEOUT 120)
   endif()
@@ -26,5 +33,9 @@ function(merovane_test name)
     # One CTest entry a program: starting a process per case costs more than the cases.
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT ${test_TIMEOUT} LABELS "${test_LABELS}")
+  elseif(test_WINE)
+    set_property(GLOBAL APPEND PROPERTY MEROVANE_WINE_TESTS ${name})
+  else()
+    set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
   endif()
 endfunction()
