@@ -14,7 +14,8 @@ readonly MEROVANE_CACHE
 # shellcheck disable=SC2034  # read by the scripts
 readonly I386_ROOT=$MEROVANE_CACHE/i386-root
 
-say() { printf '%s\n' "$*"; }
+# say LINE…
+say() { printf '%s\n' "$@"; }
 warn() { printf '%s\n' "$*" >&2; }
 die() {
   warn "${0##*/}: $*"
@@ -70,8 +71,8 @@ build_preset() {
   if have ccache; then
     launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   fi
-  cmake -S "$MEROVANE_ROOT" --preset "$preset" "${launcher[@]}"
-  cmake --build "$MEROVANE_ROOT/build/$preset" --parallel "$(nproc)" ${1:+--target "$@"}
+  cmake -S "$MEROVANE_ROOT" --preset "$preset" "${launcher[@]}" &&
+    cmake --build "$MEROVANE_ROOT/build/$preset" --parallel "$(nproc)" ${1:+--target "$@"}
 }
 
 now_ms() { date +%s%3N; }
