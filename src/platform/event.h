@@ -1,7 +1,6 @@
 // Manual-reset events.
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <memory>
 
@@ -16,13 +15,12 @@ class Event {
 
   void Set();
   void Reset();
-  bool IsSet() const { return set_.load(std::memory_order_acquire); }
+  bool IsSet() const;
   // True when the event is set within the time; UINT32_MAX waits without end.
   bool WaitMs(std::uint32_t ms);
 
  private:
   struct Wait;
-  std::atomic<bool> set_{false};
   std::unique_ptr<Wait> wait_;
 };
 

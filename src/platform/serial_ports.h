@@ -4,10 +4,20 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace merovane::platform {
 
 inline constexpr std::int32_t kLastPort = 256;
+
+// The environment names a port's device in the variable that is this and the port's number.
+inline constexpr std::string_view kPortVariable = "CASSORIND_COM";
+
+// The whole of `text` as a decimal number from `first` to `last`, written without leading zeros.
+std::optional<std::int32_t> WholeNumber(std::string_view text, std::int32_t first,
+                                        std::int32_t last);
 
 class SerialPorts {
  public:

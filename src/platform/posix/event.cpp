@@ -4,6 +4,7 @@
 #include <sys/uio.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <chrono>
 #include <condition_variable>
@@ -14,6 +15,7 @@ namespace merovane::platform {
 struct Event::Wait {
   std::mutex mutex;
   std::condition_variable changed;
+  std::atomic<bool> set{false};
 };
 
 Event::Event() : wait_(std::make_unique<Wait>()) {}
@@ -22,14 +24,16 @@ Event::~Event() = default;
 void Event::Set() {
   // Told under the lock: the waiter may destroy the event as soon as it sees it set.
   const std::lock_guard lock(wait_->mutex);
-  set_.store(true, std::memory_order_release);
+  wait_->set.store(true, std::memory_order_release);
   wait_->changed.notify_all();
 }
 
 void Event::Reset() {
   const std::lock_guard lock(wait_->mutex);
-  set_.store(false, std::memory_order_release);
+  wait_->set.store(false, std::memory_order_release);
 }
+
+bool Event::IsSet() const { return wait_->set.load(std::memory_order_acquire); }
 
 bool Event::WaitMs(std::uint32_t ms) {
   std::unique_lock lock(wait_->mutex);

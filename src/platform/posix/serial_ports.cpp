@@ -7,8 +7,6 @@
 #include <unistd.h>
 
 #include <array>
-#include <charconv>
-#include <compare>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,21 +16,8 @@
 namespace merovane::platform {
 namespace {
 
-constexpr std::string_view kPortVariable = "CASSORIND_COM";
 constexpr std::string_view kStandardPort = "ttyS";
 constexpr const char* kDeviceDirectory = "/dev";
-
-// The whole of `text` as a number from `first` to `last`, written without leading zeros.
-std::optional<std::int32_t> Number(std::string_view text, std::int32_t first, std::int32_t last) {
-  std::int32_t number = 0;
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, number);
-  const bool padded = text.size() > 1 && text.front() == '0';
-  if (error != std::errc{} || stop != end || padded || number < first || number > last) {
-    return std::nullopt;
-  }
-  return number;
-}
 
 struct Device {
   // What names the device: the link, if the path is one, and the node at its end.
@@ -113,7 +98,7 @@ class StandardPorts {
     while (const dirent* entry = readdir(directory.get())) {
       const std::string_view name = entry->d_name;
       if (!name.starts_with(kStandardPort)) continue;
-      if (const auto number = Number(name.substr(kStandardPort.size()), 0, kLastPort - 1)) {
+      if (const auto number = WholeNumber(name.substr(kStandardPort.size()), 0, kLastPort - 1)) {
         numbers_.push_back(*number);
       }
     }
@@ -132,8 +117,8 @@ std::map<std::int32_t, std::string> NamedPorts() {
     if (!variable.starts_with(kPortVariable)) continue;
     const std::size_t equals = variable.find('=');
     if (equals == std::string_view::npos || equals + 1 == variable.size()) continue;
-    const auto port =
-        Number(variable.substr(kPortVariable.size(), equals - kPortVariable.size()), 1, kLastPort);
+    const auto port = WholeNumber(
+        variable.substr(kPortVariable.size(), equals - kPortVariable.size()), 1, kLastPort);
     if (port) ports.emplace(*port, variable.substr(equals + 1));
   }
   return ports;

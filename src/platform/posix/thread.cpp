@@ -17,6 +17,8 @@ struct Thread::State {
   Event done;
   pthread_t thread{};
   std::uint32_t id = 0;
+
+  static void* Run(void* argument);
 };
 
 namespace {
@@ -46,34 +48,35 @@ void KeepLoaded() {
 
 }  // namespace
 
+void* Thread::State::Run(void* argument) {
+  const std::unique_ptr<std::shared_ptr<State>> owned(
+      static_cast<std::shared_ptr<State>*>(argument));
+  State& state = **owned;
+  CreateMessageQueue();
+  state.id = CurrentThreadId();
+  state.started.Set();
+  try {
+    state.body();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): it ends the thread and nothing else
+  }
+  state.body = nullptr;
+  state.done.Set();
+  return nullptr;
+}
+
 Thread::~Thread() {
   if (state_ && !WaitMs(0)) Abandon();
 }
 
 bool Thread::Start(std::function<void()> body) {
   if (state_ && !WaitMs(0)) return false;
-  using Shared = std::shared_ptr<State>;
-  const auto run = [](void* argument) -> void* {
-    const std::unique_ptr<Shared> owned(static_cast<Shared*>(argument));
-    State& state = **owned;
-    CreateMessageQueue();
-    state.id = CurrentThreadId();
-    state.started.Set();
-    try {
-      state.body();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): it ends the thread and nothing else
-    }
-    state.body = nullptr;
-    state.done.Set();
-    return nullptr;
-  };
   try {
     auto state = std::make_shared<State>();
     state->body = std::move(body);
-    auto argument = std::make_unique<Shared>(state);
+    auto argument = std::make_unique<std::shared_ptr<State>>(state);
     {
       const SignalsBlocked blocked;
-      if (pthread_create(&state->thread, nullptr, run, argument.get()) != 0) return false;
+      if (pthread_create(&state->thread, nullptr, State::Run, argument.get()) != 0) return false;
     }
     static_cast<void>(argument.release());
     state->started.WaitMs(UINT32_MAX);

@@ -1,0 +1,70 @@
+#include "platform/console.h"
+
+#include <mutex>
+
+#include "platform/win32/windows_api.h"
+
+namespace merovane::platform {
+namespace {
+
+struct Console {
+  std::mutex mutex;
+  bool allocated = false;
+  bool hidden = false;
+  UniqueHandle output;
+};
+
+Console& TheConsole() {
+  static Console console;
+  return console;
+}
+
+void Show(bool visible) {
+  if (HWND window = GetConsoleWindow()) ShowWindow(window, visible ? SW_SHOW : SW_HIDE);
+}
+
+void Release(Console& console) {
+  console.output.reset();
+  if (console.allocated) {
+    FreeConsole();
+  } else if (console.hidden) {
+    Show(true);
+  }
+  console.allocated = console.hidden = false;
+}
+
+}  // namespace
+
+void SetConsole(ConsoleState state) {
+  Console& console = TheConsole();
+  const std::lock_guard lock(console.mutex);
+  if (state == ConsoleState::Off) {
+    Release(console);
+    return;
+  }
+  // Fails when the process has one already.
+  if (AllocConsole()) console.allocated = true;
+  if (!console.output) {
+    console.output = FileHandle(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                                            FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                            OPEN_EXISTING, 0, nullptr));
+  }
+  console.hidden = state == ConsoleState::Hidden;
+  Show(!console.hidden);
+}
+
+void WriteConsole(std::string_view text) {
+  Console& console = TheConsole();
+  const std::lock_guard lock(console.mutex);
+  if (!console.output) return;
+  const std::wstring wide = WideFromNarrow(text);
+  DWORD written = 0;
+  WriteConsoleW(console.output.get(), wide.data(), static_cast<DWORD>(wide.size()), &written,
+                nullptr);
+}
+
+void ShowSystemMessageBox(const std::string& text, const std::string& caption) {
+  MessageBoxW(nullptr, WideFromNarrow(text).c_str(), WideFromNarrow(caption).c_str(), MB_OK);
+}
+
+}  // namespace merovane::platform

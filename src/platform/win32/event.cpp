@@ -1,0 +1,40 @@
+#include "platform/event.h"
+
+#include <new>
+
+#include "platform/win32/windows_api.h"
+
+namespace merovane::platform {
+
+// The system's own event: no lock of ours stays held when process exit kills the thread that waits.
+struct Event::Wait {
+  UniqueHandle handle{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
+};
+
+Event::Event() : wait_(std::make_unique<Wait>()) {
+  if (!wait_->handle) throw std::bad_alloc();
+}
+Event::~Event() = default;
+
+void Event::Set() { SetEvent(wait_->handle.get()); }
+
+void Event::Reset() { ResetEvent(wait_->handle.get()); }
+
+bool Event::IsSet() const { return WaitForSingleObject(wait_->handle.get(), 0) == WAIT_OBJECT_0; }
+
+bool Event::WaitMs(std::uint32_t ms) {
+  static_assert(INFINITE == UINT32_MAX);
+  return WaitForSingleObject(wait_->handle.get(), ms) == WAIT_OBJECT_0;
+}
+
+bool CallerEvent::IsNull() const { return handle_ == 0; }
+
+void CallerEvent::Set() const {
+  if (!IsNull()) SetEvent(reinterpret_cast<HANDLE>(handle_));
+}
+
+void CallerEvent::Reset() const {
+  if (!IsNull()) ResetEvent(reinterpret_cast<HANDLE>(handle_));
+}
+
+}  // namespace merovane::platform
