@@ -79,7 +79,7 @@ class Api:
             call = f"commands::{name}({', '.join(['phone'] + names)})"
         else:
             call = f"nvproject::{name}({', '.join(['phone.project.get()'] + names)})"
-        closure = "[&](Phone& phone) { return " + call + "; }"
+        closure = "[&](auto& phone) { return " + call + "; }"
         export("", f"api::OnDefaultPhone({closure})", arguments, documentation, "decorated" in flags)
         if not {"plain", "decorated"} & flags:
             export("_MT", f"api::OnPhone(port, {closure})", [("int32_t ", "port")] + arguments,

@@ -1,0 +1,55 @@
+// Gives every item its place: members in their top-level item, top-level items in the image.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "nvproject/item_store.h"
+
+namespace merovane::nvproject {
+
+// The image begins with its time stamp; in the alternative form the DSP code comes between.
+inline constexpr std::uint32_t kImageStart = 4;
+inline constexpr std::uint32_t kAlternativeImageStart = 49160;
+
+struct TopLevelItem {
+  std::uint32_t item = kNoItem;
+  std::uint32_t module = 0;
+  std::uint32_t offset = 0;  // of its data in the image
+  std::uint32_t length = 0;  // of its data
+};
+
+class Layout {
+ public:
+  // Lays all items out, from `start` on. Offsets and lengths in the store are overwritten. A structure's alignment starts from
+  // the last run's, so a run counts as done only when another one would change nothing.
+  void Run(ItemStore& items, std::uint32_t start);
+
+  // Those that the last run found, in image order.
+  std::span<const TopLevelItem> TopLevel() const { return topLevel_; }
+
+ private:
+  struct OpenStructure {
+    std::uint32_t position;  // in the module
+    std::uint32_t alignment;
+  };
+
+  struct Placed {
+    std::uint32_t next;    // the position behind the last member
+    std::uint32_t length;  // of the data
+  };
+
+  // Each lays out the item at the position and all that belongs to it.
+  Placed PlaceStructure(ItemStore& items, const ItemStore::Module& module,
+                        std::uint32_t position);
+  Placed PlaceArray(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
+
+  std::vector<TopLevelItem> topLevel_;
+  std::vector<OpenStructure> open_;
+  std::optional<std::uint64_t> settledRevision_;
+  std::uint32_t settledStart_ = 0;
+};
+
+}  // namespace merovane::nvproject

@@ -1,0 +1,19 @@
+// The text of project and module files, with "\n" line ends.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "nvproject/item.h"
+
+namespace merovane::nvproject {
+
+// The file of a new project. It names no module and is not one that can be read back.
+std::string NewProjectText(const ProjectRecord& project);
+
+// The file that projects are read from.
+std::string ProjectText(const ProjectRecord& project, std::span<const ModuleRecord> modules);
+
+std::string ModuleText(const ModuleRecord& module, std::span<const Item> items);
+
+}  // namespace merovane::nvproject

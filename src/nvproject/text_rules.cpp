@@ -1,0 +1,96 @@
+#include "nvproject/text_rules.h"
+
+#include <cstring>
+
+namespace merovane::nvproject {
+namespace {
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+constexpr char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
+
+// The digit's value, or a value that no base has.
+constexpr unsigned DigitValue(char c) {
+  if (IsDigit(c)) return static_cast<unsigned>(c - '0');
+  c = Fold(c);
+  return c >= 'a' && c <= 'f' ? static_cast<unsigned>(c - 'a') + 10 : 255;
+}
+
+// Takes a sign off the text; true for a minus.
+bool TakeSign(std::string_view& text) {
+  if (text.empty() || (text.front() != '-' && text.front() != '+')) return false;
+  const bool negative = text.front() == '-';
+  text.remove_prefix(1);
+  return negative;
+}
+
+}  // namespace
+
+std::optional<std::uint32_t> ScanDecimal(std::string_view text) {
+  text = SkipSpace(text);
+  const bool negative = TakeSign(text);
+  if (text.empty() || !IsDigit(text.front())) return std::nullopt;
+  std::uint32_t value = 0;
+  for (const char c : text) {
+    if (!IsDigit(c)) break;
+    value = value * 10 + static_cast<std::uint32_t>(c - '0');
+  }
+  return negative ? 0 - value : value;
+}
+
+std::uint64_t ParseNumber(std::string_view text, unsigned base) {
+  text = SkipSpace(text);
+  const bool negative = TakeSign(text);
+  if (base == 16 && text.size() > 1 && text[0] == '0' && Fold(text[1]) == 'x') {
+    text.remove_prefix(2);
+  }
+  std::uint64_t value = 0;
+  for (const char c : text) {
+    const unsigned digit = DigitValue(c);
+    if (digit >= base) break;
+    value = value * base + digit;
+  }
+  return negative ? 0 - value : value;
+}
+
+std::uint64_t ContentValue(std::string_view content) {
+  const bool hexadecimal = content.find_first_of("xX") != std::string_view::npos;
+  return ParseNumber(content, hexadecimal ? 16 : 10);
+}
+
+bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
+  if (a.size() != b.size()) return false;
+  if (std::memcmp(a.data(), b.data(), a.size()) == 0) return true;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    if (Fold(a[i]) != Fold(b[i])) return false;
+  }
+  return true;
+}
+
+std::uint32_t CaselessHash(std::string_view text) {
+  // Setting bit 5 makes letters of both cases one; that some other characters meet too costs a
+  // comparison at most.
+  constexpr std::uint64_t kCaseBits = 0x2020202020202020;
+  constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
+  std::uint64_t hash = text.size() * kMultiplier;
+  const char* at = text.data();
+  std::size_t left = text.size();
+  const auto mix = [&hash](std::uint64_t word) {
+    hash = (hash ^ (word | kCaseBits)) * kMultiplier;
+    hash ^= hash >> 32;
+  };
+  for (; left >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
+    std::uint64_t word;
+    std::memcpy(&word, at, sizeof(word));
+    mix(word);
+    left -= sizeof(word);
+  }
+  if (left > 0) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, at, left);
+    mix(word);
+  }
+  return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+}
+
+}  // namespace merovane::nvproject
