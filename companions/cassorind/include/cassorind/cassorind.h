@@ -29,20 +29,22 @@ struct CassorindOpenParameters {
 // versions of this library expect them; none may be added before the last.
 class CassorindChannel {
  public:
-  // Enabled (non-zero): from the next open on, received data is not kept for Read but posted
-  // to thread `threadId` as messages `messageId` whose first parameter is a
-  // chunk's address and whose second is its length in bytes. Zero ends that.
-  // May be called before or after Open. Returns non-zero on success.
+  // Enabled (non-zero): received data is no longer kept for Read but posted to thread
+  // `threadId` as messages `messageId` whose first parameter is a chunk's address and
+  // whose second is its length in bytes. Zero ends that. Takes effect at once on an open
+  // channel, else with the next open. Returns non-zero on success. While the thread's
+  // queue is full, or the thread has none, the channel waits and nothing is lost.
   //
   // The channel owns every chunk: the receiver reads it and never frees it. A
   // chunk stays as it is until 128 KiB more have been posted or the channel is
   // released, whichever comes first.
   virtual std::int32_t SetReceiver(std::uint32_t messageId, std::int32_t enabled,
                                    std::uint32_t threadId) = 0;
-  // Non-zero on success. Opening an open channel fails.
+  // Non-zero on success. Fails when the channel is open already, when another one
+  // has the device, and for rates above 4,000,000 baud.
   virtual std::int32_t Open(const CassorindOpenParameters* parameters) = 0;
   // Non-zero when the channel was open. Ends posting before it returns; a Read
-  // or Write that runs on another thread returns at once.
+  // or Write that runs on another thread returns at once. Chunks stay readable.
   virtual std::int32_t Close() = 0;
   // Purges input that was received and not yet read, in the system and here. Non-zero on success.
   virtual std::int32_t Clear() = 0;

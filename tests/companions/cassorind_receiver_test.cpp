@@ -1,0 +1,128 @@
+#include <gtest/gtest.h>
+
+#include <future>
+#include <string>
+#include <thread>
+
+#include "companions/cassorind_channel.h"
+#include "threadqueue/threadqueue.h"
+
+namespace peers {
+namespace {
+
+constexpr std::uint32_t kDataMessage = 1124;
+
+class CassorindReceiver : public AnyDevice {
+ protected:
+  void SetUp() override {
+    AnyDevice::SetUp();
+    THREADQUEUE_MESSAGE message{};
+    while (threadqueue_take(&message, 0)) {
+    }
+  }
+
+  // Takes chunks until `bytes` bytes are there.
+  static std::string TakeChunks(std::size_t bytes) {
+    std::string data;
+    THREADQUEUE_MESSAGE message{};
+    while (data.size() < bytes && threadqueue_take(&message, kPatience)) {
+      EXPECT_EQ(message.id, kDataMessage);
+      data.append(reinterpret_cast<const char*>(message.first),
+                  static_cast<std::size_t>(message.second));
+    }
+    return data;
+  }
+
+  const std::uint32_t self = threadqueue_current_thread();
+};
+
+TEST_P(CassorindReceiver, GetsEverythingInOrder) {
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  Open();
+  // Chunks are promised for 128 KiB, so no more may be under way; eight rounds pass the end of
+  // their memory.
+  for (int round = 0; round < 8; ++round) {
+    const std::string data = EveryByteValue(100'000);
+    std::thread sender([&] { peer->Send(data); });
+    EXPECT_TRUE(SameBytes(TakeChunks(data.size()), data));
+    sender.join();
+  }
+  char buffer[8];
+  EXPECT_EQ(channel->Read(buffer, 8, 10, 0), 0);
+}
+
+TEST_P(CassorindReceiver, TakesOverFromReadsAndBack) {
+  Open();
+  peer->Send("a");
+  EXPECT_EQ(ReadAll(*channel, 1), "a");
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  peer->Send("b");
+  EXPECT_EQ(TakeChunks(1), "b");
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 0, self), 0);
+  peer->Send("c");
+  EXPECT_EQ(ReadAll(*channel, 1), "c");
+  THREADQUEUE_MESSAGE message{};
+  EXPECT_EQ(threadqueue_take(&message, 0), 0);
+}
+
+TEST_P(CassorindReceiver, ChunksOutliveTheClose) {
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  Open();
+  peer->Send("kept");
+  THREADQUEUE_MESSAGE message{};
+  ASSERT_EQ(threadqueue_take(&message, kPatience), 1);
+  EXPECT_NE(channel->Close(), 0);
+  const std::string_view chunk(reinterpret_cast<const char*>(message.first),
+                               static_cast<std::size_t>(message.second));
+  EXPECT_TRUE(std::string_view("kept").starts_with(chunk));
+}
+
+TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
+  while (threadqueue_post(self, 1, 0, 0)) {
+  }
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  Open();
+  const std::string data = EveryByteValue(3000);
+  peer->Send(data);
+  THREADQUEUE_MESSAGE message{};
+  for (int i = 0; i < 10000; ++i) ASSERT_EQ(threadqueue_take_range(&message, 1, 1), 1);
+  EXPECT_TRUE(SameBytes(TakeChunks(data.size()), data));
+}
+
+TEST_P(CassorindReceiver, CloseEndsPostingToAQueueThatStaysFull) {
+  while (threadqueue_post(self, 1, 0, 0)) {
+  }
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  Open();
+  peer->Send("never taken");
+  EXPECT_NE(channel->Close(), 0);
+  THREADQUEUE_MESSAGE message{};
+  while (threadqueue_take(&message, 0)) EXPECT_EQ(message.id, 1u);
+}
+
+TEST_P(CassorindReceiver, AVanishedDeviceIsToldToReadsAndWrites) {
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  Open();
+  std::thread vanisher([&] { peer->Vanish(); });
+  char buffer[8];
+  EXPECT_EQ(channel->Read(buffer, 8, kPatience, 0), -1);
+  EXPECT_LT(channel->Write("gone", 4, 0), 4);
+  vanisher.join();
+}
+
+TEST_P(CassorindReceiver, CanBeOpenedAgain) {
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+  for (int i = 0; i < 20; ++i) {
+    Open();
+    peer->Send("again");
+    EXPECT_EQ(TakeChunks(5), "again");
+    EXPECT_NE(channel->Close(), 0);
+    if (GetParam() == std::string_view("tcp")) peer->Vanish();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Devices, CassorindReceiver, ::testing::Values("pty", "tcp"),
+                         [](const auto& each) { return std::string(each.param); });
+
+}  // namespace
+}  // namespace peers
