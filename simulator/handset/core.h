@@ -1,0 +1,124 @@
+#pragma once
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <asio/steady_timer.hpp>
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "handset/faults.h"
+#include "handset/firmware.h"
+#include "handset/handset.h"
+#include "handset/journal.h"
+#include "handset/outbox.h"
+#include "handset/reply.h"
+#include "transport/transport.h"
+
+namespace handset {
+
+// Joins the port, the modules, the faults and the scripts; everything runs on one thread.
+class Core final : public Firmware {
+ public:
+  explicit Core(HandsetOptions options);
+  ~Core();
+
+  void Start();
+  void Run();
+  void Stop();
+  // On the handset's thread, waiting for it; directly when it does not run or is the caller.
+  void Invoke(const std::function<void()>& function);
+
+  const std::string& Address() const { return address_; }
+  HandsetState State() const;
+  bool WaitForState(const std::function<bool(const HandsetState&)>& predicate,
+                    milliseconds timeout) const;
+  StatusMap Status() const;
+  Journal& Heard() { return journal_; }
+  Faults& FaultRules() { return faults_; }
+
+  void Script(uint8_t type, uint8_t subtype, ReplyMaker maker, bool once);
+  void EditAnswers(Handset::AnswerEditor editor) { editor_ = std::move(editor); }
+  void ClearScripts();
+  void Play(const Reply& reply);
+  void VanishPort(std::optional<milliseconds> absence);
+  void PlugPort();
+  void CutConnection();
+
+  // Firmware
+  const HandsetOptions& Options() const override { return options_; }
+  Storage& Flash() override { return flash_; }
+  Random& Noise() override { return noise_; }
+  using Firmware::Answer;
+  void Answer(uint8_t type, uint8_t subtype, Bytes payload) override;
+  void Refuse(const Frame& request) override;
+  void Report(uint8_t type, uint8_t subtype, Bytes payload) override;
+  void After(milliseconds delay, std::function<void()> task) override;
+  Power PowerState() const override { return power_; }
+  uint8_t Mode() const override { return mode_; }
+  void EnterMode(uint8_t mode) override;
+  void Sleep() override { SetPower(Power::Asleep); }
+  void Restart(std::optional<uint8_t> mode) override;
+  void Note(const std::string& line) override;
+
+ private:
+  using Key = std::pair<uint8_t, uint8_t>;
+
+  void SetUp();
+  void PowerUp(std::optional<uint8_t> mode);
+  void SetPower(Power power);
+  void Publish();
+  void Hear(Frame frame);
+  void Carry(const Frame& frame);
+  std::optional<Reply> ScriptedReply(const Frame& frame);
+  void Send(const Frame& frame, milliseconds delay, bool unsolicited);
+  void SaveFlash();
+  void RestartWhenDrained(std::optional<uint8_t> mode, std::chrono::steady_clock::time_point limit);
+  void AppearAfter(milliseconds delay, std::function<void()> then);
+  // A timer of the port's or the restart's own: After's tasks end with a restart.
+  void Later(std::chrono::steady_clock::duration delay, std::function<void()> task);
+  std::chrono::steady_clock::duration Scaled(milliseconds delay) const;
+
+  asio::io_context io_;
+  HandsetOptions options_;
+  Storage flash_;
+  Random noise_;
+  Faults faults_;
+  Journal journal_;
+  Registry registry_;
+  std::vector<std::unique_ptr<Module>> modules_;
+  std::unique_ptr<Transport> transport_;
+  FrameDecoder decoder_;
+  Outbox outbox_;
+  std::string address_;
+  std::chrono::steady_clock::time_point started_;
+
+  std::map<Key, std::deque<ReplyMaker>> once_;
+  std::map<Key, ReplyMaker> always_;
+  Handset::AnswerEditor editor_;
+  Frame request_;  // the last one carried out
+
+  Power power_ = Power::Off;
+  uint8_t mode_ = 0;
+  bool portPresent_ = false;
+  unsigned boot_ = 0;        // counts power-ups and -downs: a task of an earlier one is void
+  unsigned portChange_ = 0;  // the same for the port's coming and going
+
+  mutable std::mutex stateMutex_;
+  mutable std::condition_variable stateChanged_;
+  HandsetState state_;
+
+  std::mutex lifecycle_;
+  bool running_ = false;
+  std::atomic<std::thread::id> ownThread_{};
+  std::thread thread_;
+};
+
+}  // namespace handset

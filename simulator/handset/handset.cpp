@@ -1,0 +1,154 @@
+#include "handset/handset.h"
+
+#include <stdexcept>
+#include <utility>
+
+#include "handset/core.h"
+
+namespace handset {
+namespace {
+
+constexpr uint8_t kAssertType = 0xFF;
+constexpr uint8_t kLastAssertKind = 2;
+
+ReplyMaker Always(Reply reply) {
+  return [reply = std::move(reply)](const Frame&) { return reply; };
+}
+
+}  // namespace
+
+Handset::Handset(HandsetOptions options) : core_(std::make_unique<Core>(std::move(options))) {}
+Handset::~Handset() = default;
+
+template <typename Function>
+auto Handset::OnOwnThread(Function function) const {
+  if constexpr (std::is_void_v<decltype(function())>) {
+    core_->Invoke(function);
+  } else {
+    decltype(function()) result{};
+    core_->Invoke([&] { result = function(); });
+    return result;
+  }
+}
+
+void Handset::Start() { core_->Start(); }
+void Handset::Run() { core_->Run(); }
+void Handset::Stop() { core_->Stop(); }
+
+std::string Handset::DevicePath() const {
+  bool tcp = core_->Options().transport == TransportKind::Tcp;
+  return (tcp ? "socket://" : "") + core_->Address();
+}
+
+std::string Handset::Address() const { return core_->Address(); }
+
+HandsetState Handset::State() const {
+  // Behind whatever the handset is doing at the moment.
+  return OnOwnThread([&] { return core_->State(); });
+}
+
+bool Handset::WaitForState(const std::function<bool(const HandsetState&)>& predicate,
+                           std::chrono::milliseconds timeout) const {
+  return core_->WaitForState(predicate, timeout);
+}
+
+StatusMap Handset::Status() const {
+  return OnOwnThread([&] { return core_->Status(); });
+}
+
+std::string Handset::Status(const std::string& name) const {
+  StatusMap status = Status();
+  auto found = status.find(name);
+  return found == status.end() ? "" : found->second;
+}
+
+Bytes Handset::Stored(const std::string& name) const {
+  return OnOwnThread([&] {
+    const Bytes* item = core_->Flash().Find(name);
+    return item != nullptr ? *item : Bytes();
+  });
+}
+
+void Handset::Store(const std::string& name, Bytes bytes) {
+  OnOwnThread([&] {
+    core_->Flash().Put(name, std::move(bytes));
+    core_->Flash().Save();
+  });
+}
+
+std::optional<Frame> Handset::NextFrame(uint8_t type, uint8_t subtype,
+                                        std::chrono::milliseconds timeout) {
+  return core_->Heard().Next(type, subtype, timeout);
+}
+
+std::vector<Frame> Handset::Received() const { return core_->Heard().Frames(); }
+
+size_t Handset::ReceivedCount(uint8_t type, uint8_t subtype) const {
+  return core_->Heard().Count(type, subtype);
+}
+
+std::vector<std::string> Handset::Rejected() const { return core_->Heard().Rejects(); }
+void Handset::ClearJournal() { core_->Heard().Clear(); }
+
+void Handset::ExpectOnce(uint8_t type, uint8_t subtype, Reply reply) {
+  ExpectOnce(type, subtype, Always(std::move(reply)));
+}
+
+void Handset::ExpectOnce(uint8_t type, uint8_t subtype, ReplyMaker maker) {
+  OnOwnThread([&] { core_->Script(type, subtype, std::move(maker), true); });
+}
+
+void Handset::OnFrame(uint8_t type, uint8_t subtype, Reply reply) {
+  OnFrame(type, subtype, Always(std::move(reply)));
+}
+
+void Handset::OnFrame(uint8_t type, uint8_t subtype, ReplyMaker maker) {
+  OnOwnThread([&] { core_->Script(type, subtype, std::move(maker), false); });
+}
+
+void Handset::EditAnswers(AnswerEditor editor) {
+  OnOwnThread([&] { core_->EditAnswers(std::move(editor)); });
+}
+
+void Handset::ClearScripts() {
+  OnOwnThread([&] { core_->ClearScripts(); });
+}
+
+void Handset::SendFrame(uint8_t type, uint8_t subtype, Bytes payload) {
+  OnOwnThread([&] { core_->Play(Reply::Answer(type, subtype, std::move(payload))); });
+}
+
+void Handset::SendRaw(Bytes bytes, size_t pieceBytes, std::chrono::milliseconds gap) {
+  OnOwnThread([&] { core_->Play(Reply::Raw(std::move(bytes)).InPieces(pieceBytes, gap)); });
+}
+
+void Handset::SetFault(const std::string& text) {
+  OnOwnThread([&] { core_->FaultRules().Set(text); });
+}
+
+void Handset::Assert(uint8_t kind) {
+  if (kind > kLastAssertKind) throw std::invalid_argument("assert kinds are 0 to 2");
+  OnOwnThread([&] { core_->Report(kAssertType, kind, ToBytes("assert in layer1.c line 271")); });
+}
+
+void Handset::Restart() {
+  OnOwnThread([&] { core_->Restart(core_->Options().startMode); });
+}
+
+void Handset::VanishPort(std::chrono::milliseconds absence) {
+  OnOwnThread([&] { core_->VanishPort(absence); });
+}
+
+void Handset::UnplugPort() {
+  OnOwnThread([&] { core_->VanishPort({}); });
+}
+
+void Handset::PlugPort() {
+  OnOwnThread([&] { core_->PlugPort(); });
+}
+
+void Handset::Disconnect() {
+  OnOwnThread([&] { core_->CutConnection(); });
+}
+
+}  // namespace handset

@@ -1,0 +1,112 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "handset/firmware.h"
+#include "handset/options.h"
+#include "handset/reply.h"
+#include "handset/wire.h"
+
+namespace handset {
+
+class Core;
+
+struct HandsetState {
+  Power power = Power::Booting;
+  uint8_t mode = 0;
+  bool portPresent = false;
+  bool stationConnected = false;
+};
+
+// A simulated handset:
+//   Handset phone({.startMode = 1});
+//   phone.Start();
+//   setenv("CASSORIND_COM5", phone.DevicePath().c_str(), 1);
+// Everything but Start, Run and Stop may be called from any thread at any time, also from within
+// a scripted answer.
+class Handset {
+ public:
+  explicit Handset(HandsetOptions options);
+  Handset(const Handset&) = delete;
+  Handset& operator=(const Handset&) = delete;
+  ~Handset();
+
+  // Switches the handset on, on a thread of its own; the port is there when this returns. Throws
+  // std::runtime_error when it cannot be.
+  void Start();
+  // The same on the calling thread, until another one calls Stop.
+  void Run();
+  void Stop();
+
+  // What a station opens: a device path, or "socket://host:port". Stays the same when the port
+  // vanishes and comes back.
+  std::string DevicePath() const;
+  // The same as the program announces it: a device path, or "host:port".
+  std::string Address() const;
+
+  // --- looking at it
+  HandsetState State() const;
+  // Waits until the predicate holds; false when the time is up.
+  bool WaitForState(const std::function<bool(const HandsetState&)>& predicate,
+                    std::chrono::milliseconds timeout) const;
+  // Everything that it shows or knows of itself: "session.mode" to "2".
+  StatusMap Status() const;
+  std::string Status(const std::string& name) const;
+  // An item of its flash memory, empty when never written; and one put there from outside.
+  Bytes Stored(const std::string& name) const;
+  void Store(const std::string& name, Bytes bytes);
+
+  // --- what it heard
+  // The next frame of that kind, waiting for it; frames before it are passed over.
+  std::optional<Frame> NextFrame(uint8_t type, uint8_t subtype,
+                                 std::chrono::milliseconds timeout = std::chrono::seconds(10));
+  std::vector<Frame> Received() const;
+  size_t ReceivedCount(uint8_t type, uint8_t subtype) const;
+  // Why bytes between flags were no frame.
+  std::vector<std::string> Rejected() const;
+  void ClearJournal();
+
+  // --- putting words in its mouth
+  // For the next such frame only; several queue up.
+  void ExpectOnce(uint8_t type, uint8_t subtype, Reply reply);
+  void ExpectOnce(uint8_t type, uint8_t subtype, ReplyMaker maker);
+  // For every such frame; the maker runs on the handset's thread.
+  void OnFrame(uint8_t type, uint8_t subtype, Reply reply);
+  void OnFrame(uint8_t type, uint8_t subtype, ReplyMaker maker);
+  // Changes each answer before it leaves, to cut it short for instance.
+  using AnswerEditor = std::function<void(const Frame& request, Frame& answer)>;
+  void EditAnswers(AnswerEditor editor);
+  void ClearScripts();
+  // Unasked, and untouched by faults.
+  void SendFrame(uint8_t type, uint8_t subtype, Bytes payload = {});
+  void SendRaw(Bytes bytes, size_t pieceBytes = 0, std::chrono::milliseconds gap = {});
+
+  // --- making it misbehave
+  // "drop=0.1", "split=next:2,pieces:4,gap:10", "none"; see README.md. Throws
+  // std::invalid_argument.
+  void SetFault(const std::string& text);
+  // Reports an assert (kind 0 to 2).
+  void Assert(uint8_t kind);
+  // Off and on again, as the restart command does it; the port does what the options say.
+  void Restart();
+  // The port goes away, and comes back after that time.
+  void VanishPort(std::chrono::milliseconds absence);
+  // The port goes away, or comes back, until told otherwise.
+  void UnplugPort();
+  void PlugPort();
+  void Disconnect();
+
+ private:
+  template <typename Function>
+  auto OnOwnThread(Function function) const;
+
+  std::unique_ptr<Core> core_;
+};
+
+}  // namespace handset

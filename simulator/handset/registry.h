@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+#include "handset/wire.h"
+
+namespace handset {
+
+// Who answers which command. A type and subtype may have several handlers, which are all called
+// in the order in which they registered: some commands mean one thing to several parts of the
+// handset. A handler of a whole type hears the subtypes that nobody named.
+class Registry {
+ public:
+  using Handler = std::function<void(const Frame&)>;
+
+  void On(uint8_t type, uint8_t subtype, Handler handler) {
+    exact_[{type, subtype}].push_back(std::move(handler));
+  }
+  void OnType(uint8_t type, Handler handler) { wholeTypes_[type].push_back(std::move(handler)); }
+
+  // For commands whose answers carry another type than they do: a refusal goes by that type.
+  void SetAnswerType(uint8_t request, uint8_t answer) { answerTypes_[request] = answer; }
+  uint8_t AnswerType(uint8_t request) const {
+    auto found = answerTypes_.find(request);
+    return found == answerTypes_.end() ? request : found->second;
+  }
+
+  // Everything else is not heard before a start mode was chosen.
+  void AllowWhileBooting(uint8_t type) { whileBooting_.insert(type); }
+  bool AllowedWhileBooting(uint8_t type) const { return whileBooting_.contains(type); }
+
+  // False when nobody knows the command.
+  bool Dispatch(const Frame& frame) const {
+    auto exact = exact_.find({frame.type, frame.subtype});
+    if (exact != exact_.end()) return Call(exact->second, frame);
+    auto whole = wholeTypes_.find(frame.type);
+    return whole != wholeTypes_.end() && Call(whole->second, frame);
+  }
+
+ private:
+  static bool Call(const std::vector<Handler>& handlers, const Frame& frame) {
+    for (const Handler& handler : handlers) handler(frame);
+    return true;
+  }
+
+  std::map<std::pair<uint8_t, uint8_t>, std::vector<Handler>> exact_;
+  std::map<uint8_t, std::vector<Handler>> wholeTypes_;
+  std::map<uint8_t, uint8_t> answerTypes_;
+  std::set<uint8_t> whileBooting_;
+};
+
+}  // namespace handset

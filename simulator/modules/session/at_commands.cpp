@@ -1,0 +1,137 @@
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <string>
+#include <vector>
+
+#include "modules/session/session.h"
+
+namespace handset {
+namespace {
+
+constexpr uint8_t kCommandType = 104;
+constexpr uint8_t kAcknowledgeType = 213;
+constexpr uint8_t kAnswerType = 156;
+constexpr uint8_t kEndOfMessage = 0x1A;
+constexpr uint8_t kCancelMessage = 0x1B;
+constexpr size_t kPackedImeiBytes = 8;
+
+struct Answered {
+  std::string_view command;
+  std::string_view text;  // before the final OK
+};
+
+constexpr std::array kAnswers{
+    Answered{"AT", ""},
+    Answered{"ATE0", ""},
+    Answered{"ATE1", ""},
+    Answered{"ATZ", ""},
+    Answered{"ATI", "Simulated handset"},
+    Answered{"AT+CGMI", "Simulated"},
+    Answered{"AT+CGMM", "Handset"},
+    Answered{"AT+CFUN?", "+CFUN: 1"},
+    Answered{"AT+CPIN?", "+CPIN: READY"},
+    Answered{"AT+CSQ", "+CSQ: 23,0"},
+    Answered{"AT+CCED=0,1", "+CCED:460,0,6334,1021,62,48,-71,2"},
+};
+
+std::string Upper(std::string_view text) {
+  std::string upper(text);
+  std::transform(upper.begin(), upper.end(), upper.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
+  return upper;
+}
+
+// Fifteen digits: the first in the high nibble of the first byte, the others low nibble first.
+std::string ImeiText(const Bytes& packed) {
+  std::string digits;
+  auto put = [&](unsigned nibble) { digits += static_cast<char>('0' + std::min(nibble, 9u)); };
+  put(packed[0] >> 4);
+  for (size_t i = 1; i < kPackedImeiBytes; ++i) {
+    put(packed[i] & 0xF);
+    put(packed[i] >> 4);
+  }
+  return digits;
+}
+
+class AtModule final : public Module {
+ public:
+  explicit AtModule(Firmware& firmware) : firmware_(firmware) {}
+
+  std::string Name() const override { return "at"; }
+
+  void Register(Registry& registry) override {
+    registry.SetAnswerType(kCommandType, kAcknowledgeType);
+    registry.On(kCommandType, 0, [this](const Frame& frame) {
+      firmware_.Answer(kAcknowledgeType, 0, {});
+      if (awaitingMessage_) {
+        TakeMessage(frame.payload);
+      } else {
+        TakeCommand({frame.payload.begin(), frame.payload.end()});
+      }
+    });
+  }
+
+  void PowerOn() override { awaitingMessage_ = false; }
+
+  void Describe(StatusMap& status) const override {
+    status["messages_sent"] = std::to_string(messagesSent_);
+    status["prompt"] = awaitingMessage_ ? "open" : "closed";
+  }
+
+ private:
+  void TakeCommand(std::string command) {
+    command.erase(std::min(command.find_last_not_of("\r\n") + 1, command.size()));
+    std::string upper = Upper(command);
+    if (upper == "AT+CGSN") return Succeed(Imei());
+    if (upper.starts_with("AT+CMGS=")) {
+      awaitingMessage_ = true;
+      Say("\r\n> ");
+      return;
+    }
+    for (const Answered& known : kAnswers) {
+      if (upper == known.command) return Succeed(std::string(known.text));
+    }
+    Say("\r\nERROR\r\n");
+  }
+
+  // The text of a message may come in several frames, up to its end mark.
+  void TakeMessage(const Bytes& text) {
+    for (uint8_t byte : text) {
+      if (byte == kCancelMessage) {
+        awaitingMessage_ = false;
+        return Succeed("");
+      }
+      if (byte == kEndOfMessage) {
+        awaitingMessage_ = false;
+        return Succeed("+CMGS: " + std::to_string(++messagesSent_));
+      }
+    }
+  }
+
+  std::string Imei() const {
+    const Bytes* block = firmware_.Flash().Find("fixed-nv");
+    return block != nullptr && block->size() >= kPackedImeiBytes ? ImeiText(*block)
+                                                                 : std::string(15, '0');
+  }
+
+  // Every line is a frame of its own, as the handset's AT task writes them.
+  void Succeed(const std::string& line) {
+    if (!line.empty()) Say("\r\n" + line + "\r\n");
+    Say("\r\nOK\r\n");
+  }
+
+  void Say(const std::string& text) { firmware_.Answer(kAnswerType, 0, ToBytes(text)); }
+
+  Firmware& firmware_;
+  bool awaitingMessage_ = false;
+  unsigned messagesSent_ = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Module> MakeAtModule(Firmware& firmware) {
+  return std::make_unique<AtModule>(firmware);
+}
+
+}  // namespace handset

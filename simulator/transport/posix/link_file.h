@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+
+namespace handset {
+
+// A symbolic link with a fixed name for a device whose own name changes. Without a name it
+// stands in a temporary folder of its own.
+class LinkFile {
+ public:
+  explicit LinkFile(std::filesystem::path path);
+  LinkFile(const LinkFile&) = delete;
+  LinkFile& operator=(const LinkFile&) = delete;
+  ~LinkFile();
+
+  // Replaces what an earlier handset left; never anything but a symbolic link.
+  void PointTo(const std::filesystem::path& target);
+  void Remove();
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+  std::filesystem::path ownFolder_;
+};
+
+}  // namespace handset
