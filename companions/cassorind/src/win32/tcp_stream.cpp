@@ -1,0 +1,164 @@
+#include <winsock2.h>
+#include <ws2tcpip.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <mutex>
+#include <utility>
+
+#include "byte_stream.h"
+#include "win32/overlapped_transfer.h"
+
+namespace cassorind {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+using Outcome = OverlappedTransfer::Outcome;
+
+class Winsock {
+ public:
+  Winsock() {
+    WSADATA data;
+    started_ = ::WSAStartup(MAKEWORD(2, 2), &data) == 0;
+  }
+  Winsock(const Winsock&) = delete;
+  Winsock& operator=(const Winsock&) = delete;
+  ~Winsock() {
+    if (started_) ::WSACleanup();
+  }
+  bool Started() const { return started_; }
+
+ private:
+  bool started_;
+};
+
+class Socket {
+ public:
+  explicit Socket(SOCKET value) : value_(value) {}
+  Socket(Socket&& other) noexcept : value_(std::exchange(other.value_, INVALID_SOCKET)) {}
+  Socket& operator=(Socket&&) = delete;
+  ~Socket() {
+    if (IsValid()) ::closesocket(value_);
+  }
+  SOCKET Get() const { return value_; }
+  bool IsValid() const { return value_ != INVALID_SOCKET; }
+
+ private:
+  SOCKET value_;
+};
+
+bool IsReadable(SOCKET socket) {
+  fd_set readable;
+  FD_ZERO(&readable);
+  FD_SET(socket, &readable);
+  timeval now{};
+  return ::select(0, &readable, nullptr, nullptr, &now) > 0;
+}
+
+u_long WaitingBytes(SOCKET socket) {
+  u_long waiting = 0;
+  return ::ioctlsocket(socket, FIONREAD, &waiting) == 0 ? waiting : 0;
+}
+
+class TcpStream final : public ByteStream {
+ public:
+  explicit TcpStream(Socket socket) : socket_(std::move(socket)) {}
+
+  std::int32_t Read(std::span<std::byte> buffer, std::uint32_t timeLimitMs,
+                    const companions::StopSignal& stop) override {
+    std::lock_guard lock(readMutex_);
+    const auto result = reading_.Read(Handle(), buffer, timeLimitMs, stop);
+    if (result.bytes > 0) return static_cast<std::int32_t>(result.bytes);
+    const bool waited = result.outcome == Outcome::TimeLimit || result.outcome == Outcome::Stopped;
+    return waited ? 0 : kDeviceGone;
+  }
+
+  std::size_t Write(std::span<const std::byte> data, const companions::StopSignal& stop) override {
+    std::size_t written = 0;
+    while (written < data.size() && !stop.IsSet()) {
+      // The system would take bytes for a peer that has gone and tell of it only later.
+      if (IsReadable(socket_.Get()) && WaitingBytes(socket_.Get()) == 0) break;
+      const auto piece = data.subspan(written, std::min(kPiece, data.size() - written));
+      const auto result = writing_.Write(Handle(), piece, kWriteStallMs, stop);
+      written += result.bytes;
+      if (result.outcome != Outcome::Done || result.bytes == 0) break;
+    }
+    return written;
+  }
+
+  bool Clear() override {
+    std::array<char, 4096> dropped;
+    for (u_long waiting; (waiting = WaitingBytes(socket_.Get())) > 0;) {
+      const auto piece = static_cast<int>(std::min<u_long>(waiting, dropped.size()));
+      if (::recv(socket_.Get(), dropped.data(), piece, 0) <= 0) return false;
+    }
+    return true;
+  }
+
+ private:
+  static constexpr std::size_t kPiece = 64 * 1024;
+
+  HANDLE Handle() const { return reinterpret_cast<HANDLE>(socket_.Get()); }
+
+  const Winsock winsock_;
+  const Socket socket_;
+  std::mutex readMutex_;
+  OverlappedTransfer reading_;
+  OverlappedTransfer writing_;
+};
+
+// True when the connection stands before `deadline`.
+bool Connect(SOCKET socket, const addrinfo& address, Clock::time_point deadline) {
+  u_long nonBlocking = 1;
+  ::ioctlsocket(socket, FIONBIO, &nonBlocking);
+  if (::connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) != 0) {
+    if (::WSAGetLastError() != WSAEWOULDBLOCK) return false;
+    const auto left = std::max<std::int64_t>(
+        std::chrono::duration_cast<std::chrono::microseconds>(deadline - Clock::now()).count(), 0);
+    timeval limit{static_cast<long>(left / 1'000'000), static_cast<long>(left % 1'000'000)};
+    fd_set connected;
+    fd_set failed;
+    FD_ZERO(&connected);
+    FD_ZERO(&failed);
+    FD_SET(socket, &connected);
+    FD_SET(socket, &failed);
+    if (::select(0, nullptr, &connected, &failed, &limit) <= 0 || !FD_ISSET(socket, &connected)) {
+      return false;
+    }
+  }
+  nonBlocking = 0;
+  ::ioctlsocket(socket, FIONBIO, &nonBlocking);
+  return true;
+}
+
+struct FreeAddresses {
+  void operator()(addrinfo* addresses) const { ::freeaddrinfo(addresses); }
+};
+
+}  // namespace
+
+std::unique_ptr<ByteStream> OpenTcp(const TcpAddress& address) {
+  const auto deadline = Clock::now() + std::chrono::milliseconds(kConnectLimitMs);
+  const Winsock winsock;
+  if (!winsock.Started()) return nullptr;
+  addrinfo hints{};
+  hints.ai_socktype = SOCK_STREAM;
+  addrinfo* found = nullptr;
+  if (::getaddrinfo(address.host.c_str(), address.service.c_str(), &hints, &found) != 0) {
+    return nullptr;
+  }
+  const std::unique_ptr<addrinfo, FreeAddresses> addresses(found);
+  for (const addrinfo* each = found; each; each = each->ai_next) {
+    Socket socket(
+        ::WSASocketW(each->ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED));
+    if (!socket.IsValid() || !Connect(socket.Get(), *each, deadline)) continue;
+    const char on = 1;
+    ::setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    return std::make_unique<TcpStream>(std::move(socket));
+  }
+  return nullptr;
+}
+
+}  // namespace cassorind
