@@ -9,10 +9,10 @@
 
 namespace merovane::nvproject {
 
-// Reverses the bytes of each value in `data`, which begins with the item of that path (letter case counts). The items are laid out.
-// Starting at a structure or an array counts as one byte for the structure itself, so data converted right begins at a
-// scalar. A value that does not fit into the block whole is left as it is, and all behind it. An
-// unknown path changes nothing.
+// Reverses the bytes of each value in `data`, which begins with the item of that path (letter case
+// counts). The items are laid out. Starting at a structure or an array counts as one byte for the
+// structure itself, so data converted right begins at a scalar. A value that does not fit into the
+// block whole is left as it is, and all behind it. An unknown path changes nothing.
 void ConvertBlock(ItemStore& items, std::string_view path, std::span<std::uint8_t> data);
 
 }  // namespace merovane::nvproject

@@ -54,15 +54,81 @@ inline constexpr std::array kBandArrays = {
 // A band's gain index, always read as hexadecimal.
 inline constexpr std::string_view kMaxGainIndex = "max_rf_gain_index";
 
-// The structures that the parameters without a band are in. A project spells the AFC structure's
-// name in one of two ways.
-enum class Root { Calibration, RfCommon, AfcAreo, AfcAero, Charging };
+// The structures that the parameters without a band are in.
+enum class Root { Calibration, RfCommon, AfcStructure, Charging };
 
-inline constexpr std::array<std::string_view, 5> kRoots = {
-    "calibration_param_T.",
+inline constexpr std::array<std::string_view, 4> kRoots = {
+    "calibration_param_T.", "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.",
     "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.",
-    "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.areo2_RF_AFC_STRUCT.",
-    "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.aero2_RF_AFC_STRUCT.",
     "production_param_T.CHR_PARAM_T."};
+
+// Projects spell the AFC structure's name in one of two ways; this item tells the first of them.
+inline constexpr std::string_view kAfcStructureAreo = "areo2_RF_AFC_STRUCT.";
+inline constexpr std::string_view kAfcStructureAero = "aero2_RF_AFC_STRUCT.";
+inline constexpr std::string_view kAreoProbe =
+    "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.areo2_RF_AFC_STRUCT."
+    "slope_length";
+
+enum class CommonArray { AfcRange, SlopeValue, SlopeReciprocal, AdcVoltage };
+
+struct CommonArrayParameter {
+  Root root;
+  ArrayParameter array;
+};
+
+inline constexpr std::array kCommonArrays = {
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.afc_range_arr", 16}},
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.slope_value_arr", 16}},
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.slope_value_reciprocal_arr", 16}},
+    CommonArrayParameter{Root::Charging, {"adc_voltage_table", 16}},
+};
+
+enum class CommonValue {
+  CalParamVersion,
+  AfcCenter,
+  AfcSlope,
+  SlopeLength,
+  Cdac,
+  Cafc,
+  Adc0,
+  Adc1,
+  Battery0,
+  Battery1,
+  ChargeEndVoltage,
+  PulseChargeVoltage,
+  RechargeVoltage,
+  SwitchVoltage,
+  VoltageShutdown,
+  VoltageWarning,
+};
+
+enum class Reading { ByPrefix, AlwaysHexadecimal };
+
+struct ValueParameter {
+  Root root;
+  std::string_view path;
+  HexForm form = HexForm::UpperUpper;
+  Reading reading = Reading::ByPrefix;
+};
+
+inline constexpr std::array kCommonValues = {
+    ValueParameter{Root::Calibration, "cal_param_version", HexForm::UpperUpper,
+                   Reading::AlwaysHexadecimal},
+    ValueParameter{Root::RfCommon, "afc_center", HexForm::LowerLower},
+    ValueParameter{Root::RfCommon, "afc_slope_hz_per_6bits", HexForm::LowerLower},
+    ValueParameter{Root::AfcStructure, "slope_length"},
+    ValueParameter{Root::AfcStructure, "CDAC"},
+    ValueParameter{Root::AfcStructure, "CAFC"},
+    ValueParameter{Root::Calibration, "adc.adc[0]"},
+    ValueParameter{Root::Calibration, "adc.adc[1]"},
+    ValueParameter{Root::Calibration, "adc.battery[0]"},
+    ValueParameter{Root::Calibration, "adc.battery[1]"},
+    ValueParameter{Root::Charging, "charge_end_voltage"},
+    ValueParameter{Root::Charging, "pulse_charge_voltage"},
+    ValueParameter{Root::Charging, "recharge_voltage"},
+    ValueParameter{Root::Charging, "switch_voltage"},
+    ValueParameter{Root::Charging, "voltage_shutdown"},
+    ValueParameter{Root::Charging, "voltage_warning"},
+};
 
 }  // namespace merovane::nvproject

@@ -12,8 +12,7 @@ bool Contains(std::string_view text, std::string_view part) {
 
 // Elements of these names are members by their whole name, even under an array.
 bool KeepsWholeName(std::string_view name, std::size_t bracket) {
-  if (bracket != std::string_view::npos &&
-      (Contains(name, "adc[") || Contains(name, "battery["))) {
+  if (bracket != std::string_view::npos && (Contains(name, "adc[") || Contains(name, "battery["))) {
     return true;
   }
   return Contains(name, "RF_ramp_up_table_stage") || Contains(name, "RF_ramp_down_table_stage");

@@ -11,8 +11,8 @@ namespace merovane::nvproject {
 // Builds paths in a buffer of its own.
 class FullPathBuilder {
  public:
-  // The path of an item that has a parent; `parent` is null when no item of that index is known, and the path
-  // then starts empty. Cut to what a path holds; valid until the next call.
+  // The path of an item that has a parent; `parent` is null when no item of that index is known,
+  // and the path then starts empty. Cut to what a path holds; valid until the next call.
   std::string_view Build(const Item* parent, std::string_view name);
 
  private:

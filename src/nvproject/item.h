@@ -65,9 +65,10 @@ inline constexpr std::uint32_t kNoItem = 0xFFFFFFFF;
 
 // The texts but the content live in the store's arena: they never change.
 struct Item {
-  std::uint32_t offset = 0;  // the layout's: place in its top-level item, or a structure's alignment
-  std::int32_t index = 0;    // where the item is stored when it is written back
-  std::int32_t parent = 0;   // the parent's index
+  std::uint32_t offset =
+      0;                    // the layout's: place in its top-level item, or a structure's alignment
+  std::int32_t index = 0;   // where the item is stored when it is written back
+  std::int32_t parent = 0;  // the parent's index
   std::uint32_t id = 0;
   ItemType type = ItemType::None;
   std::uint32_t size = 0;  // elements of an array

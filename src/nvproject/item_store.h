@@ -19,9 +19,10 @@ struct ContentChanges {
   std::vector<std::uint32_t> items;  // may name an item twice
 };
 
-// Items are named by their position among all items of all modules. An item that changes is stored at the
-// position, in its module, that its own index names: when that is another item's position, that
-// item is replaced and the changed one stays as it was; when there is no such position, nothing is stored.
+// Items are named by their position among all items of all modules. An item that changes is stored
+// at the position, in its module, that its own index names: when that is another item's position,
+// that item is replaced and the changed one stays as it was; when there is no such position,
+// nothing is stored.
 class ItemStore {
  public:
   struct Module {
@@ -57,7 +58,8 @@ class ItemStore {
   std::uint64_t PathRevision() const { return pathRevision_; }
   // Grows with every content that is set.
   std::uint64_t ContentRevision() const { return contentRevision_; }
-  // The contents that changed since the last call, those aside that came with a change of structure.
+  // The contents that changed since the last call, those aside that came with a change of
+  // structure.
   ContentChanges TakeContentChanges();
 
  private:

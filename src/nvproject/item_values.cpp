@@ -52,8 +52,8 @@ void ItemArray::Write(ItemStore& items, std::span<const std::int16_t> values) {
     Locate(items);
     if (elements_[k] == kNoItem) continue;
     // A negative value shows its low 16 bits.
-    items.SetContent(elements_[k], HexText(HexForm::UpperUpper,
-                                           static_cast<std::uint16_t>(values[k])));
+    items.SetContent(elements_[k],
+                     HexText(HexForm::UpperUpper, static_cast<std::uint16_t>(values[k])));
   }
 }
 

@@ -1,4 +1,5 @@
-// Values of a project's items as numbers, by path. Each remembers where its items are, as long as no path moves.
+// Values of a project's items as numbers, by path. Each remembers where its items are, as long as
+// no path moves.
 #pragma once
 
 #include <cstdint>

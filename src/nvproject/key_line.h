@@ -27,7 +27,8 @@ inline KeyLine SplitLine(std::string_view line) {
   return result;
 }
 
-// Puts the value's first word into the field, cut to fit; a value without one leaves the field as it was.
+// Puts the value's first word into the field, cut to fit; a value without one leaves the field as
+// it was.
 inline void TakeWord(std::string_view value, std::size_t maxLength, std::string& field) {
   const std::string_view word = FirstWord(value);
   if (!word.empty()) field = word.substr(0, maxLength);

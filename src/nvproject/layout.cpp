@@ -30,8 +30,8 @@ void Layout::Run(ItemStore& items, std::uint32_t start) {
       if (item.type == ItemType::Struct) placed = PlaceStructure(items, module, position);
       if (item.type == ItemType::Array) placed = PlaceArray(items, module, position);
       const std::uint64_t offset = RoundUp(running, 4) + 4;
-      topLevel_.push_back({module.first + position, number, static_cast<std::uint32_t>(offset),
-                           placed.length});
+      topLevel_.push_back(
+          {module.first + position, number, static_cast<std::uint32_t>(offset), placed.length});
       running = offset + placed.length;
       position = placed.next;
     }

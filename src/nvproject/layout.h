@@ -23,8 +23,9 @@ struct TopLevelItem {
 
 class Layout {
  public:
-  // Lays all items out, from `start` on. Offsets and lengths in the store are overwritten. A structure's alignment starts from
-  // the last run's, so a run counts as done only when another one would change nothing.
+  // Lays all items out, from `start` on. Offsets and lengths in the store are overwritten. A
+  // structure's alignment starts from the last run's, so a run counts as done only when another one
+  // would change nothing.
   void Run(ItemStore& items, std::uint32_t start);
 
   // Those that the last run found, in image order.
@@ -42,8 +43,7 @@ class Layout {
   };
 
   // Each lays out the item at the position and all that belongs to it.
-  Placed PlaceStructure(ItemStore& items, const ItemStore::Module& module,
-                        std::uint32_t position);
+  Placed PlaceStructure(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
   Placed PlaceArray(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
 
   std::vector<TopLevelItem> topLevel_;

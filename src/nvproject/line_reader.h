@@ -25,8 +25,8 @@ class LineReader {
 
   explicit LineReader(std::unique_ptr<std::istream> stream);
 
-  // The next piece, with the "\n" that ends its line ("\r\n" in the file as well), valid until the next call. A zero
-  // byte ends a piece. False at the end of the file.
+  // The next piece, with the "\n" that ends its line ("\r\n" in the file as well), valid until the
+  // next call. A zero byte ends a piece. False at the end of the file.
   bool Next(std::string_view& piece);
 
   // The number of the line, from 1, that the last piece belongs to.

@@ -67,8 +67,8 @@ void ModuleReader::EndItem() {
   TextArena& texts = items_.Texts();
   item.fullPath = texts.Add(path);
   // A path mostly ends with the whole name: one copy serves both.
-  item.name = path.ends_with(name_) ? item.fullPath.substr(path.size() - name_.size())
-                                    : texts.Add(name_);
+  item.name =
+      path.ends_with(name_) ? item.fullPath.substr(path.size() - name_.size()) : texts.Add(name_);
   item.description = texts.Add(description_);
   parents_.Add(item.index);
   items_.Append(std::move(item));

@@ -29,7 +29,8 @@ class ModuleReader {
   ItemStore& items_;
   ParentIndex parents_;
   FullPathBuilder fullPath_;
-  // The item under construction. A key changes it wherever it stands; its texts but the content are kept beside it.
+  // The item under construction. A key changes it wherever it stands; its texts but the content are
+  // kept beside it.
   Item item_;
   std::string name_;
   std::string description_;

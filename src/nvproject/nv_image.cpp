@@ -73,8 +73,8 @@ std::span<std::uint8_t> NvImage::Reserve(std::uint64_t at, std::size_t count) {
 }
 
 bool NvImage::AddHeader(const Item& item, std::uint64_t at) {
-  const bool hasData = ScalarWidth(item.type) > 0 || item.type == ItemType::Array ||
-                       item.type == ItemType::Struct;
+  const bool hasData =
+      ScalarWidth(item.type) > 0 || item.type == ItemType::Array || item.type == ItemType::Struct;
   if (!hasData) return true;
   const std::span<std::uint8_t> header = Reserve(at, 4);
   if (header.empty()) return false;

@@ -21,7 +21,8 @@ void StoreValue(std::span<std::uint8_t> bytes, std::uint64_t value, ByteOrder or
 // these are converted again.
 class NvImage {
  public:
-  // Builds the records of all items, which are laid out, from `start` on. False when they pass the capacity.
+  // Builds the records of all items, which are laid out, from `start` on. False when they pass the
+  // capacity.
   bool Build(ItemStore& items, std::uint32_t start, ByteOrder order);
 
   // The image's length. What stands before `start` is zero in Bytes().

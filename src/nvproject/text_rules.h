@@ -1,4 +1,5 @@
-// How project texts are read: words, numbers, letter case. The same on every system and in every locale.
+// How project texts are read: words, numbers, letter case. The same on every system and in every
+// locale.
 #pragma once
 
 #include <cstddef>

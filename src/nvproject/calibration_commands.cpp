@@ -1,0 +1,206 @@
+// The typed commands: arguments and bands in, cached parameters out.
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <optional>
+
+#include "nvproject/commands.h"
+
+namespace merovane::nvproject {
+namespace {
+
+constexpr std::array kBands = {Band::Gsm, Band::Gsm850, Band::Dcs, Band::Pcs};
+
+template <class... Pointers>
+bool AnyNull(const Pointers*... pointers) {
+  return ((pointers == nullptr) || ...);
+}
+
+// The check that the AGC and APC commands share.
+Result Check(const CFileParser* project, bool argumentMissing, std::uint32_t band = 0) {
+  if (argumentMissing || band >= kBands.size()) return Result::InvalidParam;
+  return project == nullptr ? Result::NvProjectNotOpen : Result::Success;
+}
+
+// Callers have the same bits as unsigned values.
+void Deliver(std::span<const std::int16_t> values, std::uint16_t* out) {
+  std::memcpy(out, values.data(), values.size_bytes());
+}
+
+// As many values as the parameter has.
+template <std::size_t count>
+std::array<std::int16_t, count> Take(const std::uint16_t* in) {
+  std::array<std::int16_t, count> values;
+  std::memcpy(values.data(), in, sizeof(values));
+  return values;
+}
+
+void Deliver(std::uint32_t value, std::uint16_t* out) { *out = static_cast<std::uint16_t>(value); }
+
+}  // namespace
+
+Result GetNvValueAgc(CFileParser* project, std::uint16_t* agcWords, std::uint16_t* gainIndex,
+                     std::uint16_t* rxBoundary, std::uint32_t band) {
+  const Result check = Check(project, AnyNull(agcWords, gainIndex, rxBoundary), band);
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.LoadAgc(kBands[band]);
+  Deliver(parameters.Cached(kBands[band], BandArray::AgcControlWord), agcWords);
+  Deliver(parameters.CachedGainIndex(kBands[band]), gainIndex);
+  Deliver(parameters.Cached(kBands[band], BandArray::RxBoundary), rxBoundary);
+  return Result::Success;
+}
+
+Result SetNvValueAgc(CFileParser* project, const std::uint16_t* agcWords, std::uint16_t gainIndex,
+                     const std::uint16_t* rxCompensation, std::uint32_t band) {
+  const Result check = Check(project, AnyNull(agcWords, rxCompensation), band);
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.Write(kBands[band], BandArray::AgcControlWord, Take<91>(agcWords));
+  parameters.Write(kBands[band], BandArray::RxCompensation, Take<5>(rxCompensation));
+  parameters.WriteGainIndex(kBands[band], gainIndex);
+  return Result::Success;
+}
+
+Result GetNvValueApc(CFileParser* project, std::uint16_t* rampUpStage0, std::uint16_t* rampUpStage1,
+                     std::uint16_t* rampDownStage0, std::uint16_t* rampDownStage1,
+                     std::uint16_t* txBoundary, std::uint16_t* stepFactor, std::uint32_t band) {
+  const Result check = Check(
+      project,
+      AnyNull(rampUpStage0, rampUpStage1, rampDownStage0, rampDownStage1, txBoundary, stepFactor),
+      band);
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  const Band requested = kBands[band];
+  parameters.LoadApc(requested);
+  // Stations rely on the crossing of GSM.
+  if (requested == Band::Gsm) std::swap(rampDownStage0, rampDownStage1);
+  Deliver(parameters.Cached(requested, BandArray::RampUpStage0), rampUpStage0);
+  Deliver(parameters.Cached(requested, BandArray::RampUpStage1), rampUpStage1);
+  Deliver(parameters.Cached(requested, BandArray::RampDownStage0), rampDownStage0);
+  Deliver(parameters.Cached(requested, BandArray::RampDownStage1), rampDownStage1);
+  Deliver(parameters.Cached(requested, BandArray::TxBoundary), txBoundary);
+  Deliver(parameters.Cached(requested, BandArray::StepFactor), stepFactor);
+  return Result::Success;
+}
+
+Result SetNvValueApc(CFileParser* project, const std::uint16_t* stepFactor, std::uint32_t band) {
+  const Result check = Check(project, AnyNull(stepFactor), band);
+  if (!Succeeded(check)) return check;
+  project->Calibration().Write(kBands[band], BandArray::StepFactor, Take<80>(stepFactor));
+  return Result::Success;
+}
+
+Result GetNvValueFactor(CFileParser* project, std::uint16_t* stepFactor, std::uint32_t band) {
+  constexpr std::array<std::optional<Band>, 5> kFactorBands = {Band::Gsm, Band::Dcs, std::nullopt,
+                                                               Band::Pcs, Band::Gsm850};
+  if (project == nullptr) return Result::NvProjectNotOpen;
+  if (stepFactor == nullptr) return Result::InvalidParam;
+  if (band >= kFactorBands.size() || !kFactorBands[band]) return Result::Success;
+  project->Calibration().LoadStepFactor(*kFactorBands[band]);
+  Deliver(project->Calibration().Cached(*kFactorBands[band], BandArray::StepFactor), stepFactor);
+  return Result::Success;
+}
+
+Result GetNvValueNvVersion(CFileParser* project, std::uint16_t* version) {
+  const Result check = Check(project, AnyNull(version));
+  if (!Succeeded(check)) return check;
+  project->Calibration().Load(CommonValue::CalParamVersion);
+  Deliver(project->Calibration().Cached(CommonValue::CalParamVersion), version);
+  return Result::Success;
+}
+
+Result GetNvValueNvVersionTd(CFileParser* project, std::uint16_t* version) {
+  return GetNvValueNvVersion(project, version);
+}
+
+Result GetNvValueAdc1(CFileParser* project, std::uint32_t* adc, std::uint32_t* battery) {
+  const Result check = Check(project, AnyNull(adc, battery));
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.LoadAdcPoints();
+  adc[0] = parameters.Cached(CommonValue::Adc0);
+  adc[1] = parameters.Cached(CommonValue::Adc1);
+  battery[0] = parameters.Cached(CommonValue::Battery0);
+  battery[1] = parameters.Cached(CommonValue::Battery1);
+  return Result::Success;
+}
+
+Result SetNvValueAdc1(CFileParser* project, const std::uint32_t* adc,
+                      const std::uint32_t* battery) {
+  const Result check = Check(project, AnyNull(adc, battery));
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.Write(CommonValue::Adc0, adc[0]);
+  parameters.Write(CommonValue::Adc1, adc[1]);
+  parameters.Write(CommonValue::Battery0, battery[0]);
+  parameters.Write(CommonValue::Battery1, battery[1]);
+  return Result::Success;
+}
+
+Result GetNvValueAdc2(CFileParser* project, std::uint16_t* voltageTable) {
+  const Result check = Check(project, AnyNull(voltageTable));
+  if (!Succeeded(check)) return check;
+  project->Calibration().LoadCharging();
+  Deliver(project->Calibration().Cached(CommonArray::AdcVoltage), voltageTable);
+  return Result::Success;
+}
+
+Result SetNvValueAdc2(CFileParser* project, const std::uint16_t* voltageTable) {
+  const Result check = Check(project, AnyNull(voltageTable));
+  if (!Succeeded(check)) return check;
+  project->Calibration().Write(CommonArray::AdcVoltage, Take<16>(voltageTable));
+  return Result::Success;
+}
+
+Result GetNvValueAfc1(CFileParser* project, std::uint16_t* center, std::uint16_t* slope) {
+  const Result check = Check(project, AnyNull(center, slope));
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.Load(CommonValue::AfcCenter);
+  parameters.Load(CommonValue::AfcSlope);
+  Deliver(parameters.Cached(CommonValue::AfcCenter), center);
+  Deliver(parameters.Cached(CommonValue::AfcSlope), slope);
+  return Result::Success;
+}
+
+Result SetNvValueAfc1(CFileParser* project, std::uint16_t center, std::uint16_t slope) {
+  if (project == nullptr) return Result::NvProjectNotOpen;
+  project->Calibration().Write(CommonValue::AfcCenter, center);
+  project->Calibration().Write(CommonValue::AfcSlope, slope);
+  return Result::Success;
+}
+
+Result GetNvValueAfc2(CFileParser* project, std::uint16_t* slopeLength, std::uint16_t* cdac,
+                      std::uint16_t* cafc, std::uint16_t* afcRange, std::uint16_t* slopeValue,
+                      std::uint16_t* slopeReciprocal) {
+  const Result check =
+      Check(project, AnyNull(slopeLength, cdac, cafc, afcRange, slopeValue, slopeReciprocal));
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.LoadAfcStructure();
+  Deliver(parameters.Cached(CommonValue::SlopeLength), slopeLength);
+  Deliver(parameters.Cached(CommonValue::Cdac), cdac);
+  Deliver(parameters.Cached(CommonValue::Cafc), cafc);
+  Deliver(parameters.Cached(CommonArray::AfcRange), afcRange);
+  Deliver(parameters.Cached(CommonArray::SlopeValue), slopeValue);
+  Deliver(parameters.Cached(CommonArray::SlopeReciprocal), slopeReciprocal);
+  return Result::Success;
+}
+
+Result SetNvValueAfc2(CFileParser* project, std::uint16_t slopeLength, std::uint16_t cdac,
+                      std::uint16_t cafc, const std::uint16_t* afcRange,
+                      const std::uint16_t* slopeValue, const std::uint16_t* slopeReciprocal) {
+  const Result check = Check(project, AnyNull(afcRange, slopeValue, slopeReciprocal));
+  if (!Succeeded(check)) return check;
+  CalibrationParameters& parameters = project->Calibration();
+  parameters.Write(CommonValue::SlopeLength, slopeLength);
+  parameters.Write(CommonValue::Cdac, cdac);
+  parameters.Write(CommonValue::Cafc, cafc);
+  parameters.Write(CommonArray::AfcRange, Take<16>(afcRange));
+  parameters.Write(CommonArray::SlopeValue, Take<16>(slopeValue));
+  parameters.Write(CommonArray::SlopeReciprocal, Take<16>(slopeReciprocal));
+  return Result::Success;
+}
+
+}  // namespace merovane::nvproject
