@@ -69,6 +69,8 @@ build_preset() {
   shift
   local launcher=()
   if have ccache; then
+    # One clone's objects serve the next one's build.
+    export CCACHE_BASEDIR=$MEROVANE_ROOT CCACHE_NOHASHDIR=true
     launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   fi
   cmake -S "$MEROVANE_ROOT" --preset "$preset" "${launcher[@]}" &&
