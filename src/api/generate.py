@@ -63,7 +63,8 @@ class Api:
     exports: list = field(default_factory=list)
     group: str = ""
 
-    def add(self, kind, flags, name, arguments, documentation):
+    def add(self, kind, flags, name, arguments, documentation, call=None):
+        """`call` is the C++ expression of a command that is no function of the export's own name."""
         names = [argument for _, argument in arguments]
 
         def export(suffix, body, parameters, doc, decorated=False, twin_of=""):
@@ -75,7 +76,9 @@ class Api:
             if "void" in flags:
                 self.exports[-1].returns = "void"
             return
-        if kind == "command":
+        if call is not None:
+            pass
+        elif kind == "command":
             call = f"commands::{name}({', '.join(['phone'] + names)})"
         else:
             call = f"nvproject::{name}({', '.join(['phone.project.get()'] + names)})"
