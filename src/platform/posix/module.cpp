@@ -2,20 +2,35 @@
 
 #include <dlfcn.h>
 
+#include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <utility>
 
 namespace merovane::platform {
 namespace {
 
-// Of the library, or program, that this code was linked into.
+// Of the library, or program, that this code was linked into. The loader only knows the name that
+// it was given, which may be relative to a working directory of long ago; the kernel knows the
+// file.
 std::filesystem::path OwnDirectory() {
-  Dl_info info{};
-  if (dladdr(reinterpret_cast<void*>(&OwnDirectory), &info) == 0 || info.dli_fname == nullptr) {
-    return {};
+  const auto self = reinterpret_cast<std::uintptr_t>(&OwnDirectory);
+  std::ifstream maps("/proc/self/maps");
+  for (std::string line; std::getline(maps, line);) {
+    std::uintptr_t first = 0;
+    std::uintptr_t end = 0;
+    char dash = 0;
+    std::istringstream fields(line);
+    fields >> std::hex >> first >> dash >> end;
+    const std::size_t path = line.find('/');
+    if (self >= first && self < end && path != std::string::npos) {
+      return std::filesystem::path(line.substr(path)).parent_path();
+    }
   }
-  return std::filesystem::path(info.dli_fname).parent_path();
+  return {};
 }
 
 }  // namespace

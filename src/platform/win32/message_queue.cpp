@@ -16,7 +16,7 @@ void CreateMessageQueue() {
 
 bool PostMessageToThread(std::uint32_t threadId, std::uint32_t id, std::uintptr_t first,
                          std::intptr_t second) {
-  return PostThreadMessageW(threadId, id, first, second) != 0;
+  return threadId != 0 && PostThreadMessageW(threadId, id, first, second) != 0;
 }
 
 bool TakeMessage(Message& message, std::uint32_t timeLimitMs) {

@@ -35,7 +35,11 @@ bool PutInPlace(const std::filesystem::path& temporary, const std::filesystem::p
 }  // namespace
 
 bool ReplaceFile(const std::filesystem::path& path, std::span<const char> data) {
-  if (IsReadOnly(path)) return false;
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES &&
+      (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_DIRECTORY)) != 0) {
+    return false;
+  }
   const std::filesystem::path temporary = TemporaryNameBeside(path);
   if (WriteNew(temporary, data) && PutInPlace(temporary, path)) return true;
   DeleteFileW(temporary.c_str());

@@ -1,0 +1,88 @@
+#include "platform/clock.h"
+
+#include <gtest/gtest.h>
+
+#include <ctime>
+
+namespace merovane::platform {
+namespace {
+
+class ManualClock final : public Clock {
+ public:
+  explicit ManualClock(std::uint32_t startMs) : nowMs_(startMs) {}
+  std::uint32_t NowMs() override { return nowMs_; }
+  void SleepMs(std::uint32_t ms) override { nowMs_ += ms; }
+
+ private:
+  std::uint32_t nowMs_;
+};
+
+TEST(Deadline, RunsOutAcrossTheWrapOfTheTicks) {
+  ManualClock clock(UINT32_MAX - 30);
+  const Deadline deadline(clock, 100);
+  clock.SleepMs(99);
+  EXPECT_FALSE(deadline.Passed());
+  EXPECT_EQ(deadline.RemainingMs(), 1U);
+  clock.SleepMs(1);
+  EXPECT_TRUE(deadline.Passed());
+  EXPECT_EQ(deadline.RemainingMs(), 0U);
+  clock.SleepMs(500);
+  EXPECT_EQ(deadline.ElapsedMs(), 600U);
+  EXPECT_EQ(deadline.RemainingMs(), 0U);
+}
+
+TEST(Deadline, IsExtendedFromNowAndNotFromItsEnd) {
+  ManualClock clock(7);
+  Deadline deadline(clock, 100);
+  clock.SleepMs(130);
+  deadline.ExtendFromNow(500);
+  EXPECT_EQ(deadline.RemainingMs(), 500U);
+  clock.SleepMs(500);
+  EXPECT_TRUE(deadline.Passed());
+  EXPECT_TRUE(Deadline(clock, 0).Passed());
+}
+
+TEST(SystemClock, MovesOnAsLongAsItSleeps) {
+  Clock& clock = SystemClock();
+  const Deadline deadline(clock, 0);
+  for (int i = 0; i < 20; ++i) clock.SleepMs(5);
+  clock.SleepMs(0);
+  // A tick count may move in steps of 16 ms.
+  EXPECT_GE(deadline.ElapsedMs(), 100U - 16U);
+}
+
+std::tm Library(bool utc) {
+  const std::time_t now = std::time(nullptr);
+  return utc ? *std::gmtime(&now) : *std::localtime(&now);
+}
+
+bool SameSecond(const CalendarTime& time, const std::tm& other) {
+  return time.year == other.tm_year + 1900 && time.month == other.tm_mon + 1 &&
+         time.day == other.tm_mday && time.hour == other.tm_hour && time.minute == other.tm_min &&
+         time.second == other.tm_sec;
+}
+
+// Follows the time over the turn of a second: what was kept for the last one must not stay.
+TEST(CalendarTime, IsTheSystemsLocalAndUtcTime) {
+  for (const bool utc : {false, true}) {
+    const auto read = utc ? UtcTime : LocalTime;
+    const int first = read().second;
+    int checked = 0;
+    while (read().second == first || checked == 0) {
+      const std::tm before = Library(utc);
+      const CalendarTime time = read();
+      const std::tm after = Library(utc);
+      EXPECT_TRUE(time.millisecond >= 0 && time.millisecond < 1000);
+      // The coarse clock behind time() may still show the second before.
+      if (before.tm_sec == after.tm_sec && time.millisecond > 100) {
+        EXPECT_TRUE(SameSecond(time, after))
+            << time.hour << ':' << time.minute << ':' << time.second;
+        ++checked;
+      }
+      SystemClock().SleepMs(10);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace merovane::platform

@@ -1,0 +1,45 @@
+#include "platform/module.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/files.h"
+#include "platform/system.h"
+
+namespace merovane::platform {
+namespace {
+
+TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
+  const test::ScratchDirectory elsewhere;
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(elsewhere.Path());
+  Module module;
+  EXPECT_TRUE(module.Load("PlatformProbe"));
+  std::filesystem::current_path(before);
+
+  const auto answer = reinterpret_cast<int (*)()>(module.Find("PlatformProbeAnswer"));
+  ASSERT_NE(answer, nullptr);
+  EXPECT_EQ(answer(), 42);
+  EXPECT_EQ(module.Find("NoSuchFunction"), nullptr);
+  module.Free();
+  EXPECT_FALSE(module.IsLoaded());
+  EXPECT_EQ(module.Find("PlatformProbeAnswer"), nullptr);
+}
+
+TEST(Module, IsNotLoadedWhenItIsMissingOrNoLibrary) {
+  Module module;
+  ASSERT_TRUE(module.Load("PlatformProbe"));
+  EXPECT_FALSE(module.Load("NoSuchLibrary"));
+  EXPECT_FALSE(module.IsLoaded()) << "the one before is let go";
+  EXPECT_FALSE(module.Load(""));
+
+  for (const char* name : {"libPlatformGarbage.so", "PlatformGarbage.dll"}) {
+    test::WriteContent(ExecutableDirectory() / name, "no library");
+  }
+  EXPECT_FALSE(module.Load("PlatformGarbage"));
+  for (const char* name : {"libPlatformGarbage.so", "PlatformGarbage.dll"}) {
+    std::filesystem::remove(ExecutableDirectory() / name);
+  }
+}
+
+}  // namespace
+}  // namespace merovane::platform

@@ -1,0 +1,261 @@
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/eventfd.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <climits>
+
+#include "platform/console.h"
+#include "platform/device_monitor.h"
+#include "platform/event.h"
+#include "platform/files.h"
+#include "platform/message_queue.h"
+#include "platform/profile_file.h"
+#include "platform/serial_ports.h"
+#include "platform/system.h"
+#include "platform/text.h"
+#include "platform/thread.h"
+
+namespace merovane::platform {
+namespace {
+
+using test::Content;
+using test::ScratchDirectory;
+using test::SetVariable;
+using test::WriteContent;
+
+mode_t ModeOf(const std::filesystem::path& path) {
+  struct stat status {};
+  EXPECT_EQ(stat(path.c_str(), &status), 0);
+  return status.st_mode & 07777;
+}
+
+TEST(PosixFiles, KeepTheOtherModeBitsWhenTheyBecomeReadOnly) {
+  const ScratchDirectory directory;
+  const auto path = directory / "a";
+  WriteContent(path, "x");
+  chmod(path.c_str(), 0775);
+  EXPECT_TRUE(SetReadOnly(path, true));
+  EXPECT_EQ(ModeOf(path), 0555U);
+  EXPECT_TRUE(SetReadOnly(path, false));
+  EXPECT_EQ(ModeOf(path), 0755U);
+}
+
+TEST(PosixFiles, KeepModeAndLinkWhenTheirContentIsReplaced) {
+  const ScratchDirectory directory;
+  WriteContent(directory / "real", "old");
+  chmod((directory / "real").c_str(), 0640);
+  std::filesystem::create_symlink("real", directory / "link");
+  ASSERT_TRUE(ReplaceFile(directory / "link", std::string_view("new")));
+  EXPECT_TRUE(std::filesystem::is_symlink(directory / "link"));
+  EXPECT_EQ(Content(directory / "real"), "new");
+  EXPECT_EQ(ModeOf(directory / "real"), 0640U);
+
+  const auto longest = directory / std::string(NAME_MAX, 'n');
+  EXPECT_TRUE(ReplaceFile(longest, std::string_view("x")));
+  EXPECT_EQ(Content(longest), "x");
+  EXPECT_TRUE(ReplaceFile("/dev/null", std::string_view("x")));
+  EXPECT_FALSE(ReplaceFile("/dev/full", std::string_view("x")));
+}
+
+// Runs `body` in a process of its own, whose limits and user it may change. True when it returned
+// true.
+bool InChild(bool (*body)(const std::filesystem::path&), const std::filesystem::path& path) {
+  const pid_t child = fork();
+  if (child == 0) _exit(body(path) ? 0 : 1);
+  int status = 0;
+  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+TEST(PosixFiles, StandWholeWhenTheNewContentDoesNotFit) {
+  const ScratchDirectory directory;
+  WriteContent(directory / "a", "old content");
+  EXPECT_TRUE(InChild(
+      [](const std::filesystem::path& path) {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{4096, 4096};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        AppendFile log;
+        return !ReplaceFile(path, std::string(5000, 'x')) &&
+               ReplaceFile(path, std::string(4096, 'y')) && log.Open(path) &&
+               !log.Write(std::string_view("z"));
+      },
+      directory / "a"));
+  EXPECT_EQ(Content(directory / "a"), std::string(4096, 'y'));
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 1);
+}
+
+TEST(PosixFiles, AreWrittenInPlaceWhereTheDirectoryTakesNoOther) {
+  const ScratchDirectory directory;
+  WriteContent(directory / "a", "old content");
+  WriteContent(directory / "foreign", "old");
+  chmod((directory / "a").c_str(), 0666);
+  chmod((directory / "foreign").c_str(), 0644);
+  chmod(directory.Path().c_str(), 0555);
+  EXPECT_TRUE(InChild(
+      [](const std::filesystem::path& path) {
+        constexpr uid_t kNobody = 65534;
+        if (getuid() == 0 && setuid(kNobody) != 0) return false;
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{4096, 4096};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        return ReplaceFile(path, std::string_view("new")) && Content(path) == "new" &&
+               !ReplaceFile(path, std::string(5000, 'x')) && Content(path) == "new" &&
+               !ReplaceFile(path.parent_path() / "absent", std::string_view("x"));
+      },
+      directory / "a"));
+  chmod(directory.Path().c_str(), 0755);
+}
+
+TEST(PosixFiles, AreNotWaitedForWhenTheyArePipes) {
+  const ScratchDirectory directory;
+  const auto pipe = directory / "pipe";
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0666), 0);
+  EXPECT_EQ(ProfileFile::Load(pipe).Integer("S", "K", 3), 3U);
+  EXPECT_FALSE(ReplaceFile(pipe, std::string_view("x")));
+}
+
+TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
+  const int full = eventfd(0, 0);
+  eventfd_write(full, UINT64_MAX - 1);
+  CallerEvent(full).Set();
+  CallerEvent(full).Reset();
+  CallerEvent(full).Reset();
+  CallerEvent(full).Set();
+  eventfd_t count = 0;
+  EXPECT_EQ(eventfd_read(full, &count), 0);
+  EXPECT_EQ(count, 1U);
+  close(full);
+
+  const int semaphore = eventfd(3, EFD_SEMAPHORE | EFD_NONBLOCK);
+  CallerEvent(semaphore).Reset();
+  EXPECT_EQ(eventfd_read(semaphore, &count), -1);
+  close(semaphore);
+
+  const int endless = open("/dev/zero", O_RDONLY);
+  CallerEvent(endless).Reset();
+  close(endless);
+  EXPECT_TRUE(CallerEvent(-1).IsNull());
+}
+
+TEST(PosixMessageQueue, HoldsTenThousandMessagesAndRefusesMore) {
+  CreateMessageQueue();
+  int posted = 0;
+  while (posted < 20'000 && PostMessageToThread(CurrentThreadId(), 1124, 0, posted)) ++posted;
+  EXPECT_EQ(posted, 10'000);
+  Message message;
+  for (int i = 0; i < posted; ++i) {
+    ASSERT_TRUE(TakePendingMessage(message));
+    ASSERT_EQ(message.second, i);
+  }
+  EXPECT_FALSE(TakePendingMessage(message));
+}
+
+TEST(PosixThread, LeavesSignalsToTheHostProgram) {
+  sigset_t blocked;
+  sigemptyset(&blocked);
+  Thread thread;
+  ASSERT_TRUE(thread.Start([&blocked] { pthread_sigmask(SIG_BLOCK, nullptr, &blocked); }));
+  ASSERT_TRUE(thread.WaitMs(60'000));
+  EXPECT_EQ(sigismember(&blocked, SIGTERM), 1);
+  EXPECT_EQ(sigismember(&blocked, SIGALRM), 1);
+  pthread_sigmask(SIG_BLOCK, nullptr, &blocked);
+  EXPECT_EQ(sigismember(&blocked, SIGTERM), 0);
+}
+
+TEST(PosixConsole, IsStandardOutputWhileShown) {
+  testing::internal::CaptureStdout();
+  SetConsole(ConsoleState::Hidden);
+  WriteConsole("hidden");
+  SetConsole(ConsoleState::Shown);
+  WriteConsole("shown\r\n");
+  SetConsole(ConsoleState::Off);
+  WriteConsole("off");
+  EXPECT_EQ(testing::internal::GetCapturedStdout(), "shown\r\n");
+
+  testing::internal::CaptureStderr();
+  ShowMessageBox("Can't open file a.txt!", "Error");
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "Error: Can't open file a.txt!\n");
+}
+
+TEST(PosixText, TurnsUtf16IntoUtf8) {
+  EXPECT_EQ(NarrowFromUtf16(u"a\u00E9\u20AC\U0001F4F1"), "a\xC3\xA9\xE2\x82\xAC\xF0\x9F\x93\xB1");
+  const std::u16string unpaired{u'x', char16_t{0xD800}, u'y', char16_t{0xDC00}, char16_t{0xD801}};
+  EXPECT_EQ(NarrowFromUtf16(unpaired), "x\xEF\xBF\xBDy\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+// A pseudo-terminal and a link that names it, as simulated handsets make them.
+class Terminal {
+ public:
+  explicit Terminal(std::filesystem::path link) : link_(std::move(link)) {
+    master_ = posix_openpt(O_RDWR | O_NOCTTY);
+    grantpt(master_);
+    unlockpt(master_);
+    name_ = ptsname(master_);
+    std::filesystem::create_symlink(name_, link_);
+  }
+  ~Terminal() {
+    std::filesystem::remove(link_);
+    close(master_);
+  }
+  Terminal(const Terminal&) = delete;
+  Terminal& operator=(const Terminal&) = delete;
+  const std::string& Name() const { return name_; }
+
+ private:
+  std::filesystem::path link_;
+  int master_;
+  std::string name_;
+};
+
+TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
+  const ScratchDirectory directory;
+  const auto link = directory / "port";
+  SetVariable("CASSORIND_COM231", link.c_str());
+  SerialPorts ports;
+  std::optional<Terminal> terminal(link);
+  const auto first = ports.Present();
+  ASSERT_TRUE(first.contains(231));
+  EXPECT_EQ(ports.Present(), first);
+
+  chmod(terminal->Name().c_str(), 0660);
+  EXPECT_EQ(ports.Present(), first) << "a change of access rights is no arrival";
+
+  terminal.reset();
+  terminal.emplace(link);
+  const auto second = ports.Present();
+  ASSERT_TRUE(second.contains(231));
+  EXPECT_NE(second.at(231), first.at(231));
+
+  // The same name without a link between: only the node's times tell.
+  SetVariable("CASSORIND_COM231", terminal->Name().c_str());
+  const std::string name = terminal->Name();
+  const auto third = ports.Present();
+  terminal.reset();
+  terminal.emplace(link);
+  if (terminal->Name() == name) {
+    EXPECT_NE(ports.Present().at(231), third.at(231));
+  }
+
+  terminal.reset();
+  EXPECT_FALSE(ports.Present().contains(231));
+  SetVariable("CASSORIND_COM231", nullptr);
+}
+
+TEST(PosixSerialPorts, AreTheStandardDevicesWhereNothingElseIsNamed) {
+  const bool exists = std::filesystem::exists("/dev/ttyS0");
+  SerialPorts ports;
+  EXPECT_EQ(ports.Present().contains(1), exists);
+  SetVariable("CASSORIND_COM1", "/nonexistent/port");
+  EXPECT_FALSE(ports.Present().contains(1));
+  SetVariable("CASSORIND_COM1", nullptr);
+  EXPECT_EQ(ports.Present().contains(1), exists);
+}
+
+}  // namespace
+}  // namespace merovane::platform

@@ -1,0 +1,146 @@
+#include "platform/profile_file.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/files.h"
+#include "platform/system.h"
+
+namespace merovane::platform {
+namespace {
+
+using test::ScratchDirectory;
+using test::WriteContent;
+
+std::uint32_t Value(const std::string& value) {
+  return ProfileFile::Parse("[S]\r\nK=" + value + "\r\n").Integer("S", "K", 7);
+}
+
+TEST(ProfileFile, ReadsIntegersAsFarAsTheirDigitsGo) {
+  EXPECT_EQ(Value("12"), 12U);
+  EXPECT_EQ(Value(" \t 12abc"), 12U);
+  EXPECT_EQ(Value("012"), 12U);
+  EXPECT_EQ(Value("1 2"), 1U);
+  EXPECT_EQ(Value("3;4"), 3U);
+  EXPECT_EQ(Value("+5"), 5U);
+  EXPECT_EQ(Value("-5"), 0U - 5U);
+  EXPECT_EQ(Value("- 5"), 0U);
+  EXPECT_EQ(Value("0x1Fg"), 31U);
+  EXPECT_EQ(Value("-0x10"), 0U - 16U);
+  EXPECT_EQ(Value("0o17"), 15U);
+  EXPECT_EQ(Value("0b101"), 5U);
+  EXPECT_EQ(Value("0X10"), 0U);
+  EXPECT_EQ(Value("0x"), 0U);
+  EXPECT_EQ(Value("abc"), 0U);
+  EXPECT_EQ(Value("4294967295"), UINT32_MAX);
+  EXPECT_EQ(Value("4294967301"), 5U);
+  EXPECT_EQ(Value("99999999999999999999"), 1'661'992'959U);
+  EXPECT_EQ(Value("\" 36667\""), 36'667U);
+  EXPECT_EQ(Value("'1'"), 1U);
+  EXPECT_EQ(Value(""), 7U);
+  EXPECT_EQ(Value("\"\""), 7U);
+}
+
+TEST(ProfileFile, FindsNamesWithoutRegardToCaseAndBlanks) {
+  const auto profile = ProfileFile::Parse(
+      "  [ Inc Recv Timeout ]  ; note\n"
+      "\t Time Out \t=  250  \n"
+      "path = \"C:\\a b\" \n"
+      "odd = \"x'\n"
+      "eq=a=b\n");
+  EXPECT_EQ(profile.Integer("INC RECV TIMEOUT", "time out", 0), 250U);
+  EXPECT_EQ(profile.Text("inc recv timeout", "PATH", ""), "C:\\a b");
+  EXPECT_EQ(profile.Text("inc recv timeout", "odd", ""), "\"x'");
+  EXPECT_EQ(profile.Text("inc recv timeout", "eq", ""), "a=b");
+  EXPECT_EQ(profile.Text("inc recv timeout", "none", "fallback"), "fallback");
+  EXPECT_EQ(profile.Text("IncRecvTimeout", "eq", "fallback"), "fallback");
+}
+
+TEST(ProfileFile, TakesTheFirstSectionOfANameAndInItTheFirstKey) {
+  const auto profile = ProfileFile::Parse(
+      "Port=1\n"
+      "[Other]\nPort=2\n"
+      ";[Socket]\n;Port=3\n"
+      "[Socket]\nPort\n; Port=4\n Port=5\nPort=6\n"
+      "[Last]\nPort=7\n"
+      "[socket]\nPort=8\nLate=9\n");
+  EXPECT_EQ(profile.Integer("Socket", "Port", 0), 5U);
+  EXPECT_EQ(profile.Integer("Socket", "Late", 0), 0U);
+  EXPECT_EQ(profile.Integer("Last", "Port", 0), 7U);
+  EXPECT_EQ(profile.Integer("", "Port", 0), 0U) << "a key ahead of every section";
+}
+
+TEST(ProfileFile, TakesEveryLineEndAndAMissingOne) {
+  for (const std::string end : {"\n", "\r", "\r\n", "\n\n\r\r"}) {
+    const auto profile = ProfileFile::Parse(end + "[S]" + end + "a=1" + end + "b=2");
+    EXPECT_EQ(profile.Integer("S", "a", 0), 1U);
+    EXPECT_EQ(profile.Integer("S", "b", 0), 2U);
+  }
+}
+
+std::string Utf16(const std::string& ascii, bool bigEndian) {
+  std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
+  for (const char c : ascii) {
+    if (bigEndian) bytes += '\0';
+    bytes += c;
+    if (!bigEndian) bytes += '\0';
+  }
+  return bytes;
+}
+
+TEST(ProfileFile, TakesTextWithAByteOrderMark) {
+  const std::string text = "[S]\r\nK=9\r\nT=a\r\n";
+  for (const std::string& bytes :
+       {"\xEF\xBB\xBF" + text, Utf16(text, false), Utf16(text, true), Utf16(text, false) + "x"}) {
+    const auto profile = ProfileFile::Parse(bytes);
+    EXPECT_EQ(profile.Integer("S", "K", 0), 9U);
+    EXPECT_EQ(profile.Text("S", "T", ""), "a");
+  }
+}
+
+TEST(ProfileFile, SurvivesTextThatIsNoSettingsFile) {
+  using namespace std::string_literals;
+  const std::string longLine(300'000, 'x');
+  const auto profile =
+      ProfileFile::Parse("[S]\n" + longLine + "=1\nA\0B=2\n[Open\nK=3\n[]\n=4\nK=5\n"s);
+  EXPECT_EQ(profile.Integer("S", longLine, 0), 1U);
+  EXPECT_EQ(profile.Integer("S", "A\0B"s, 0), 2U);
+  EXPECT_EQ(profile.Integer("Open", "K", 0), 3U);
+  EXPECT_EQ(profile.Integer("", "", 0), 4U);
+
+  std::mt19937 random(20);
+  const std::string alphabet = "[]=; \t\r\n\"'0x-K\xEF\xFF\xFE\xD8"s + '\0';
+  for (int i = 0; i < 20'000; ++i) {
+    std::string bytes(random() % 24, ' ');
+    for (char& byte : bytes) byte = alphabet[random() % alphabet.size()];
+    const auto any = ProfileFile::Parse(std::move(bytes));
+    any.Integer("", "K", 0);
+    any.Text("K", "K", "");
+  }
+}
+
+TEST(ProfileFile, LoadsWhatCanBeReadAndTreatsTheRestAsEmpty) {
+  const ScratchDirectory directory;
+  WriteContent(directory / "a.ini", "[S]\r\nK=5\r\n");
+  EXPECT_EQ(ProfileFile::Load(directory / "a.ini").Integer("S", "K", 1), 5U);
+  WriteContent(directory / "empty.ini", "");
+  for (const char* name : {"empty.ini", "missing.ini", ".", "missing/a.ini", "a.ini/b"}) {
+    EXPECT_EQ(ProfileFile::Load(directory / name).Integer("S", "K", 1), 1U) << name;
+  }
+}
+
+TEST(ProfileFile, ReadsAHugeFileToItsLastWholeLineWithinTheLimit) {
+  const ScratchDirectory directory;
+  std::string text = "[S]\nFirst=1\n";
+  text.resize((1U << 20) - 7, ' ');
+  text += "\nCut=12345\nLate=1\n";  // the limit falls after "Cut=12"
+  WriteContent(directory / "huge.ini", text);
+  const auto profile = ProfileFile::Load(directory / "huge.ini");
+  EXPECT_EQ(profile.Integer("S", "First", 0), 1U);
+  EXPECT_EQ(profile.Integer("S", "Cut", 0), 0U);
+  EXPECT_EQ(profile.Integer("S", "Late", 0), 0U);
+}
+
+}  // namespace
+}  // namespace merovane::platform

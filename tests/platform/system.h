@@ -1,0 +1,62 @@
+// What the tests need of each system.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+
+namespace merovane::platform::test {
+
+// Null takes the variable away.
+void SetVariable(const std::string& name, const char* value);
+
+// An event as the library's callers make it.
+class OwnedEvent {
+ public:
+  OwnedEvent();
+  ~OwnedEvent();
+  OwnedEvent(const OwnedEvent&) = delete;
+  OwnedEvent& operator=(const OwnedEvent&) = delete;
+
+  std::intptr_t Handle() const { return handle_; }
+  bool IsSet() const;
+
+ private:
+  std::intptr_t handle_;
+};
+
+// A serial device that comes and goes, and the variable that names it as port `port`.
+class ScratchPort {
+ public:
+  explicit ScratchPort(std::int32_t port);
+  ~ScratchPort();
+  ScratchPort(const ScratchPort&) = delete;
+  ScratchPort& operator=(const ScratchPort&) = delete;
+
+  void Plug();
+  void Unplug();
+
+ private:
+  std::string variable_;
+  std::filesystem::path name_;
+};
+
+// An empty directory for the running test.
+class ScratchDirectory {
+ public:
+  ScratchDirectory();
+  ~ScratchDirectory();
+  ScratchDirectory(const ScratchDirectory&) = delete;
+  ScratchDirectory& operator=(const ScratchDirectory&) = delete;
+
+  std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
+  const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+std::string Content(const std::filesystem::path& path);
+void WriteContent(const std::filesystem::path& path, const std::string& content);
+
+}  // namespace merovane::platform::test

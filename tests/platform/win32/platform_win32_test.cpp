@@ -1,0 +1,101 @@
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "platform/files.h"
+#include "platform/message_queue.h"
+#include "platform/profile_file.h"
+#include "platform/system.h"
+#include "platform/thread.h"
+#include "platform/win32/windows_api.h"
+
+namespace merovane::platform {
+namespace {
+
+using test::Content;
+using test::ScratchDirectory;
+using test::WriteContent;
+
+// The system's own reader is the measure.
+TEST(Win32ProfileFile, ReadsWhatTheSystemReads) {
+  const ScratchDirectory directory;
+  const auto path = directory / "same.ini";
+  std::mt19937 random(11);
+  const std::string pieces[] = {
+      "[S]",    "[s ]",   "[ S]x",   "[T]",      ";K=1",          "K=", " k = 12 ", "K=0x1Fz",
+      "K=-3",   "K='4'",  "K=\"5\"", "K=+6;7",   "L=8",           "=9", "K=abc",    "K==1",
+      "K=0b11", "K=0o17", "K=0X1",   "K=\" 7\"", "K=99999999999", "",   "  "};
+  for (int i = 0; i < 300; ++i) {
+    std::string text;
+    for (unsigned line = random() % 9; line > 0; --line) {
+      text += pieces[random() % std::size(pieces)] + "\r\n";
+    }
+    WriteContent(path, text);
+    // Empties the system's cache of settings files.
+    WritePrivateProfileStringW(nullptr, nullptr, nullptr, path.c_str());
+    EXPECT_EQ(ProfileFile::Load(path).Integer("S", "K", 77),
+              GetPrivateProfileIntW(L"S", L"K", 77, path.c_str()))
+        << text;
+  }
+}
+
+TEST(Win32Files, KeepTheirOtherAttributes) {
+  const ScratchDirectory directory;
+  const auto path = directory / "a.txt";
+  WriteContent(path, "old");
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  const DWORD before = GetFileAttributesW(path.c_str());
+  EXPECT_TRUE(SetReadOnly(path, true));
+  EXPECT_EQ(GetFileAttributesW(path.c_str()), before | FILE_ATTRIBUTE_READONLY);
+  EXPECT_TRUE(SetReadOnly(path, false));
+  EXPECT_EQ(GetFileAttributesW(path.c_str()), before);
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+}
+
+TEST(Win32Files, AreNamedInTheAnsiCodePage) {
+  const ScratchDirectory directory;
+  const std::wstring wide = L"\u00E9.txt";
+  if (WideFromNarrow(NarrowFromWide(wide)) != wide) GTEST_SKIP() << "not in this code page";
+  const std::string text = TextFromPath(directory / wide);
+  WriteContent(PathFromText(text), "x");
+  EXPECT_EQ(Content(directory / wide), "x");
+  EXPECT_EQ(TextFromPath(PathFromText(text)), text);
+}
+
+std::uintptr_t got = 0;
+
+LRESULT CALLBACK WindowProcedure(HWND window, UINT id, WPARAM first, LPARAM second) {
+  if (id == WM_USER + 5) got = first;
+  return DefWindowProcW(window, id, first, second);
+}
+
+// A window's messages are not lost to a thread that takes its messages here.
+TEST(Win32MessageQueue, HandsWindowMessagesToTheirWindow) {
+  WNDCLASSW windowClass{};
+  windowClass.lpszClassName = L"PlatformTest";
+  windowClass.lpfnWndProc = WindowProcedure;
+  RegisterClassW(&windowClass);
+  HWND window = CreateWindowExW(0, windowClass.lpszClassName, L"", 0, 0, 0, 0, 0, HWND_MESSAGE,
+                                nullptr, nullptr, nullptr);
+  if (!window) GTEST_SKIP() << "no windows here";
+  PostMessageW(window, WM_USER + 5, 17, 0);
+  Message message;
+  while (got == 0 && TakeMessage(message, 60'000)) DispatchForeignMessage(message);
+  EXPECT_EQ(got, 17U);
+  DestroyWindow(window);
+  while (TakePendingMessage(message)) DispatchForeignMessage(message);
+}
+
+// As the end of the process leaves threads: killed, and with nothing set.
+TEST(Win32Thread, IsNotWaitedForAfterItWasKilled) {
+  Thread thread;
+  ASSERT_TRUE(thread.Start([] { Sleep(INFINITE); }));
+  UniqueHandle killer(OpenThread(THREAD_TERMINATE, FALSE, thread.Id()));
+  ASSERT_TRUE(killer);
+  TerminateThread(killer.get(), 0);
+  EXPECT_TRUE(thread.WaitMs(INFINITE));
+  EXPECT_FALSE(thread.Running());
+}
+
+}  // namespace
+}  // namespace merovane::platform
