@@ -41,3 +41,7 @@ else()
   target_link_libraries(merovane_header_only INTERFACE Threads::Threads)
 endif()
 target_compile_definitions(merovane_header_only INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)
+if(MEROVANE_SANITIZE MATCHES "thread")
+  # ThreadSanitizer knows no bare fences; Asio's are beside its own locks.
+  target_compile_definitions(merovane_header_only INTERFACE ASIO_DISABLE_FENCED_BLOCK)
+endif()
