@@ -259,6 +259,473 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo_MT(int32_t port, QV_CELL_I
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode(void);
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode_MT(int32_t port);
 
+/* ---- Flash items, NV items, registers ------------------------------------------------ */
+
+/** Reads a production flash item from its start.
+ * @param item         the item's id
+ * @param data         the item's bytes, as the handset holds them
+ * @param length       bytes wanted and room at `data`, 1 to 65535
+ * @param data_length  bytes stored; 0 with code 13, not written when the exchange failed
+ * @param timeout_ms   of the answer
+ * @return 0, also when the handset sent fewer bytes than wanted; 4; 5 when it sent more (the first `length` are
+ *   there); 13 when it sent none */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash(
+    uint16_t item, uint8_t *data, int32_t length, uint32_t *data_length, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash_MT(
+    int32_t port, uint16_t item, uint8_t *data, int32_t length, uint32_t *data_length,
+    uint32_t timeout_ms);
+
+/** Writes a production flash item from its start.
+ * @param length      bytes at `data`, 1 to 65535
+ * @param timeout_ms  of the acknowledgement; 0: 4000
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
+    uint16_t item, const uint8_t *data, uint32_t length, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash_MT(
+    int32_t port, uint16_t item, const uint8_t *data, uint32_t length, uint32_t timeout_ms);
+
+/** Erases the production flash area.
+ * @param timeout_ms  above 0
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash(uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash_MT(int32_t port, uint32_t timeout_ms);
+
+/** Reads an NV item.
+ * @param item         the item's id
+ * @param data         the item's bytes, as the handset holds them
+ * @param capacity     bytes at `data`, above 0
+ * @param data_length  bytes stored; not written when the exchange failed
+ * @param timeout_ms   of the answer
+ * @return 0; 4; 5 when the item is longer than `capacity` (its start is there). An answer without an item id
+ *   gives 5 too, and `capacity` zeros */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv(
+    uint16_t item, uint8_t *data, uint32_t capacity, uint32_t *data_length, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv_MT(
+    int32_t port, uint16_t item, uint8_t *data, uint32_t capacity, uint32_t *data_length,
+    uint32_t timeout_ms);
+
+/** Writes an NV item; 1000 ms.
+ * @param length  bytes at `data`
+ * @return 0; 4 when `data` is null */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(uint16_t item, const uint8_t *data, uint32_t length);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
+    int32_t port, uint16_t item, const uint8_t *data, uint32_t length);
+
+/** Reads a part of an NV item; 2000 ms. Nothing but the frames goes to the Useful log.
+ * @param offset       of the part in the item
+ * @param length       of the part; cut to `capacity` without an error
+ * @param capacity     bytes at `data`, above 0
+ * @param data_length  bytes stored; written on success only
+ * @return 0; 4 for a null pointer or no capacity, and, behind the exchange, for a part that ends more than 2 bytes
+ *   behind the item. Bytes behind the item read as 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadNvFromHandset(
+    uint16_t item, uint32_t offset, uint32_t length, uint8_t *data, uint32_t capacity,
+    uint32_t *data_length);
+
+/** Reads registers; 1000 ms.
+ * @param access_width  0 bytes, 1 16-bit units, others 32-bit units
+ * @param address       of the first unit
+ * @param data          `count` units, in the handset's byte order. Units that did not arrive read as 0
+ * @param count         of units, above 0; at most 65519 bytes
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister(
+    uint32_t access_width, uint32_t address, uint8_t *data, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister_MT(
+    int32_t port, uint32_t access_width, uint32_t address, uint8_t *data, uint32_t count);
+
+/** Writes registers; 1000 ms. Arguments as QV_ReadRegister.
+ * @param data  `count` units, in the handset's byte order
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister(
+    uint32_t access_width, uint32_t address, const uint8_t *data, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister_MT(
+    int32_t port, uint32_t access_width, uint32_t address, const uint8_t *data, uint32_t count);
+
+/* ---- Identification ------------------------------------------------------------------ */
+
+/** Reads the chip's identification word; 1000 ms.
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID(uint32_t *id);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(int32_t port, uint32_t *id);
+
+/** Reads the chip's type word; 1000 ms.
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType(uint32_t *type);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(int32_t port, uint32_t *type);
+
+/** Reads the identification of an LCD's controller; 1000 ms.
+ * @param second_lcd  0: the first LCD's; otherwise the second's
+ * @param id          as it arrived
+ * @param capacity    bytes at `id`, above 0
+ * @param length      of the whole identification, also when it was cut
+ * @return 0; 4; 5 when it was cut to `capacity` */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
+    uint32_t second_lcd, uint8_t *id, int32_t capacity, uint32_t *length);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(
+    int32_t port, uint32_t second_lcd, uint8_t *id, int32_t capacity, uint32_t *length);
+
+/** Reads the flash description; 1000 ms.
+ * @param info  written on success only
+ * @return 0; 4; 15 when it counts more than 31 regions */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo(QV_FLASH_INFO *info);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(int32_t port, QV_FLASH_INFO *info);
+
+/** Reads the software version's text; 1000 ms.
+ * @param version   as it arrived: terminated by a zero only when the handset sends one, so clear it before
+ * @param capacity  bytes at `version`, above 0; a longer text is cut without an error
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(char *version, uint32_t capacity);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
+    int32_t port, char *version, uint32_t capacity);
+
+/** Exchanges ten words with the 7310K.
+ * @param command         its id, 8 bits
+ * @param words           ten
+ * @param answered_words  ten. An answer of 20 bytes and more fills all, one of 6 and more the first three, a
+ *   shorter one none
+ * @param timeout_ms      0: 1000
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand(
+    uint8_t command, const uint16_t *words, uint16_t *answered_words, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand_MT(
+    int32_t port, uint8_t command, const uint16_t *words, uint16_t *answered_words,
+    uint32_t timeout_ms);
+
+/** Waits for ten words of the 7310K, which it sends unasked. The wait is not lengthened by the setting.
+ * @param command         as in QV_Send7310KCommand
+ * @param answered_words  as there
+ * @param timeout_ms      0: 1000
+ * @return 0; 4; 11 when none came in time */
+MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand(
+    uint8_t command, uint16_t *answered_words, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand_MT(
+    int32_t port, uint8_t command, uint16_t *answered_words, uint32_t timeout_ms);
+
+/* ---- Fixed-NV information ------------------------------------------------------------ */
+
+/** Asks whether the handset's fixed NV is there; 1000 ms. Reported under the operation id of QV_ReadNv.
+ * @param mode  10: the information block is asked about, otherwise the NV items
+ * @return 0 when the handset acknowledges, whatever it says */
+MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV(uint32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV_MT(int32_t port, uint32_t mode);
+
+/** Writes IMEI 1 and 2, the Bluetooth address and the parameter block, those whose flags are set, without a
+ * checksum; 3000 ms. The other fields' flags are not looked at.
+ * @return 0; 4, and nothing sent, for a null record, an IMEI that does not begin with 15 decimal digits or an address
+ *   that does not begin with 12 hexadecimal ones */
+MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(const QV_FIXED_NV_INFO *info);
+MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect_MT(int32_t port, const QV_FIXED_NV_INFO *info);
+
+/** Writes the fields whose flags are set, in one frame with a checksum; 3000 ms.
+ * @return 0; 4, and nothing sent, for a null record and a wrong text in IMEI 1, IMEI 2 or the Bluetooth address. A
+ *   wrong text in IMEI 3, IMEI 4 or the second address is not refused: zeros are written for it */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo(const QV_FIXED_NV_INFO *info);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
+    int32_t port, const QV_FIXED_NV_INFO *info);
+
+/** Reads all fields; 3000 ms.
+ * @param info  its flags stay as they were. With codes 4, 6 and 34 all of it does; with the link's codes it is filled
+ *   as from an empty block: IMEIs and addresses of zeros. A damaged digit of an IMEI reads as a letter a to f
+ * @return 0; 4; 5 for a block of more than 108 bytes (read all the same); 6 for an empty one; 34 when its checksum
+ *   does not match */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(QV_FIXED_NV_INFO *info);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(int32_t port, QV_FIXED_NV_INFO *info);
+
+/* ---- Serial numbers, GUID, production data ------------------------------------------- */
+
+/** Reads the serial number from where the handset keeps it: production flash item 0, or the production block when the
+ * item begins with the block's magic. 4000 ms for each of two reads (3000 for the block), whose lines and
+ * operation ids are those of QV_ReadFlash and QV_FastReadProduct.
+ * @param serial_number  24 bytes, padded with zeros
+ * @param capacity       bytes at `serial_number`, above 0
+ * @return 0; 4; 5 when it was cut to `capacity`, or when the production block has more than 256 bytes (then nothing
+ *   is stored); else the code of the read that failed */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(uint8_t *serial_number, uint32_t capacity);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN_MT(
+    int32_t port, uint8_t *serial_number, uint32_t capacity);
+
+/** QV_ReadSN for the second serial number. */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2(uint8_t *serial_number, uint32_t capacity);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2_MT(
+    int32_t port, uint8_t *serial_number, uint32_t capacity);
+
+/** Writes the serial number to where the handset keeps it, and all else there back as it was read. A handset with
+ * neither layout gets the one that the settings file names, its other bytes zero.
+ * Everything is read before the one frame is sent that carries the whole: interrupted before, the handset is as it was.
+ * 4000 ms for the magic, 8000 for the whole item (3000 for the block), 3000 for the write.
+ * @param length  bytes at `serial_number`, 1 to 23
+ * @return 0; 4; 13 when a flash read came short; else the code of the step that failed, nothing written after a
+ *   failed read */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN(const uint8_t *serial_number, uint32_t length);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN_MT(
+    int32_t port, const uint8_t *serial_number, uint32_t length);
+
+/** QV_WriteSN for the second serial number. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2(const uint8_t *serial_number, uint32_t length);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
+    int32_t port, const uint8_t *serial_number, uint32_t length);
+
+/** Reads the handset's GUID; 4000 ms. Its lines and operation id are those of QV_ReadFlash.
+ * @param guid  16 bytes, as the handset holds them
+ * @return 0; 4; else the code of the read */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(uint8_t *guid);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(int32_t port, uint8_t *guid);
+
+/** Writes the production block and its checksum; 3000 ms.
+ * @param length  bytes at `block`, 256 in handsets that keep their serial numbers there
+ * @return 0; 4 when `block` is null */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(const uint8_t *block, uint32_t length);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct_MT(
+    int32_t port, const uint8_t *block, uint32_t length);
+
+/** Reads the production block; 3000 ms.
+ * @param block     as the handset holds it, without its checksum
+ * @param capacity  bytes at `block`, above 0 and all writable
+ * @param length    of the whole block, also when it was cut; 0 on failure
+ * @return 0; 4; 5 when it was cut to `capacity`; 13 for an answer below 2 bytes; 34 when its checksum does not match,
+ *   as that of a block above 998 bytes does not */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(
+    uint8_t *block, uint32_t capacity, uint32_t *length);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct_MT(
+    int32_t port, uint8_t *block, uint32_t capacity, uint32_t *length);
+
+/** Reads the version block. Arguments and results as QV_FastReadProduct. */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion(
+    uint8_t *block, uint32_t capacity, uint32_t *length);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion_MT(
+    int32_t port, uint8_t *block, uint32_t capacity, uint32_t *length);
+
+/** Reads how many IMEIs the handset holds. It waits only as long as the setting "Inc Recv Timeout" says: without one
+ * it gives 11.
+ * @param count  the answer's first word in this machine's byte order, whatever the handset's; written with code 13 too
+ * @return 0; 4; 13 for an answer below 10 bytes */
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(uint32_t *count);
+MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount_MT(int32_t port, uint32_t *count);
+
+/* ---- Peripherals --------------------------------------------------------------------- */
+
+/** Switches the LED on (non-zero) or off. Nothing is awaited. Handsets cannot tell it from QV_LcdOn(1), nor
+ * QV_LedOn(0) from QV_VibrationOn(0): the codes are the same. */
+MEROVANE_API int32_t MEROVANE_CALL QV_LedOn(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_LedOn_MT(int32_t port, uint32_t on);
+
+/** Switches the vibrator on (non-zero) or off. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn_MT(int32_t port, uint32_t on);
+
+/** Switches the LCD on (non-zero) or off. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn_MT(int32_t port, uint32_t on);
+
+/** Switches the key light on (non-zero) or off. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn_MT(int32_t port, uint32_t on);
+
+/** Switches the camera on (non-zero) or off. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
+
+/** Measures an ADC channel.
+ * @param channel     the handset's number of it
+ * @param value       2 bytes, most significant first; written on success only
+ * @param timeout_ms  above 0
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
+    uint8_t channel, uint8_t *value, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
+    int32_t port, uint8_t channel, uint8_t *value, uint32_t timeout_ms);
+
+/** Measures an ADC channel.
+ * @param channel      the handset's number of it
+ * @param value        written on success only, as the next two
+ * @param third_byte   of the answer; null: not wanted
+ * @param fourth_byte  of the answer; null: not wanted
+ * @param timeout_ms   0: 1000
+ * @return 0; 4 when `value` is null */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
+    uint8_t channel, uint16_t *value, uint8_t *third_byte, uint8_t *fourth_byte,
+    uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
+    int32_t port, uint8_t channel, uint16_t *value, uint8_t *third_byte, uint8_t *fourth_byte,
+    uint32_t timeout_ms);
+
+/** Measures the battery; 1000 ms.
+ * @param voltage  in the handset's unit, commonly millivolts; 0 is stored when the exchange failed
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(uint32_t *voltage);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt_MT(int32_t port, uint32_t *voltage);
+
+/** Makes the handset act as if a key were pressed; 1000 ms.
+ * @param key  the handset's code of it
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard(uint32_t key);
+MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t key);
+
+/* ---- GPS ----------------------------------------------------------------------------- */
+
+/** Opens (non-zero) or closes the receiver; 1000 ms.
+ * @return 0; 30 when the answer does not repeat the command. Answers below 264 bytes are not looked at, here and in the
+ *   next two */
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
+
+/** Writes the GPS settings; 1000 ms.
+ * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is the handset's
+ * @return 0; 4; 30 when the answer does not repeat the command and length */
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(const uint8_t *block);
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(int32_t port, const uint8_t *block);
+
+/** Reads the GPS settings; 1000 ms.
+ * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive read as 0
+ * @return 0; 4; 30 when the answer does not repeat the command and length */
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(uint8_t *block);
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv_MT(int32_t port, uint8_t *block);
+
+/* ---- Bluetooth as equipment under test ----------------------------------------------- */
+
+/** Enters (non-zero) or leaves the Bluetooth test mode; 3000 ms.
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode(uint32_t enter);
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode_MT(int32_t port, uint32_t enter);
+
+/** Stores the Bluetooth address; 3000 ms.
+ * @param address  6 bytes, most significant first
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr(const uint8_t *address);
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(int32_t port, const uint8_t *address);
+
+/** Reads the Bluetooth address; 1000 ms.
+ * @param address  6 bytes, most significant first
+ * @return 0; 4; 14 for an answer below 6 bytes, and for none */
+MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(uint8_t *address);
+MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(int32_t port, uint8_t *address);
+
+/** Starts (3000 ms) or stops (1000 ms) a radio test.
+ * @param start  0: stop; `words` is not looked at
+ * @param words  four: the handset's, except the second, which is the channel, 0 to 78
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(uint32_t start, const uint32_t *words);
+MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
+    int32_t port, uint32_t start, const uint32_t *words);
+
+/** Starts (3000 ms) or stops (1000 ms) a carrier for frequency adjustment.
+ * @param start    0: stop; `channel` is not looked at
+ * @param channel  0 to 78
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC(uint32_t start, uint32_t channel);
+MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC_MT(int32_t port, uint32_t start, uint32_t channel);
+
+/** Tries a value of the frequency DAC; 1000 ms.
+ * @param value  0 to 63
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue_MT(int32_t port, uint32_t value);
+
+/** Stores the value of the frequency DAC; 3000 ms.
+ * @param value  0 to 63
+ * @return 0; 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t value);
+
+/** Reads the stored value of the frequency DAC; 1000 ms.
+ * @return 0; 4; 14 for an answer below 4 bytes, and for none */
+MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(int32_t port, uint32_t *value);
+
+/* ---- WiFi as equipment under test ---------------------------------------------------- */
+
+/** Enters (non-zero) or leaves the WiFi test mode; 3000 ms.
+ * @return 0; 38 when the handset reports a failure, as for every WiFi function */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
+
+/** Stores the WiFi address; 3000 ms.
+ * @param address  6 bytes. They reach the handset reversed, and QV_WIFI_LoadAddr does not turn them back: what is
+ *   saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(const uint8_t *address);
+
+/** Reads the WiFi address; 1000 ms.
+ * @param address  6 bytes, as the handset holds them; written on success only
+ * @return 0; 4; 38, for an answer without six of them as well */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(uint8_t *address);
+
+/** Chooses the channel; 3000 ms.
+ * @param channel  1 to 13; others choose 6
+ * @return 0; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
+
+/** Chooses the data rate; 3000 ms.
+ * @param rate  1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52, 54, 58 or 65 Mbit/s (rounded down)
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetDateRat(uint32_t rate);
+
+/** Chooses the modulation mode; 3000 ms.
+ * @param mode  0 to 6
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetMode(uint32_t mode);
+
+/** Chooses the power control level; 3000 ms.
+ * @param level  1 to 5
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
+
+/** Switches the transmitter; 3000 ms.
+ * @param enable    0: off
+ * @param argument  the handset's
+ * @return 0; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetTxStatus(uint32_t enable, uint32_t argument);
+
+/** Switches the receiver; 1000 ms.
+ * @param mode  0 off, 1 on; others clear the received counts
+ * @return 0; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetRxStatus(uint32_t mode);
+
+/** Reads the received counts; 1000 ms.
+ * @param first   the handset's first count; 0 when no answer came
+ * @param second  its second
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_ReadRxValue(uint32_t *first, uint32_t *second);
+
+/** Reads, writes or sets a calibration factor.
+ * @param operation  0 reads the one that the handset holds (1000 ms), 1 writes it (8000 ms), 2 sets it (8000 ms)
+ * @param factor     read: all of it, on success; otherwise index and value are sent
+ * @return 0; 4; 38, and nothing sent, for another operation or an index that is not 1 to 5 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(uint32_t operation, QV_WIFI_FACTOR *factor);
+
+/** Stores the crystal's load capacitance; 3000 ms.
+ * @param capacitance  2 bytes, sent as they are
+ * @return 0; 4; 38 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(const uint8_t *capacitance);
+
+/* ---- DSP debugging ------------------------------------------------------------------- */
+
+/** Resets the DSP's RF parameters; 4000 ms. The DSP functions have no operation ids: results are reported under the one of
+ * the command before.
+ * @return 0; 35 when the handset reports a failure, as for every DSP function */
+MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
+
+/** Reads the DSP's registers or memory; 4000 ms.
+ * @param unused   not looked at
+ * @param width    bytes of a unit: 1, 2 or 4
+ * @param address  of the first unit
+ * @param data     `count` units, in the handset's byte order, on success. Units that did not arrive read as 0
+ * @param count    of units, above 0
+ * @return 0; 4; 35 */
+MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
+    uint32_t unused, uint32_t width, uint32_t address, uint8_t *data, uint16_t count);
+
+/** Writes a unit of the DSP's registers or memory; 4000 ms.
+ * @param unused  not looked at
+ * @param width   bytes of the unit: 1, 2 or 4
+ * @return 0; 4; 35 */
+MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
+    uint32_t unused, uint32_t width, uint32_t address, uint32_t value);
+
+/** Has the DSP plot a frame; 4000 ms. The arguments are the handset's.
+ * @return 0; 35 */
+MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
+    uint32_t a, uint8_t b, uint8_t c, uint16_t d, uint16_t e);
+
 #ifdef __cplusplus
 }
 #endif

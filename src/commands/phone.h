@@ -1,6 +1,8 @@
 // What commands work on: a handset's link and what the commands keep between calls.
 #pragma once
 
+#include "commands/serial_number_layout.h"
+#include "commands/calibration/calibration_state.h"
 #include "commands/test/mode_process.h"
 #include "link/phone_link.h"
 #include "link/settings.h"
@@ -10,12 +12,16 @@ namespace merovane {
 struct Phone {
   explicit Phone(LinkSettings& settings, platform::Clock& clock = platform::SystemClock(),
                  ChannelLibrary library = {})
-      : link(settings, clock, library) {}
+      : link(settings, clock, library),
+        newSerialNumberLayout(LayoutNamed(settings.serialNumberMagic)) {}
   Phone(const Phone&) = delete;
   Phone& operator=(const Phone&) = delete;
 
   PhoneLink link;
   ModeProcess modeProcess;
+  commands::CalibrationState calibration;
+  // What a handset without serial numbers gets.
+  SerialNumberLayout newSerialNumberLayout;
 };
 
 }  // namespace merovane

@@ -13,6 +13,7 @@ LinkSettings::LinkSettings(const std::filesystem::path& directory) {
   usefulLog = file.Integer("Record Comm Log", "Record Useful Log", 0) != 0;
   allLog = file.Integer("Record Comm Log", "Record All Log", 0) != 0;
   SetBigEndian(file.Integer("Endian Control", "Big Endian", 1) != 0);
+  serialNumberMagic = file.Text("WRITESN_DEFAULT_MAGIC", "MAGIC_NUMBER", "QV05");
   serverPort_ = file.Integer("Socket", "Port", 36667);
   if (file.Integer("Socket", "Connect ChannelServer", 0) != 0) UseChannelServer(true);
 }

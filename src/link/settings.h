@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <memory>
 #include <mutex>
+#include <string>
 
 #include "link/channel_server.h"
 #include "link/error_reporter.h"
@@ -25,6 +26,8 @@ class LinkSettings {
   std::atomic<std::uint32_t> receiveIncrementMs{0};
   std::atomic<bool> usefulLog{false};
   std::atomic<bool> allLog{false};
+  // The serial-number layout for handsets without one, as the file names it.
+  std::string serialNumberMagic;
 
   ErrorReporter errors;
 

@@ -24,8 +24,8 @@ bool IsWritable(const void* address, std::size_t bytes) {
   std::uintptr_t first = 0;
   std::uintptr_t last = 0;
   char write = 0;
-  while (std::fscanf(maps.get(), "%" SCNxPTR "-%" SCNxPTR " %*c%c%*[^\n]", &first, &last,
-                     &write) == 3) {
+  while (std::fscanf(maps.get(), "%" SCNxPTR "-%" SCNxPTR " %*c%c%*[^\n]", &first, &last, &write) ==
+         3) {
     if (last <= at) continue;
     if (first > at || write != 'w') break;
     at = last;

@@ -1,0 +1,28 @@
+// Fields of answers that may be shorter than they should be: what did not arrive reads as zero.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <span>
+
+namespace merovane::commands {
+
+// The payload's bytes from `offset` on into the whole of `out`.
+inline void CopyZeroFilled(std::span<const std::uint8_t> payload, std::size_t offset,
+                           std::span<std::uint8_t> out) {
+  const std::size_t there =
+      offset < payload.size() ? std::min(payload.size() - offset, out.size()) : 0;
+  if (there > 0) std::memcpy(out.data(), payload.data() + offset, there);
+  if (there < out.size()) std::memset(out.data() + there, 0, out.size() - there);
+}
+
+template <std::size_t kBytes>
+std::array<std::uint8_t, kBytes> FirstBytes(std::span<const std::uint8_t> payload) {
+  std::array<std::uint8_t, kBytes> bytes;
+  CopyZeroFilled(payload, 0, bytes);
+  return bytes;
+}
+
+}  // namespace merovane::commands

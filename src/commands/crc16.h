@@ -1,0 +1,19 @@
+// The checksum over blocks of production data.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace merovane::commands {
+
+// CRC-16/ARC: polynomial 0x8005, reflected, initial value 0, no final XOR.
+std::uint16_t Crc16Arc(std::span<const std::uint8_t> data);
+
+// Blocks travel with their checksum behind them, in the handset's byte order.
+inline constexpr std::size_t kChecksumBytes = 2;
+std::vector<std::uint8_t> WithChecksum(std::span<const std::uint8_t> block);
+// The last two of at least two bytes are the checksum of those before them.
+bool ChecksumMatches(std::span<const std::uint8_t> blockWithChecksum);
+
+}  // namespace merovane::commands

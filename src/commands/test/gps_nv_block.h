@@ -1,0 +1,21 @@
+// The GPS settings block, which the fixed-NV information carries as well.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "link/byte_order.h"
+
+namespace merovane::commands {
+
+inline constexpr std::size_t kGpsNvBytes = 44;
+
+// Between a caller's block and the handset's, either way: one word has a byte order, the rest is
+// the handset's own.
+inline void ConvertGpsNvBlock(std::span<std::uint8_t, kGpsNvBytes> block) {
+  constexpr std::size_t kSwappedWord = 24;
+  SwapArray32(block.subspan<kSwappedWord, 4>());
+}
+
+}  // namespace merovane::commands
