@@ -1,0 +1,62 @@
+// One connection to a channel server, served by a thread of its own.
+#pragma once
+
+#include <asio.hpp>
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <span>
+#include <vector>
+
+#include "receivers.h"
+#include "support/chunk_arena.h"
+#include "support/stop_signal.h"
+#include "support/worker_thread.h"
+
+namespace tollvane {
+
+class Connection : public std::enable_shared_from_this<Connection> {
+ public:
+  // Connects to the server on 127.0.0.1, within `limitMs`. It happens on the calling thread alone,
+  // since the new one may not run before the caller has returned from loading a library. Null on
+  // failure.
+  static std::shared_ptr<Connection> Open(std::uint16_t port, std::uint32_t limitMs,
+                                          std::shared_ptr<Receivers> receivers,
+                                          std::shared_ptr<companions::ChunkArena> arena);
+  Connection(std::shared_ptr<Receivers> receivers, std::shared_ptr<companions::ChunkArena> arena);
+
+  // False when the connection is gone or the data do not fit in the backlog.
+  bool Send(std::span<const std::byte> data);
+  // Sends what is in the backlog if the server takes it soon, then disconnects.
+  // Nothing is posted after it has returned.
+  void End();
+
+ private:
+  bool Connect(std::uint16_t port, std::uint32_t limitMs);
+  bool StartThread();
+  // The ones below run on the connection's thread.
+  void Receive();
+  void SendBacklog();
+  void Finish();
+  void Close();
+
+  const std::shared_ptr<Receivers> receivers_;
+  const std::shared_ptr<companions::ChunkArena> arena_;
+  companions::StopSignal stop_;
+  asio::io_context io_{1};
+  asio::ip::tcp::socket socket_{io_};
+  asio::executor_work_guard<asio::io_context::executor_type> work_{io_.get_executor()};
+  std::atomic<bool> connected_{false};
+
+  std::mutex backlogMutex_;
+  std::vector<std::byte> backlog_;
+  std::vector<std::byte> beingSent_;
+  bool sending_ = false;    // a send is under way or about to start
+  bool finishing_ = false;  // close as soon as the backlog is empty
+
+  companions::WorkerThread thread_;
+};
+
+}  // namespace tollvane
