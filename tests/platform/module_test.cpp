@@ -25,6 +25,19 @@ TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
   EXPECT_EQ(module.Find("PlatformProbeAnswer"), nullptr);
 }
 
+// The system lets no thread end while a library is being unloaded on Windows; waiting for one there
+// must not take the whole limit.
+TEST(Module, IsUnloadedWithoutWaitingInVainForItsThreads) {
+  bool endedInTime = false;
+  Module module;
+  ASSERT_TRUE(module.Load("PlatformProbe"));
+  const auto start = reinterpret_cast<void (*)(bool*)>(module.Find("PlatformProbeStartThread"));
+  ASSERT_NE(start, nullptr);
+  start(&endedInTime);
+  module.Free();
+  EXPECT_TRUE(endedInTime);
+}
+
 TEST(Module, IsNotLoadedWhenItIsMissingOrNoLibrary) {
   Module module;
   ASSERT_TRUE(module.Load("PlatformProbe"));

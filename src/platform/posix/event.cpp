@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cerrno>
 #include <chrono>
+#include <climits>
 #include <condition_variable>
 #include <mutex>
 
@@ -47,8 +48,10 @@ bool Event::WaitMs(std::uint32_t ms) {
 
 namespace {
 
-bool Ready(int descriptor, short events) {
-  pollfd entry{descriptor, events, 0};
+// Ready now, without waiting, for what `events` says; never for a number that is no descriptor.
+bool Ready(std::intptr_t handle, short events) {
+  if (handle > INT_MAX) return false;
+  pollfd entry{static_cast<int>(handle), events, 0};
   return poll(&entry, 1, 0) == 1 && (entry.revents & events) != 0;
 }
 
@@ -57,21 +60,20 @@ bool Ready(int descriptor, short events) {
 bool CallerEvent::IsNull() const { return handle_ <= 0; }
 
 void CallerEvent::Set() const {
-  const int descriptor = static_cast<int>(handle_);
   // A counter that is full is set already; writing to it would wait.
-  if (IsNull() || !Ready(descriptor, POLLOUT)) return;
+  if (IsNull() || !Ready(handle_, POLLOUT)) return;
   const std::uint64_t one = 1;
-  while (write(descriptor, &one, sizeof one) < 0 && errno == EINTR) {
+  while (write(static_cast<int>(handle_), &one, sizeof one) < 0 && errno == EINTR) {
   }
 }
 
 void CallerEvent::Reset() const {
   if (IsNull()) return;
-  const int descriptor = static_cast<int>(handle_);
   // One read empties a counter; one made as a semaphore gives 1 at a time. The limit is for
   // descriptors that are something else and never run dry.
   constexpr int kMostReads = 4096;
-  for (int i = 0; i < kMostReads && Ready(descriptor, POLLIN); ++i) {
+  for (int i = 0; i < kMostReads && Ready(handle_, POLLIN); ++i) {
+    const int descriptor = static_cast<int>(handle_);
     std::uint64_t count = 0;
     iovec into{&count, sizeof count};
     // Another reader may have been quicker: a blocking descriptor must not hold us then.

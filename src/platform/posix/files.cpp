@@ -43,7 +43,9 @@ bool AppendFile::Open(const std::filesystem::path& path) {
   Close();
   std::error_code error;
   if (path.has_parent_path()) std::filesystem::create_directories(path.parent_path(), error);
-  handle_ = open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY, 0666);
+  // A pipe without a reader is refused instead of waited for.
+  constexpr int kFlags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+  handle_ = open(path.c_str(), kFlags, 0666);
   return IsOpen();
 }
 

@@ -43,7 +43,13 @@ void SetConsole(ConsoleState state) {
     return;
   }
   // Fails when the process has one already.
-  if (AllocConsole()) console.allocated = true;
+  if (AllocConsole()) {
+    console.allocated = true;
+    // Closing the window would end the host program.
+    if (HWND window = GetConsoleWindow()) {
+      DeleteMenu(GetSystemMenu(window, FALSE), SC_CLOSE, MF_BYCOMMAND);
+    }
+  }
   if (!console.output) {
     console.output = FileHandle(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
                                             FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
