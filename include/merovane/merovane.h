@@ -726,6 +726,1312 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
     uint32_t a, uint8_t b, uint8_t c, uint16_t d, uint16_t e);
 
+/* ---- Calibration: modes and activation ----------------------------------------------- */
+
+/** Changes the handset's layer-1 software to GSM (mode 1) or TD-SCDMA (mode 7) calibration. Other modes send nothing.
+ * Mode 1 waits 3000 ms for the acknowledgement and then, for the setting "Inc Recv Timeout" alone, for the
+ * handset's confirmation; without that setting it ends in 11 though the handset has changed its mode.
+ * Mode 7 waits 1000 ms and does not look at the outcome.
+ * @return 0; 35 when the handset confirms with a status other than 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode(int32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_t mode);
+
+/** Prepares TD-SCDMA (mode 7) or GSM (mode 1) calibration. Other modes send nothing.
+ * Mode 7 waits 1000 ms and is confirmed as mode 1 of QV_ChangeGSMTDCalMode is; mode 1 waits 1000 ms and does not look
+ * at the outcome.
+ * @return 0; 35 when the handset confirms with a status other than 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode(int32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode_MT(int32_t port, int32_t mode);
+
+/** Activates (non-zero) or deactivates the calibration layer; 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_Active(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_Active_MT(int32_t port, uint32_t on);
+
+/** Chooses the band that the following commands work in; 1000 ms.
+ * @param band  0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark(uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MT(int32_t port, uint32_t band);
+
+/* ---- Calibration: GSM frequency and receiver ----------------------------------------- */
+
+/** Starts (non-zero) or stops transmitting with a frequency trim; 1000 ms.
+ * @param parameters  not used to stop
+ * @return 0; 4 when `parameters` is null and would be used */
+MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart(uint32_t start, const QV_AFC_PARAMETERS *parameters);
+MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
+    int32_t port, uint32_t start, const QV_AFC_PARAMETERS *parameters);
+
+/** Runs an extended AFC measurement and collects its report, or, with start 0, stops one. For the default phone object
+ * only. Each block of the report is waited for at most 3 times 3000 ms (the first) or 1000 ms; a block of 500 bytes or
+ * less ends the report, so that a first one of that length, or one that announces no further block, leaves it empty.
+ * @param run  not used to stop. Report and its length are written on success only; up to 27648 bytes, as words
+ * @return 0; 4 when `run` is null or its count above 16; 10 when the report is longer than that */
+MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(uint32_t start, QV_EXTENDED_AFC *run);
+
+/** Starts (non-zero) a receive measurement and takes its report, or stops it. Waits 1000 ms for the acknowledgement,
+ * 200 ms for the measurement and 1000 ms for the report.
+ * @param parameters, measured  not used to stop. Fields that the report is too short for read 0
+ * @return 0; 4 when a pointer is null that would be used; 6 or 9 when no report came; 15 when the report is empty,
+ *   and `measured` is zeroed */
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart(
+    uint32_t start, const QV_AGC_PARAMETERS *parameters, QV_AGC_RESULT *measured);
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MT(
+    int32_t port, uint32_t start, const QV_AGC_PARAMETERS *parameters, QV_AGC_RESULT *measured);
+
+/* ---- Calibration: GSM transmit power ------------------------------------------------- */
+
+/** Sets a power step factor; 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MT(int32_t port, const QV_POWER_STEP *step);
+
+/** Sets the power amplifier; 1000 ms. Only the low 16 bits of `fourth` are put into the handset's byte order.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_PASetting(const QV_POWER_STEP *setting);
+MEROVANE_API int32_t MEROVANE_CALL QV_PASetting_MT(int32_t port, const QV_POWER_STEP *setting);
+
+/** Sets the ramps of a band; 1000 ms.
+ * @param flag       sent as 1 when not 0
+ * @param ramp_up    16 points
+ * @param ramp_down  16 points
+ * @param band       0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting(
+    uint32_t flag, const uint16_t *ramp_up, const uint16_t *ramp_down, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_MT(
+    int32_t port, uint32_t flag, const uint16_t *ramp_up, const uint16_t *ramp_down,
+    uint32_t band);
+
+/** Switches to maximum transmit power. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus(void);
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MT(int32_t port);
+
+/** Leaves maximum transmit or receive power. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus(void);
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MT(int32_t port);
+
+/** Switches to maximum receive power. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus(void);
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MT(int32_t port);
+
+/** Leaves maximum transmit or receive power. Nothing is awaited. */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus(void);
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
+
+/* ---- Calibration: IMEI --------------------------------------------------------------- */
+
+/** Reads the IMEI from the handset's NV item 5; 1000 ms.
+ * @param imei  8 bytes, two digits each, as the handset keeps them
+ * @return 0; 4 for a null pointer; 15 when the answer is of another item or has fewer than 8 bytes */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(uint8_t *imei);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(int32_t port, uint8_t *imei);
+
+/** The same as text.
+ * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
+ *   text is cut to 15 characters
+ * @return as QV_ReadIMEI */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(int32_t port, char *text);
+
+/* ---- Calibration data: ADC ----------------------------------------------------------- */
+
+/** Reads item 1 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 1. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 1. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in RAM: one value from offset 2. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in RAM: one value from offset 2. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 2. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 2. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in RAM: one value from offset 3. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in RAM: one value from offset 3. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 3. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1_MT(int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 3. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 4. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0_MT(
+    int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 4. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
+    int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 5. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1_MT(
+    int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 5. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
+    int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset 11. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7(uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7_MT(
+    int32_t port, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset 11. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7(uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
+    int32_t port, uint32_t value);
+
+/** Reads item 1 in flash: one value from offset `offset`. 1000 ms.
+ * @param offset  in elements; 8 bits
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC(uint8_t offset, uint32_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_MT(
+    int32_t port, uint8_t offset, uint32_t *value);
+
+/** Writes item 1 in flash: one value from offset `offset`. 1000 ms.
+ * @param offset  in elements; 8 bits */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC(uint8_t offset, uint32_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
+    int32_t port, uint8_t offset, uint32_t value);
+
+/* ---- Calibration data: AFC ----------------------------------------------------------- */
+
+/** Reads item 2 in RAM: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center_MT(int32_t port, uint16_t *value);
+
+/** Writes item 2 in RAM: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t port, uint16_t value);
+
+/** Reads item 2 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center_MT(
+    int32_t port, uint16_t *value);
+
+/** Writes item 2 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
+    int32_t port, uint16_t value);
+
+/** Reads item 3 in RAM: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits_MT(
+    int32_t port, uint16_t *value);
+
+/** Writes item 3 in RAM: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_MT(
+    int32_t port, uint16_t value);
+
+/** Reads item 3 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits_MT(
+    int32_t port, uint16_t *value);
+
+/** Writes item 3 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits_MT(
+    int32_t port, uint16_t value);
+
+/** Reads item 5 in RAM: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length_MT(
+    int32_t port, uint16_t *value);
+
+/** Writes item 5 in RAM: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
+    int32_t port, uint16_t value);
+
+/** Reads item 5 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length_MT(
+    int32_t port, uint16_t *value);
+
+/** Writes item 5 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
+    int32_t port, uint16_t value);
+
+/** Reads item 6 in RAM: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC_MT(int32_t port, uint16_t *value);
+
+/** Writes item 6 in RAM: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, uint16_t value);
+
+/** Reads item 6 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC_MT(int32_t port, uint16_t *value);
+
+/** Writes item 6 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, uint16_t value);
+
+/** Reads item 7 in RAM: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC_MT(int32_t port, uint16_t *value);
+
+/** Writes item 7 in RAM: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, uint16_t value);
+
+/** Reads item 7 in flash: one value. 1000 ms.
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC(uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC_MT(int32_t port, uint16_t *value);
+
+/** Writes item 7 in flash: one value. 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, uint16_t value);
+
+/** Reads item 14 in RAM: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 14 in RAM: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr(const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/** Reads item 14 in flash: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 14 in flash: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr(const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/** Reads item 4 in RAM: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 4 in RAM: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr(const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/** Reads item 4 in flash: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 4 in flash: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr(const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/** Reads item 15 in RAM: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 15 in RAM: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr(
+    const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/** Reads item 15 in flash: 17 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr(
+    uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr_MT(
+    int32_t port, uint16_t *values);
+
+/** Writes item 15 in flash: 17 values. 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr(
+    const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr_MT(
+    int32_t port, const uint16_t *values);
+
+/* ---- Calibration data: APC ----------------------------------------------------------- */
+
+/** Reads item 21 of a band in RAM: 80 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 21 of a band in RAM: 80 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/** Reads item 21 of a band in flash: 80 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 21 of a band in flash: 80 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/** Reads item 36 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk(
+    uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 36 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk(
+    uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/** Reads item 36 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk(
+    uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 36 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk(
+    uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/* ---- Calibration data: AGC ----------------------------------------------------------- */
+
+/** Reads item 24 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index(
+    uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 24 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index(
+    uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/** Reads item 24 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index(
+    uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 24 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index(
+    uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/** Reads item 18 of a band in RAM: `count` values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param count   of values, 1 to 32758
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer, another band or another count; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
+    uint32_t band, uint16_t *values, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value_MT(
+    int32_t port, uint32_t band, uint16_t *values, uint32_t count);
+
+/** Writes item 18 of a band in RAM: `count` values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param count   of values, 1 to 32758
+ * @return 0; 4 for a null pointer, another band or another count */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value(
+    uint32_t band, const uint16_t *values, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
+    int32_t port, uint32_t band, const uint16_t *values, uint32_t count);
+
+/** Reads item 18 of a band in flash: `count` values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param count   of values, 1 to 32758
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer, another band or another count; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
+    uint32_t band, uint16_t *values, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value_MT(
+    int32_t port, uint32_t band, uint16_t *values, uint32_t count);
+
+/** Writes item 18 of a band in flash: `count` values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param count   of values, 1 to 32758
+ * @return 0; 4 for a null pointer, another band or another count */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value(
+    uint32_t band, const uint16_t *values, uint32_t count);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT(
+    int32_t port, uint32_t band, const uint16_t *values, uint32_t count);
+
+/** Reads item 23 of a band in RAM: 91 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 23 of a band in RAM: 91 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/** Reads item 23 of a band in flash: 91 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 23 of a band in flash: 91 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/* ---- Calibration data: ramp tables --------------------------------------------------- */
+
+/** Reads item 8 of a band in RAM: 20 values from offset 20 x `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   at most 3276
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer, another band or a greater index; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
+    uint32_t band, uint16_t index, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *values);
+
+/** Writes item 8 of a band in RAM: 20 values from offset 20 x `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   at most 3276
+ * @return 0; 4 for a null pointer, another band or a greater index */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram(
+    uint32_t band, uint16_t index, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, const uint16_t *values);
+
+/** Reads item 8 of a band in flash: 20 values from offset 20 x `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   at most 3276
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer, another band or a greater index; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
+    uint32_t band, uint16_t index, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *values);
+
+/** Writes item 8 of a band in flash: 20 values from offset 20 x `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   at most 3276
+ * @return 0; 4 for a null pointer, another band or a greater index */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash(
+    uint32_t band, uint16_t index, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, const uint16_t *values);
+
+/** Reads item 9 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 9 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 9 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 9 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 10 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 10 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 10 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 10 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 11 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram(uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 11 of a band in RAM: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram(uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/** Reads item 11 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash(uint32_t band, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
+    int32_t port, uint32_t band, uint16_t *value);
+
+/** Writes item 11 of a band in flash: one value. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash(uint32_t band, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
+    int32_t port, uint32_t band, uint16_t value);
+
+/** Reads item 9 of a band in flash: 16 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 9 of a band in flash: 16 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/** Reads item 10 of a band in flash: 16 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
+    uint32_t band, uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
+    int32_t port, uint32_t band, uint16_t *values);
+
+/** Writes item 10 of a band in flash: 16 values. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash(
+    uint32_t band, const uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
+    int32_t port, uint32_t band, const uint16_t *values);
+
+/* ---- Calibration data: transmit timing and gain -------------------------------------- */
+
+/** Reads item 12 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 12 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 12 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 12 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 13 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 13 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 13 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 13 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 38 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 38 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 38 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 38 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 39 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 39 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 39 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Writes item 39 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @return 0; 4 for another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK(
+    uint32_t band, uint16_t index, uint16_t value);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t value);
+
+/** Reads item 37 of a band in RAM: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/** Reads item 37 of a band in flash: one value from offset `index`. 1000 ms.
+ * @param band    0, 1, 3 or 4
+ * @param index   in elements
+ * @param value   those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK(
+    uint32_t band, uint16_t index, uint16_t *value);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
+    int32_t port, uint32_t band, uint16_t index, uint16_t *value);
+
+/* ---- Calibration data: IMEIs in flash ------------------------------------------------ */
+
+/** Reads item 30 in flash, an IMEI. 1000 ms.
+ * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters; a digit that the answer lacks shows as 0
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI(char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI_MT(int32_t port, char *text);
+
+/** Writes item 30 in flash, an IMEI. 3000 ms.
+ * @param text  begins with 15 decimal digits; what follows does not matter
+ * @return 0; 4 for a null pointer or another character among the first 15 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI(const char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(int32_t port, const char *text);
+
+/** Reads item 35 in flash, an IMEI. 1000 ms.
+ * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters; a digit that the answer lacks shows as 0
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI(char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI_MT(int32_t port, char *text);
+
+/** Writes item 35 in flash, an IMEI. 3000 ms.
+ * @param text  begins with 15 decimal digits; what follows does not matter
+ * @return 0; 4 for a null pointer or another character among the first 15 */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI(const char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(int32_t port, const char *text);
+
+/* ---- Calibration data: saving, RF scheme --------------------------------------------- */
+
+/** Saves all items in RAM to flash, through item 32.
+ * @param timeout_ms  of the acknowledgement; saving can take many seconds
+ * @return 0; 11 when the handset had not acknowledged in time */
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t timeout_ms);
+
+/** Reads item 33 in RAM: 6 values. 1000 ms.
+ * @param values  those that the answer lacks stay as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(uint16_t *values);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(int32_t port, uint16_t *values);
+
+/* ---- Calibration data: temperature and EDGE compensation ----------------------------- */
+
+/** Reads or writes item 48: 5 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_OSCI_TEMP_COM_IN_DAC(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 49: 9 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TX_COMPENSATE(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 50: 9 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TX_COMPENSATE(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 51: 6 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TXPOWER_COMPENSATE(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 52: 6 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TXPOWER_COMPENSATE(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 53: 4 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TX_COMPENSATE_BOUNDARY_ARFCN_INDEX(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 54: 4 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_COMPENSATE_ADC(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 55: 5 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_LEVEL_COMPENSATE(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 56: 4 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_COMPENSATE_ADC(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 57: 5 values. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 58: one value. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/** Reads or writes item 59: one value. 1000 ms. For the default phone object only.
+ * @param read    not 0: read; 0: write
+ * @param flash   not 0: in flash; 0: in RAM
+ * @param band    the band word, unchecked
+ * @param values  reading leaves those that the answer lacks as they were
+ * @return 0; 4 for a null pointer; 13 when the answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
+    uint32_t read, uint32_t flash, uint16_t band, uint16_t *values);
+
+/* ---- Calibration: multi-chip handsets ------------------------------------------------ */
+
+/** Chooses the band that the following commands work in. Nothing is sent.
+ * @param band  0, 1, 3 or 4
+ * @return 0; 4 for another band, and the old one stays */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip_MT(int32_t port, uint32_t band);
+
+/** Chooses how QV_AfcStart_MChip trims: with CDAC and CAFC (not 0) or with the CAFC centre (0). Nothing is sent.
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t mode);
+
+/** Sets the four transmit parameters that go to the handset whenever its transmitter is switched; all are 0 until
+ * then. Nothing is sent. For the default phone object only.
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetTxParam(
+    uint32_t first, uint16_t second, uint16_t third, uint16_t fourth);
+
+/** Activates (non-zero) or deactivates the calibration layer; 1000 ms. */
+MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip(uint32_t on);
+MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on);
+
+/** Tunes, sets the power control level and switches the transmitter on (non-zero), or switches it off. Ends at the
+ * first step that fails; each is waited for 1000 ms. Tuning to the channel tuned to last is left out.
+ * @param channel, level  not used to switch off */
+MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip(uint32_t on, uint16_t channel, uint16_t level);
+MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
+    int32_t port, uint32_t on, uint16_t channel, uint16_t level);
+
+/** Tunes to values[1], sets the power control level values[2] and the trim, and switches the transmitter on
+ * (non-zero); or switches it off. The trim is CAFC centre values[0], or CDAC values[0] and CAFC values[3]: see
+ * QV_SetPhoneAfcMode. Ends at the first step that fails; each is waited for 1000 ms. Channel and trims are sent only
+ * when they differ from those sent last; all are taken to be 0 at first.
+ * @param parameters  not used to stop
+ * @return 0; 4 when `parameters` is null and would be used */
+MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
+    uint32_t start, const QV_AFC_PARAMETERS *parameters);
+MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
+    int32_t port, uint32_t start, const QV_AFC_PARAMETERS *parameters);
+
+/** Tunes to words[0], sets the power control level words[3], switches the receiver on with words[1] and [2] and, after
+ * 200 ms, reads RSSI and RxLevel; or, with start 0, switches the receiver off with the same words. Ends at the first
+ * step that fails; steps are waited for 1000 ms, measurements 3000 ms.
+ * @param measured  `value` stays as it was; not used to stop
+ * @return 0; 4 for a null pointer that would be used (`parameters` always is); 13; 32 when six reads gave an RSSI of 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
+    uint32_t start, const QV_AGC_PARAMETERS *parameters, QV_AGC_RESULT *measured);
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
+    int32_t port, uint32_t start, const QV_AGC_PARAMETERS *parameters, QV_AGC_RESULT *measured);
+
+/** Measures the receiver's direct-current offset on channel 61 of band 0, which becomes the current band. The receiver
+ * is switched off at the end whatever happened.
+ * @param first   the second word of the measurement
+ * @param second  the first word of the measurement
+ * @return 0; 4 for a null pointer; else the code of the first step that failed */
+MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr(uint16_t *first, uint16_t *second);
+MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr_MT(
+    int32_t port, uint16_t *first, uint16_t *second);
+
+/** Sends a non-signalling command.
+ * @param answer      written for command 6 only, also when the handset reports a failure; for others it may be null
+ * @param timeout_ms  of the answer
+ * @return 0; 4 for a null pointer that would be used; 33 when the answer has fewer than 8 bytes or reports a failure */
+MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd(
+    const QV_NON_SIGNAL_COMMAND *command, QV_NON_SIGNAL_ANSWER *answer, uint32_t timeout_ms);
+MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
+    int32_t port, const QV_NON_SIGNAL_COMMAND *command, QV_NON_SIGNAL_ANSWER *answer,
+    uint32_t timeout_ms);
+
+/* ---- Calibration: power factors and ramps of multi-chip handsets --------------------- */
+
+/** Writes `third` to item 21 in RAM in the band of QV_SetPhoneClassmark_MChip. 1000 ms.
+ * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
+ * and `fourth` are those that this function wrote last.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Writes `third` to item 36 in flash in the band `first`. 1000 ms.
+ * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
+ * and `fourth` are those that this function wrote last.
+ * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Writes `third` to item 36 in RAM in the band `first`. 1000 ms.
+ * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
+ * and `fourth` are those that this function wrote last.
+ * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Writes `third` to item 37 in flash in the band `first`. 1000 ms.
+ * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
+ * and `fourth` are those that this function wrote last.
+ * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Writes `third` to item 37 in RAM in the band `first`. 1000 ms.
+ * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
+ * and `fourth` are those that this function wrote last.
+ * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Writes two ramp tables in RAM: the items 9 and 11 when `flag` is not 0, else 8 and 10. 1000 ms each.
+ * @param first   16 points
+ * @param second  16 points
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip(
+    uint32_t flag, const uint16_t *first, const uint16_t *second, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip_MT(
+    int32_t port, uint32_t flag, const uint16_t *first, const uint16_t *second, uint32_t band);
+
+/** Reads two ramp tables in RAM: the items 9 and 11 when `flag` is not 0, else 8 and 10. 1000 ms each.
+ * @param first   16 points
+ * @param second  16 points; points that an answer lacks stay as they were
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band; 13 when an answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip(
+    uint32_t flag, uint16_t *first, uint16_t *second, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip_MT(
+    int32_t port, uint32_t flag, uint16_t *first, uint16_t *second, uint32_t band);
+
+/** Writes two ramp tables in flash: the items 9 and 11 when `flag` is not 0, else 8 and 10. 1000 ms each.
+ * @param first   16 points
+ * @param second  16 points
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band */
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip(
+    uint32_t flag, const uint16_t *first, const uint16_t *second, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip_MT(
+    int32_t port, uint32_t flag, const uint16_t *first, const uint16_t *second, uint32_t band);
+
+/** Reads two ramp tables in flash: the items 9 and 11 when `flag` is not 0, else 8 and 10. 1000 ms each.
+ * @param first   16 points
+ * @param second  16 points; points that an answer lacks stay as they were
+ * @param band    0, 1, 3 or 4
+ * @return 0; 4 for a null pointer or another band; 13 when an answer has no data */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip(
+    uint32_t flag, uint16_t *first, uint16_t *second, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
+    int32_t port, uint32_t flag, uint16_t *first, uint16_t *second, uint32_t band);
+
+/* ---- Calibration: TD-SCDMA ----------------------------------------------------------- */
+
+/** Starts a transmit sweep over a list of points; 1000 ms.
+ * @return 0; 4 for a null pointer or more than 8 points */
+MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep(const QV_TD_TX_SWEEP *sweep);
+MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep_MT(int32_t port, const QV_TD_TX_SWEEP *sweep);
+
+/** Starts transmitting; 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx(const QV_TD_TX_START *start);
+MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx_MT(int32_t port, const QV_TD_TX_START *start);
+
+/** Sets the power steps to sweep over; 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD(const QV_TD_POWER_SWEEP *sweep);
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD_MT(
+    int32_t port, const QV_TD_POWER_SWEEP *sweep);
+
+/** Sets a power step factor, with what QV_SetTDContTxRxMode said; 1000 ms.
+ * @return 0; 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(const QV_POWER_STEP *step);
+MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
+    int32_t port, const QV_POWER_STEP *step);
+
+/** Chooses continuous transmission and reception (not 0) for QV_PwrStepFactorSet_TD. Nothing is sent.
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode_MT(int32_t port, uint32_t mode);
+
+/** Reads the handset's mode; 1000 ms.
+ * @param data      the answer's payload, cut to `capacity`
+ * @param capacity  bytes at `data`, above 0
+ * @return 0; 4 for a null pointer or capacity 0; 5 when the payload was cut */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD(uint8_t *data, uint32_t capacity);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
+    int32_t port, uint8_t *data, uint32_t capacity);
+
+/** Puts a booting handset into a TD-SCDMA start mode and takes the next frame as its acknowledgement; 3000 ms.
+ * @param mode  128 is added, and the sum sent in 8 bits
+ * @return 0; 6 or 9 when no frame came; 16 when the frame is no acknowledgement */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD(uint32_t mode);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint32_t mode);
+
+/** Reads calibration parameters; 1000 ms.
+ * @param parameters  selector and count are given, the values written, on success only
+ * @return 0; 4 for a null pointer or a count above 3073; 13 when the handset returns fewer values; 15 when the answer
+ *   is too short for them */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(QV_TD_PARAMETERS *parameters);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(int32_t port, QV_TD_PARAMETERS *parameters);
+
+/** Writes calibration parameters; 1000 ms.
+ * @return 0; 4 for a null pointer or a count of 0 or above 3073; 13 when the handset took another number of values;
+ *   15 when its answer has fewer than 8 bytes */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(const QV_TD_PARAMETERS *parameters);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
+    int32_t port, const QV_TD_PARAMETERS *parameters);
+
 #ifdef __cplusplus
 }
 #endif

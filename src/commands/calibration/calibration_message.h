@@ -1,0 +1,60 @@
+// The message to the handset's layer 1 that carries most calibration commands: a 16-byte header and
+// the command's parameters.
+//
+//   offset 0  u16  message id
+//          2  u16  length of the whole message
+//          4  ...  zero
+//         16  ...  parameters
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "link/byte_order.h"
+#include "link/frame_codec.h"
+
+namespace merovane::commands {
+
+inline constexpr FrameId kCalibration{10, 0};
+// Carries the extended AFC run.
+inline constexpr FrameId kExtendedCalibration{10, 1};
+inline constexpr std::uint32_t kCalibrationTimeoutMs = 1000;
+
+// Bytes that nothing was put to are zero.
+template <std::size_t Bytes>
+class CalibrationMessage {
+ public:
+  explicit CalibrationMessage(std::uint16_t id) {
+    static_assert(Bytes >= 16);
+    U16(0, id);
+    U16(2, Bytes);
+  }
+
+  CalibrationMessage& U16(std::size_t offset, std::uint16_t value) {
+    PutU16(bytes_, offset, value);
+    return *this;
+  }
+  CalibrationMessage& U32(std::size_t offset, std::uint32_t value) {
+    PutU32(bytes_, offset, value);
+    return *this;
+  }
+  CalibrationMessage& U16s(std::size_t offset, std::span<const std::uint16_t> values) {
+    for (std::size_t at = 0; at < values.size(); ++at) U16(offset + 2 * at, values[at]);
+    return *this;
+  }
+  // A field that travels as this machine holds it.
+  CalibrationMessage& Raw(std::size_t offset, std::span<const std::uint8_t> data) {
+    std::ranges::copy(data, std::span(bytes_).subspan(offset, data.size()).begin());
+    return *this;
+  }
+
+  std::span<const std::uint8_t> Payload() const { return bytes_; }
+
+ private:
+  std::array<std::uint8_t, Bytes> bytes_{};
+};
+
+}  // namespace merovane::commands

@@ -1,0 +1,54 @@
+// What the calibration commands keep of one handset between calls.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace merovane::commands {
+
+// The value, index and level last written by one of the commands that set a factor.
+struct WrittenFactor {
+  std::uint16_t value;
+  std::uint32_t index;
+  std::uint16_t level;
+  friend bool operator==(const WrittenFactor&, const WrittenFactor&) = default;
+};
+
+inline constexpr std::size_t kMultiChipFactors = 0
+#define MULTI_CHIP_FACTOR(name, operation, item, storage, band) +1
+#define MULTI_CHIP_RAMP(storage, write, read)
+#include "commands/calibration/multi_chip_data.def"
+#undef MULTI_CHIP_FACTOR
+#undef MULTI_CHIP_RAMP
+    ;
+
+struct TransmitParameters {
+  std::uint32_t first = 0;
+  std::uint16_t second = 0;
+  std::uint16_t third = 0;
+  std::uint16_t fourth = 0;
+};
+
+struct CalibrationState {
+  // Multi-chip handsets: goes into the band word of every step.
+  std::uint16_t currentBand = 0;
+  // Not 0: trimmed with CDAC and CAFC; 0: with the CAFC centre.
+  std::uint32_t afcMode = 0;
+  TransmitParameters transmit;
+  bool transmitterOn = false;
+
+  // The values that steps wrote last. A handset begins with zeros.
+  std::uint16_t lastTch = 0;
+  std::uint16_t lastPcl = 0;
+  std::uint16_t lastCdac = 0;
+  std::uint16_t lastCafc = 0;
+  std::uint16_t lastCafcCenter = 0;
+  std::array<std::optional<WrittenFactor>, kMultiChipFactors> lastFactors;
+
+  // TD-SCDMA: not 0 for continuous transmission and reception.
+  std::uint32_t tdContinuousMode = 0;
+};
+
+}  // namespace merovane::commands

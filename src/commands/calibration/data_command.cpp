@@ -1,0 +1,74 @@
+#include "commands/calibration/data_command.h"
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <vector>
+
+#include "link/byte_order.h"
+
+namespace merovane::commands {
+namespace {
+
+constexpr std::size_t kAnswerHeaderBytes = 6;
+
+void ConvertInPlace(std::span<std::uint8_t> data, Element element) {
+  if (element == Element::U16) SwapArray16(data);
+  if (element == Element::U32) SwapArray32(data);
+}
+
+void PutHeader(std::span<std::uint8_t> request, const DataAddress& address, std::size_t dataBytes) {
+  PutU16(request, 0, static_cast<std::uint16_t>(address.storage));
+  PutU16(request, 2, address.band);
+  PutU16(request, 4, address.item);
+  PutU16(request, 6, address.offset);
+  PutU16(request, 8, static_cast<std::uint16_t>(dataBytes));
+}
+
+}  // namespace
+
+Answer AskWritingData(PhoneLink& link, const DataAddress& address,
+                      std::span<const std::uint8_t> data, Element element,
+                      std::uint32_t timeoutMs) {
+  std::vector<std::uint8_t> request(kDataHeaderBytes + data.size());
+  PutHeader(request, address, data.size());
+  const auto payload = std::span(request).subspan(kDataHeaderBytes);
+  std::ranges::copy(data, payload.begin());
+  ConvertInPlace(payload, element);
+  return {link, kWriteData, request, timeoutMs};
+}
+
+Result WriteData(PhoneLink& link, const DataAddress& address, std::span<const std::uint8_t> data,
+                 Element element, std::uint32_t timeoutMs) {
+  return AskWritingData(link, address, data, element, timeoutMs).result;
+}
+
+Result WriteWord(PhoneLink& link, const DataAddress& address, std::uint16_t value) {
+  std::array<std::uint8_t, sizeof(value)> data{};
+  std::memcpy(data.data(), &value, sizeof(value));
+  return WriteData(link, address, data, Element::U16);
+}
+
+Result ReadData(PhoneLink& link, const DataAddress& address, std::span<std::uint8_t> data,
+                Element element, std::uint32_t timeoutMs) {
+  std::array<std::uint8_t, kDataHeaderBytes> request{};
+  PutHeader(request, address, data.size());
+  const Answer answer(link, kReadData, request, timeoutMs);
+  if (!answer) return answer.result;
+  if (answer.Payload().size() <= kAnswerHeaderBytes) return Result::WrongDataLength;
+  const auto received = answer.Payload().subspan(kAnswerHeaderBytes);
+  const auto filled = data.first(std::min(data.size(), received.size()));
+  std::ranges::copy(received.first(filled.size()), filled.begin());
+  ConvertInPlace(filled, element);
+  return Result::Success;
+}
+
+Result ReadWord(PhoneLink& link, const DataAddress& address, std::uint16_t& value,
+                std::uint32_t timeoutMs) {
+  std::array<std::uint8_t, sizeof(value)> data{};
+  const Result result = ReadData(link, address, data, Element::U16, timeoutMs);
+  if (Succeeded(result)) std::memcpy(&value, data.data(), sizeof(value));
+  return result;
+}
+
+}  // namespace merovane::commands

@@ -1,0 +1,107 @@
+#include "commands/calibration/td.h"
+
+#include <algorithm>
+
+#include "commands/calibration/calibration_message.h"
+#include "commands/operation.h"
+
+namespace merovane::commands {
+namespace {
+
+constexpr std::uint16_t kMaxSweepPoints = 8;
+
+constexpr FrameId kReadModeFrame{28, 1};
+constexpr std::uint8_t kStartType = 0xFE;
+constexpr std::uint8_t kStartedSubtype = 0x91;
+
+}  // namespace
+
+Result TDTxSweep(Phone& phone, const QV_TD_TX_SWEEP* sweep) {
+  Operation operation(phone, 260);
+  if (!sweep || sweep->count > kMaxSweepPoints) return Result::InvalidParam;
+  operation.Log("TDTxSweep:");
+  auto message = CalibrationMessage<60>(0xA12A)
+                     .U32(16, sweep->first)
+                     .U16(20, sweep->second)
+                     .U16(22, sweep->third)
+                     .U16(24, sweep->count);
+  for (std::size_t point = 0; point < sweep->count; ++point) {
+    message.U16s(26 + 4 * point, sweep->points[point]);
+  }
+  return operation.Finish(
+      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+}
+
+Result TdStartTx(Phone& phone, const QV_TD_TX_START* start) {
+  Operation operation(phone, 222);
+  if (!start) return Result::InvalidParam;
+  operation.Log("TdStartTx:");
+  const auto message = CalibrationMessage<40>(0xA129)
+                           .U32(16, start->first)
+                           .U16(20, start->second)
+                           .U16(22, start->third)
+                           .U32(24, start->fourth)
+                           .U16s(28, start->words);
+  return operation.Finish(
+      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+}
+
+Result PwrStepFactorSweepSet_TD(Phone& phone, const QV_TD_POWER_SWEEP* sweep) {
+  Operation operation(phone, 171);
+  if (!sweep) return Result::InvalidParam;
+  operation.Log("PwrStepFactorSweepSet_TD:");
+  const auto message = CalibrationMessage<36>(0xA128)
+                           .U32(16, sweep->first)
+                           .U16(20, sweep->second)
+                           .U16(22, sweep->third)
+                           .U32(24, sweep->fourth)
+                           .U16s(28, sweep->words);
+  return operation.Finish(
+      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+}
+
+Result PwrStepFactorSet_TD(Phone& phone, const QV_POWER_STEP* step) {
+  Operation operation(phone, 173);
+  if (!step) return Result::InvalidParam;
+  operation.Log("PwrStepFactorSet_TD:");
+  // The GSM command's id: a handset tells the two apart by the mode it is in.
+  const auto message = CalibrationMessage<32>(0xA119)
+                           .U32(16, step->first)
+                           .U16(20, step->second)
+                           .U16(22, step->third)
+                           .U32(24, step->fourth)
+                           .U16(28, phone.calibration.tdContinuousMode ? 1 : 0);
+  return operation.Finish(
+      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+}
+
+Result SetTDContTxRxMode(Phone& phone, std::uint32_t mode) {
+  phone.calibration.tdContinuousMode = mode;
+  return Operation(phone).Finish(Result::Success);
+}
+
+Result ReadMode_TD(Phone& phone, std::uint8_t* data, std::uint32_t capacity) {
+  Operation operation(phone, 176);
+  if (!data || capacity == 0) return Result::InvalidParam;
+  operation.Log("ReadMode_TD:");
+  const Answer answer(phone.link, kReadModeFrame, {}, 1000);
+  const auto payload = answer.Payload();
+  std::ranges::copy(payload.first(std::min<std::size_t>(payload.size(), capacity)), data);
+  return operation.Finish(payload.size() > capacity ? Result::BufferTooSmall : answer.result);
+}
+
+Result SetPhoneStartMode_TD(Phone& phone, std::uint32_t mode) {
+  Operation operation(phone, 177);
+  operation.Log("SetPhoneStartMode_TD:");
+  Result result = phone.link.SendFrame({kStartType, static_cast<std::uint8_t>(mode + 128)});
+  if (!Succeeded(result)) return operation.Finish(result);
+  AnswerBuffer frame;
+  std::uint32_t length = 0;
+  result = phone.link.ReceiveFrame(frame, length, 3000);
+  if (Succeeded(result) && (length < kHeaderBytes || IdOf(frame).subtype != kStartedSubtype)) {
+    result = Result::EnterModeFailed;
+  }
+  return operation.Finish(result);
+}
+
+}  // namespace merovane::commands
