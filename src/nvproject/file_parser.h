@@ -92,6 +92,7 @@ class CFileParser {
   enum class Reading { Done, Failed, LeftOpen };
 
   Reading ReadProject(LineReader& lines);
+  Reading TakeValue(std::string_view key, std::string_view value);
   bool LoadModule(const std::string& path);
 
   OpenText openText_;

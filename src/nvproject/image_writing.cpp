@@ -1,6 +1,6 @@
 // The NV image, as it goes to a caller's memory or to the project's target file.
 #include <algorithm>
-#include <array>
+#include <cstring>
 #include <vector>
 
 #include "nvproject/file_parser.h"
@@ -35,8 +35,9 @@ Result CFileParser::GenerateImage(std::span<std::uint8_t, kImageCapacity> buffer
                                   std::uint32_t& length, const ImageContext& context) {
   LayoutItems();
   if (!image_.Build(items_, kImageStart, context.order)) return Result::BufferTooSmall;
-  const auto rest = std::ranges::copy(image_.Bytes(), buffer.begin()).out;
-  std::fill(rest, buffer.end(), std::uint8_t{0});
+  const std::span<const std::uint8_t> image = image_.Bytes();
+  std::memcpy(buffer.data(), image.data(), image.size());
+  std::memset(buffer.data() + image.size(), 0, buffer.size() - image.size());
   StoreTimeStamp(buffer, context);
   length = static_cast<std::uint32_t>(image_.Length());
   return Result::Success;

@@ -73,6 +73,7 @@ struct Item {
   ItemType type = ItemType::None;
   std::uint32_t size = 0;  // elements of an array
   std::uint32_t length = 0;
+  std::uint32_t pathHash = 0;  // of the full path, letter case ignored
   std::string_view name;
   std::string_view description;
   std::string_view fullPath;

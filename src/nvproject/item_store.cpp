@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "nvproject/text_rules.h"
+
 namespace merovane::nvproject {
 namespace {
 
@@ -11,19 +13,14 @@ constexpr std::size_t kMaxNotedChanges = 4096;
 
 }  // namespace
 
-void ItemStore::BeginModule() {
-  modules_.push_back({static_cast<std::uint32_t>(items_.size()), 0});
-}
+void ItemStore::BeginModule() { modules_.push_back({items_.Size(), 0}); }
 
 void ItemStore::Append(Item item) {
-  items_.push_back(std::move(item));
+  item.pathHash = CaselessHash(item.fullPath);
+  items_.Append(std::move(item));
   ++modules_.back().count;
   ++structureRevision_;
   ++pathRevision_;
-}
-
-std::span<const Item> ItemStore::ModuleItems(std::size_t module) const {
-  return Items().subspan(modules_[module].first, modules_[module].count);
 }
 
 std::uint32_t ItemStore::Find(std::string_view path) {
@@ -38,9 +35,10 @@ std::uint32_t ItemStore::FindExact(std::string_view path) {
   const std::uint32_t first = Find(path);
   if (first == kNoItem) return kNoItem;
   // Paths that differ in letter case only are rare: look on from the first of them.
-  const auto found = std::find_if(items_.begin() + first, items_.end(),
-                                  [&](const Item& item) { return item.fullPath == path; });
-  return found == items_.end() ? kNoItem : static_cast<std::uint32_t>(found - items_.begin());
+  for (std::uint32_t i = first; i < items_.Size(); ++i) {
+    if (items_[i].fullPath == path) return i;
+  }
+  return kNoItem;
 }
 
 void ItemStore::SetContent(std::uint32_t position, std::string_view content) {

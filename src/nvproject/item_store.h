@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "nvproject/item.h"
+#include "nvproject/item_list.h"
 #include "nvproject/path_index.h"
 #include "nvproject/text_arena.h"
 
@@ -33,14 +33,11 @@ class ItemStore {
   void BeginModule();
   // Appends to the last module.
   void Append(Item item);
-  // Gives back the room that growing has left over.
-  void ShrinkToFit() { items_.shrink_to_fit(); }
   TextArena& Texts() { return texts_; }
 
-  std::span<const Item> Items() const { return items_; }
+  const ItemList& Items() const { return items_; }
   const Item& operator[](std::uint32_t position) const { return items_[position]; }
   std::span<const Module> Modules() const { return modules_; }
-  std::span<const Item> ModuleItems(std::size_t module) const;
 
   // The first item of that path in load order, or kNoItem: letter case ignored, or counted.
   std::uint32_t Find(std::string_view path);
@@ -70,7 +67,7 @@ class ItemStore {
   void Replace(std::uint32_t position, Item item);
   void NoteContentChange(std::uint32_t position);
 
-  std::vector<Item> items_;
+  ItemList items_;
   std::vector<Module> modules_;
   TextArena texts_;
   PathIndex index_;

@@ -10,22 +10,37 @@
 
 namespace merovane::nvproject {
 
-struct KeyLine {
-  std::string_view key;
-  // All that follows the first "=", the line end included; none without an "=".
-  std::optional<std::string_view> value;
-};
+class KeyLine {
+ public:
+  // Empty lines and comments, both after any blanks, have no key.
+  explicit KeyLine(std::string_view line) {
+    std::size_t start = 0;
+    while (start < line.size() && line[start] == ' ') ++start;
+    line.remove_prefix(start);
+    if (!line.empty() && line.front() != '#') rest_ = SkipSpace(line);
+  }
 
-// Empty lines and comments have no key.
-inline KeyLine SplitLine(std::string_view line) {
-  const std::size_t start = line.find_first_not_of(' ');
-  if (start == std::string_view::npos || line[start] == '#' || line[start] == '\n') return {};
-  KeyLine result;
-  result.key = FirstWord(line.substr(start));
-  const std::size_t equals = line.find('=');
-  if (equals != std::string_view::npos) result.value = line.substr(equals + 1);
-  return result;
-}
+  bool HasKey() const { return !rest_.empty(); }
+
+  // Whether the line's first word, which white space ends, is this key.
+  bool HasKey(std::string_view key) const {
+    return rest_.starts_with(key) && (rest_.size() == key.size() || IsSpace(rest_[key.size()]));
+  }
+
+  // All that follows the first "=", the line end included, in a line of that key; none without an
+  // "=".
+  std::optional<std::string_view> ValueOf(std::string_view key) const {
+    // Mostly only blanks stand before the "=": that is sooner found than searched for.
+    std::size_t equals = key.size();
+    while (equals < rest_.size() && rest_[equals] == ' ') ++equals;
+    if (equals < rest_.size() && rest_[equals] != '=') equals = rest_.find('=', equals);
+    if (equals >= rest_.size()) return std::nullopt;
+    return rest_.substr(equals + 1);
+  }
+
+ private:
+  std::string_view rest_;
+};
 
 // Puts the value's first word into the field, cut to fit; a value without one leaves the field as
 // it was.

@@ -1,51 +1,93 @@
 #include "nvproject/module_reader.h"
 
+#include <array>
 #include <utility>
 
-#include "nvproject/key_line.h"
-
 namespace merovane::nvproject {
+
+enum class ModuleReader::Key {
+  BeginItem,
+  Name,
+  Id,
+  Type,
+  Size,
+  Length,
+  Content,
+  Index,
+  Parent,
+  Description,
+  EndItem,
+  ModuleName,
+  ModuleDescription,
+  Unknown,
+};
+
+namespace {
+
+// In the order in which files write them.
+constexpr std::array<std::string_view, 13> kKeys = {
+    "BEGIN_ITEM",  "ITEM_NAME",    "ITEM_ID",    "ITEM_TYPE",   "ITEM_SIZE",
+    "ITEM_LENGTH", "ITEM_CONTENT", "ITEM_INDEX", "ITEM_PARENT", "ITEM_DESC",
+    "END_ITEM",    "MODULE",       "DESCRIPTION"};
+
+}  // namespace
+
+// Looks on from the last key: mostly it is the next one.
+ModuleReader::Key ModuleReader::FindKey(const KeyLine& line) {
+  for (std::size_t tried = 0; tried < kKeys.size(); ++tried) {
+    const std::size_t at = nextKey_;
+    nextKey_ = nextKey_ + 1 == kKeys.size() ? 0 : nextKey_ + 1;
+    if (line.HasKey(kKeys[at])) return static_cast<Key>(at);
+  }
+  return Key::Unknown;
+}
 
 void ModuleReader::Read(ModuleRecord& module) {
   items_.BeginModule();
   std::string_view text;
   while (lines_.Next(text)) {
-    const KeyLine line = SplitLine(text);
-    if (line.key == "BEGIN_ITEM") {
+    const KeyLine line(text);
+    if (!line.HasKey()) continue;
+    const Key key = FindKey(line);
+    if (key == Key::BeginItem) {
       BeginItem();
-    } else if (line.key == "END_ITEM") {
+    } else if (key == Key::EndItem) {
       EndItem();
-    } else if (line.value) {
-      TakeValue(line.key, *line.value, module);
+    } else if (key != Key::Unknown) {
+      const auto value = line.ValueOf(kKeys[static_cast<std::size_t>(key)]);
+      if (value) TakeValue(key, *value, module);
     }
   }
-  items_.ShrinkToFit();
 }
 
-void ModuleReader::TakeValue(std::string_view key, std::string_view value, ModuleRecord& module) {
-  if (key == "ITEM_NAME") {
-    TakeWord(value, kMaxName, name_);
-  } else if (key == "ITEM_ID") {
-    TakeNumber(value, item_.id);
-  } else if (key == "ITEM_TYPE") {
-    TakeNumber(value, item_.type);
-  } else if (key == "ITEM_SIZE") {
-    TakeNumber(value, item_.size);
-  } else if (key == "ITEM_LENGTH") {
-    TakeNumber(value, item_.length);
-  } else if (key == "ITEM_CONTENT") {
-    TakeWord(value, kMaxText, item_.content);
-  } else if (key == "ITEM_INDEX") {
-    TakeNumber(value, item_.index);
-  } else if (key == "ITEM_PARENT") {
-    TakeNumber(value, item_.parent);
-  } else if (key == "ITEM_DESC") {
-    // Kept to the letter: the blanks after "=" and the line end belong to it.
-    description_ = value.substr(0, kMaxText);
-  } else if (key == "MODULE") {
-    TakeWord(value, kMaxName, module.name);
-  } else if (key == "DESCRIPTION") {
-    TakeWord(value, kMaxText, module.description);
+void ModuleReader::TakeValue(Key key, std::string_view value, ModuleRecord& module) {
+  switch (key) {
+    case Key::Name:
+      return TakeWord(value, kMaxName, name_);
+    case Key::Id:
+      return TakeNumber(value, item_.id);
+    case Key::Type:
+      return TakeNumber(value, item_.type);
+    case Key::Size:
+      return TakeNumber(value, item_.size);
+    case Key::Length:
+      return TakeNumber(value, item_.length);
+    case Key::Content:
+      return TakeWord(value, kMaxText, item_.content);
+    case Key::Index:
+      return TakeNumber(value, item_.index);
+    case Key::Parent:
+      return TakeNumber(value, item_.parent);
+    case Key::Description:
+      // Kept to the letter: the blanks after "=" and the line end belong to it.
+      description_ = value.substr(0, kMaxText);
+      return;
+    case Key::ModuleName:
+      return TakeWord(value, kMaxName, module.name);
+    case Key::ModuleDescription:
+      return TakeWord(value, kMaxText, module.description);
+    default:
+      return;
   }
 }
 

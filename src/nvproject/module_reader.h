@@ -1,12 +1,14 @@
 // Reads a module file into a module record and items.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "nvproject/full_path.h"
 #include "nvproject/item.h"
 #include "nvproject/item_store.h"
+#include "nvproject/key_line.h"
 #include "nvproject/line_reader.h"
 #include "nvproject/parent_index.h"
 
@@ -21,12 +23,16 @@ class ModuleReader {
   void Read(ModuleRecord& module);
 
  private:
-  void TakeValue(std::string_view key, std::string_view value, ModuleRecord& module);
+  enum class Key;
+
+  Key FindKey(const KeyLine& line);
+  void TakeValue(Key key, std::string_view value, ModuleRecord& module);
   void BeginItem();
   void EndItem();
 
   LineReader& lines_;
   ItemStore& items_;
+  std::size_t nextKey_ = 0;
   ParentIndex parents_;
   FullPathBuilder fullPath_;
   // The item under construction. A key changes it wherever it stands; its texts but the content are

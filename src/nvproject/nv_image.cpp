@@ -42,12 +42,12 @@ bool NvImage::Build(ItemStore& items, std::uint32_t start, ByteOrder order) {
 
 bool NvImage::BuildAll(const ItemStore& items) {
   bytes_.assign(kImageCapacity, 0);
-  valueAt_.assign(items.Items().size(), 0);
+  valueAt_.assign(items.Items().Size(), 0);
   written_ = 0;
   overlaps_ = false;
   std::uint64_t record = start_;
   std::uint32_t lastLength = 0;
-  for (std::uint32_t position = 0; position < items.Items().size(); ++position) {
+  for (std::uint32_t position = 0; position < items.Items().Size(); ++position) {
     const Item& item = items[position];
     std::uint64_t valueAt = record + 4 + item.offset;
     if (item.IsTopLevel()) {

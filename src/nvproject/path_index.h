@@ -2,21 +2,20 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string_view>
 #include <vector>
 
-#include "nvproject/item.h"
+#include "nvproject/item_list.h"
 
 namespace merovane::nvproject {
 
 class PathIndex {
  public:
-  void Build(std::span<const Item> items);
+  void Build(const ItemList& items);
 
   // The position of the first item whose full path equals the wanted one, letter case ignored;
   // kNoItem when there is none. `items` are those that the index was built from.
-  std::uint32_t Find(std::span<const Item> items, std::string_view path) const;
+  std::uint32_t Find(const ItemList& items, std::string_view path) const;
 
  private:
   struct Slot {
@@ -25,7 +24,7 @@ class PathIndex {
   };
 
   // The slot that holds the path, or the free one where it belongs.
-  std::size_t Probe(std::span<const Item> items, std::string_view path, std::uint32_t hash) const;
+  std::size_t Probe(const ItemList& items, std::string_view path, std::uint32_t hash) const;
 
   std::vector<Slot> slots_;  // open addressing; the size is a power of two
 };

@@ -1,4 +1,5 @@
 // Loading a project: the project file and, at each MODULE line, the module file that it names.
+#include <array>
 #include <memory>
 #include <utility>
 
@@ -8,6 +9,16 @@
 #include "nvproject/project_path.h"
 
 namespace merovane::nvproject {
+namespace {
+
+constexpr std::string_view kProject = "PROJECT";
+constexpr std::string_view kAlignment = "ALIGNMENT";
+constexpr std::string_view kTarget = "TARGET";
+constexpr std::string_view kDescription = "DESCRIPTION";
+constexpr std::string_view kModule = "MODULE";
+constexpr std::array kKeys = {kProject, kAlignment, kTarget, kDescription, kModule};
+
+}  // namespace
 
 bool CFileParser::LoadProject(std::string_view path) {
   if (projectStream_ != nullptr || path.empty()) return false;
@@ -30,25 +41,29 @@ bool CFileParser::LoadProject(std::string_view path) {
 CFileParser::Reading CFileParser::ReadProject(LineReader& lines) {
   std::string_view text;
   while (lines.Next(text)) {
-    const KeyLine line = SplitLine(text);
-    if (!line.value) continue;
-    if (line.key == "PROJECT") {
-      TakeWord(*line.value, kMaxName, project_.name);
-    } else if (line.key == "ALIGNMENT") {
-      TakeNumber(*line.value, project_.alignment);
-    } else if (line.key == "DESCRIPTION") {
-      TakeWord(*line.value, kMaxText, project_.description);
-    } else if (line.key == "TARGET" || line.key == "MODULE") {
-      const std::string_view word = FirstWord(*line.value);
-      const auto path = JoinPath(project_.path, word);
-      if (!path) return Reading::LeftOpen;
-      if (line.key == "MODULE") {
-        if (!LoadModule(*path)) return Reading::Failed;
-      } else if (!word.empty()) {
-        project_.target = path->substr(0, kMaxFilePath);
+    const KeyLine line(text);
+    for (const std::string_view key : kKeys) {
+      if (!line.HasKey(key)) continue;
+      if (const auto value = line.ValueOf(key)) {
+        const Reading reading = TakeValue(key, *value);
+        if (reading != Reading::Done) return reading;
       }
     }
   }
+  return Reading::Done;
+}
+
+CFileParser::Reading CFileParser::TakeValue(std::string_view key, std::string_view value) {
+  if (key == kProject) TakeWord(value, kMaxName, project_.name);
+  if (key == kAlignment) TakeNumber(value, project_.alignment);
+  if (key == kDescription) TakeWord(value, kMaxText, project_.description);
+  if (key != kTarget && key != kModule) return Reading::Done;
+
+  const std::string_view word = FirstWord(value);
+  const auto path = JoinPath(project_.path, word);
+  if (!path) return Reading::LeftOpen;
+  if (key == kModule) return LoadModule(*path) ? Reading::Done : Reading::Failed;
+  if (!word.empty()) project_.target = path->substr(0, kMaxFilePath);
   return Reading::Done;
 }
 

@@ -81,9 +81,10 @@ std::string ProjectText(const ProjectRecord& project, std::span<const ModuleReco
   return out.Take();
 }
 
-std::string ModuleText(const ModuleRecord& module, std::span<const Item> items) {
+std::string ModuleText(const ModuleRecord& module, const ItemStore& items, std::size_t number) {
+  const auto [first, count] = items.Modules()[number];
   TextBuilder out;
-  out.Reserve(items.size() * 256 + 1024);
+  out.Reserve(std::size_t{count} * 256 + 1024);
   out << "# Quorvantel Kestrane NV Module File, Format Version 1.0\n"
       << "# WARNING: DO NOT EDIT OR DELETE THIS NV Module FILE!\n"
       << "\n";
@@ -92,7 +93,7 @@ std::string ModuleText(const ModuleRecord& module, std::span<const Item> items) 
                << "  DESCRIPTION = " << module.description << "\n"
                << "\n";
   out.Rule(80) << "\n# Begin Module Item\n";
-  for (const Item& item : items) AddItem(out, item);
+  for (std::uint32_t i = first; i < first + count; ++i) AddItem(out, items[i]);
   out << "\n# End Module Item\n\n";
   out.Rule(80);
   return out.Take();

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "nvproject/item.h"
+#include "nvproject/item_store.h"
 
 namespace merovane::nvproject {
 
@@ -14,6 +14,7 @@ std::string NewProjectText(const ProjectRecord& project);
 // The file that projects are read from.
 std::string ProjectText(const ProjectRecord& project, std::span<const ModuleRecord> modules);
 
-std::string ModuleText(const ModuleRecord& module, std::span<const Item> items);
+// The module of that number, whose record is given.
+std::string ModuleText(const ModuleRecord& module, const ItemStore& items, std::size_t number);
 
 }  // namespace merovane::nvproject

@@ -30,8 +30,7 @@ bool CFileParser::SaveProject() {
 bool CFileParser::SaveModule(std::size_t module) {
   if (module >= modules_.size()) return false;
   const ModuleRecord& record = modules_[module];
-  return WriteProtectedFile(record.path,
-                            WithFileLineEnds(ModuleText(record, items_.ModuleItems(module))));
+  return WriteProtectedFile(record.path, WithFileLineEnds(ModuleText(record, items_, module)));
 }
 
 }  // namespace merovane::nvproject

@@ -72,25 +72,32 @@ std::uint32_t CaselessHash(std::string_view text) {
   // comparison at most.
   constexpr std::uint64_t kCaseBits = 0x2020202020202020;
   constexpr std::uint64_t kMultiplier = 0x9E3779B97F4A7C15;
-  std::uint64_t hash = text.size() * kMultiplier;
+  constexpr std::size_t kWord = sizeof(std::uint64_t);
+  const auto mix = [](std::uint64_t hash, std::uint64_t word) {
+    hash = (hash ^ (word | kCaseBits)) * kMultiplier;
+    return hash ^ (hash >> 32);
+  };
+  const auto load = [](const char* from, std::size_t bytes) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, from, bytes);
+    return word;
+  };
+  // Two at a time do not wait for each other.
+  std::uint64_t even = text.size();
+  std::uint64_t odd = kMultiplier;
   const char* at = text.data();
   std::size_t left = text.size();
-  const auto mix = [&hash](std::uint64_t word) {
-    hash = (hash ^ (word | kCaseBits)) * kMultiplier;
-    hash ^= hash >> 32;
-  };
-  for (; left >= sizeof(std::uint64_t); at += sizeof(std::uint64_t)) {
-    std::uint64_t word;
-    std::memcpy(&word, at, sizeof(word));
-    mix(word);
-    left -= sizeof(word);
+  for (; left >= 2 * kWord; left -= 2 * kWord, at += 2 * kWord) {
+    even = mix(even, load(at, kWord));
+    odd = mix(odd, load(at + kWord, kWord));
   }
-  if (left > 0) {
-    std::uint64_t word = 0;
-    std::memcpy(&word, at, left);
-    mix(word);
+  if (left >= kWord) {
+    even = mix(even, load(at, kWord));
+    left -= kWord;
+    at += kWord;
   }
-  return static_cast<std::uint32_t>(hash ^ (hash >> 32));
+  if (left > 0) odd = mix(odd, load(at, left));
+  return static_cast<std::uint32_t>(mix(even, odd));
 }
 
 }  // namespace merovane::nvproject

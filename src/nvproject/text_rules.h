@@ -9,7 +9,10 @@
 
 namespace merovane::nvproject {
 
-constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+constexpr bool IsSpace(char c) {
+  // Nearly all that is asked about are letters: one comparison for them.
+  return static_cast<unsigned char>(c) <= ' ' && (c == ' ' || (c >= '\t' && c <= '\r'));
+}
 
 constexpr std::string_view SkipSpace(std::string_view text) {
   std::size_t at = 0;

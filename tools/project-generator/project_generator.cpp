@@ -13,7 +13,7 @@ namespace merovane::projectgen {
 namespace {
 
 // Modules beyond the first two have about this many items.
-constexpr std::size_t kModuleItems = 2000;
+constexpr std::size_t kModuleItems = 600;
 
 class Generator {
  public:
