@@ -1,15 +1,33 @@
 #include "modules/modules.h"
 
+#include "modules/identity/identity.h"
+#include "modules/memory/memory.h"
+#include "modules/peripherals/peripherals.h"
 #include "modules/session/session.h"
 
 namespace handset {
 
 std::vector<std::unique_ptr<Module>> MakeModules(Firmware& firmware) {
   std::vector<std::unique_ptr<Module>> modules;
-  modules.push_back(MakeModeModule(firmware));
-  modules.push_back(MakeTraceModule(firmware));
-  modules.push_back(MakeAtModule(firmware));
-  modules.push_back(MakeVersionModule(firmware));
+  for (auto make : {
+           MakeModeModule,
+           MakeTraceModule,
+           MakeAtModule,
+           MakeVersionModule,
+           MakeItemsModule,
+           MakeFixedNvModule,
+           MakeRegistersModule,
+           MakeIdentificationModule,
+           MakeIdentityModule,
+           MakeSwitchesModule,
+           MakeMeasuringModule,
+           MakeGpsModule,
+           MakeBluetoothModule,
+           MakeWifiModule,
+           MakeDspModule,
+       }) {
+    modules.push_back(make(firmware));
+  }
   return modules;
 }
 

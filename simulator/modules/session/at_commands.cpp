@@ -2,8 +2,8 @@
 #include <array>
 #include <cctype>
 #include <string>
-#include <vector>
 
+#include "modules/memory/fixed_nv.h"
 #include "modules/session/session.h"
 
 namespace handset {
@@ -14,7 +14,6 @@ constexpr uint8_t kAcknowledgeType = 213;
 constexpr uint8_t kAnswerType = 156;
 constexpr uint8_t kEndOfMessage = 0x1A;
 constexpr uint8_t kCancelMessage = 0x1B;
-constexpr size_t kPackedImeiBytes = 8;
 
 struct Answered {
   std::string_view command;
@@ -40,18 +39,6 @@ std::string Upper(std::string_view text) {
   std::transform(upper.begin(), upper.end(), upper.begin(),
                  [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
   return upper;
-}
-
-// Fifteen digits: the first in the high nibble of the first byte, the others low nibble first.
-std::string ImeiText(const Bytes& packed) {
-  std::string digits;
-  auto put = [&](unsigned nibble) { digits += static_cast<char>('0' + std::min(nibble, 9u)); };
-  put(packed[0] >> 4);
-  for (size_t i = 1; i < kPackedImeiBytes; ++i) {
-    put(packed[i] & 0xF);
-    put(packed[i] >> 4);
-  }
-  return digits;
 }
 
 class AtModule final : public Module {
@@ -83,7 +70,7 @@ class AtModule final : public Module {
   void TakeCommand(std::string command) {
     command.erase(std::min(command.find_last_not_of("\r\n") + 1, command.size()));
     std::string upper = Upper(command);
-    if (upper == "AT+CGSN") return Succeed(Imei());
+    if (upper == "AT+CGSN") return Succeed(ImeiText(ReadFixedNv(firmware_.Flash(), kImei1)));
     if (upper.starts_with("AT+CMGS=")) {
       awaitingMessage_ = true;
       Say("\r\n> ");
@@ -107,12 +94,6 @@ class AtModule final : public Module {
         return Succeed("+CMGS: " + std::to_string(++messagesSent_));
       }
     }
-  }
-
-  std::string Imei() const {
-    const Bytes* block = firmware_.Flash().Find("fixed-nv");
-    return block != nullptr && block->size() >= kPackedImeiBytes ? ImeiText(*block)
-                                                                 : std::string(15, '0');
   }
 
   // Every line is a frame of its own, as the handset's AT task writes them.
