@@ -1,0 +1,292 @@
+#include "commands/test/phone_mode.h"
+
+#include "support/command_fixture.h"
+
+namespace merovane::test {
+namespace {
+
+using commands::RecvPhoneStartData;
+using ::testing::ElementsAre;
+
+constexpr const char* kBigEndianStart = "7E 00 00 00 00 00 08 FE 01 7E";
+constexpr const char* kLittleEndianStart = "7E 00 00 00 00 08 00 FE 01 7E";
+
+struct StartData : CommandFixture {
+  Result Receive(std::uint32_t capacity = 64, std::uint32_t timeoutMs = 300) {
+    return RecvPhoneStartData(phone, data.Data(), capacity, &length, timeoutMs);
+  }
+  GuardedBuffer<std::uint8_t> data{64};
+  std::uint32_t length = 77;
+};
+
+TEST_F(StartData, IsFoundBehindNoiseAndOverTwoReads) {
+  InBothByteOrders([&] {
+    const bool big = handset.Message().U16(1).Get()[1] == 1;
+    const Bytes frame = Hex(big ? kBigEndianStart : kLittleEndianStart);
+    handset.SayRaw("11 22 7E 33 7E 7E");
+    handset.SayRaw(Bytes(frame.begin(), frame.begin() + 4));
+    handset.SayRaw(Bytes(frame.begin() + 4, frame.end()), 200);
+    EXPECT_EQ(Receive(), Result::Success);
+    EXPECT_EQ(length, 8u);
+    EXPECT_EQ(data.Hex(8), ToHex(std::span(frame).subspan(1, 8)));
+    EXPECT_TRUE(data.UntouchedFrom(8));
+    EXPECT_EQ(phone.link.FrameRing().Count(), 0u);
+  });
+}
+
+TEST_F(StartData, ArrivesByteByByte) {
+  for (const std::uint8_t byte : Hex("7E 00 7E 00 00 00 00 00 08 FE 01 7E")) {
+    handset.SayRaw(Bytes{byte}, 1);
+  }
+  EXPECT_EQ(Receive(), Result::Success);
+}
+
+TEST_F(StartData, InTheOtherByteOrderIsNone) {
+  for (const bool big : {true, false}) {
+    SetByteOrder(big);
+    handset.SayRaw(big ? kLittleEndianStart : kBigEndianStart);
+    const std::uint32_t before = clock.NowMs();
+    EXPECT_EQ(Receive(), Result::NoUsefulData);
+    EXPECT_EQ(clock.NowMs() - before, 300u);
+  }
+  EXPECT_TRUE(data.Untouched());
+  EXPECT_EQ(length, 77u);
+}
+
+TEST_F(StartData, EndlessFlagsAndFloodsEndByTheLimit) {
+  for (int i = 0; i < 400; ++i) handset.SayRaw(Bytes(7000, i % 2 == 0 ? 0x7E : 0x55), 1);
+  EXPECT_EQ(Receive(), Result::NoUsefulData);
+  EXPECT_LE(phone.link.FrameRing().Count(), 9u);
+}
+
+TEST_F(StartData, SharesAFlagWithTheFrameBefore) {
+  handset.SayRaw("7E 00 00 00 00 00 08 05 00 7E 00 00 00 00 00 08 FE 01 7E");
+  EXPECT_EQ(Receive(), Result::Success);
+}
+
+TEST_F(StartData, IsCutToTheCapacityAndLoggedWhole) {
+  handset.SayRaw(kBigEndianStart);
+  EXPECT_EQ(Receive(3), Result::Success);
+  EXPECT_EQ(length, 3u);
+  EXPECT_EQ(data.Hex(3), "00 00 00");
+  EXPECT_TRUE(data.UntouchedFrom(3));
+  EXPECT_THAT(Log(), ElementsAre("RecvPhoneStartData:", "<-- 7E 00 00 00 00 00 08 FE 01 7E",
+                                 ResultLine(Result::Success)));
+}
+
+TEST_F(StartData, LogsItsTimeout) {
+  EXPECT_EQ(Receive(), Result::NoUsefulData);
+  EXPECT_THAT(Log(), ElementsAre("RecvPhoneStartData:", ResultLine(Result::NoUsefulData)));
+}
+
+TEST_F(StartData, OfADeadDeviceEndsByTheLimit) {
+  handset.SetGone(true);
+  const std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(Receive(), Result::NoUsefulData);
+  EXPECT_EQ(clock.NowMs() - before, 300u);
+  static_cast<void>(phone.link.Close());
+  EXPECT_EQ(Receive(), Result::NoUsefulData);
+}
+
+using PhoneMode = CommandFixture;
+
+TEST_F(PhoneMode, RefusedArgumentsAreReportedUnderTheirCommandAndSendNothing) {
+  std::uint8_t buffer[8];
+  std::uint32_t length = 8;
+  std::uint32_t zero = 0;
+  using namespace commands;
+  const auto refused = [&](std::uint32_t operation, Result result) {
+    EXPECT_EQ(result, Result::InvalidParam) << operation;
+    EXPECT_EQ(OperationOf(result), operation);
+  };
+  refused(5, RecvPhoneStartData(phone, nullptr, 8, &length, 10));
+  refused(5, RecvPhoneStartData(phone, buffer, 0, &length, 10));
+  refused(5, RecvPhoneStartData(phone, buffer, 8, nullptr, 10));
+  refused(5, RecvPhoneStartData(phone, buffer, 8, &length, 0));
+  refused(7, SetPhoneStartModeEx(phone, 1, 0));
+  refused(10, UsbChangePhoneMode(phone, 1, nullptr));
+  refused(10, UsbChangeModeAndSetCampParam(phone, 1, 0x1F, 0x5A3, nullptr));
+  refused(11, RestartPhone(phone, 0));
+  refused(12, ReadMode(phone, nullptr, 8));
+  refused(12, ReadMode(phone, buffer, 0));
+  refused(13, Read(phone, nullptr, &length, 10));
+  refused(13, Read(phone, buffer, nullptr, 10));
+  refused(13, Read(phone, buffer, &zero, 10));
+  refused(13, Read(phone, buffer, &length, 0));
+  refused(14, Write(phone, nullptr, 1));
+  refused(14, Write(phone, buffer, 0));
+  refused(14, Write(phone, buffer, -1));
+  EXPECT_THAT(Log(), ElementsAre());
+  // Nor is the camp word left for the next frame.
+  handset.Expect(12, 1).Answer(12, 1);
+  EXPECT_EQ(ChangePhoneMode(phone, 1), Result::Success);
+}
+
+TEST_F(PhoneMode, EveryCommandHasItsFrameItsNameAndItsOperation) {
+  std::uint32_t answered = 9;
+  using namespace commands;
+  struct Case {
+    std::uint32_t operation;
+    const char* name;
+    std::uint8_t type, subtype;
+    bool answers;
+    std::function<Result()> run;
+  };
+  const Case cases[] = {
+      {8, "EnableArmLog:", 2, 4, false, [&] { return EnableArmLog(phone, 1); }},
+      {8, "DisableArmLog:", 2, 5, false, [&] { return EnableArmLog(phone, 0); }},
+      {237, "EnableDspLog:", 2, 6, true, [&] { return EnableDspLog(phone, 7); }},
+      {237, "DisableDspLog:", 2, 7, true, [&] { return EnableDspLog(phone, 0); }},
+      {9, "ChangePhoneMode:", 12, 10, true, [&] { return ChangePhoneMode(phone, 10); }},
+      {10, "UsbChangePhoneMode:", 12, 3, true,
+       [&] { return UsbChangePhoneMode(phone, 3, &answered); }},
+      {11, "RestartPhone:", 12, 0, true, [&] { return RestartPhone(phone, 100); }},
+      {21, "EnterDeepSleepMode:", 17, 2, false, [&] { return EnterDeepSleepMode(phone); }},
+  };
+  for (const Case& each : cases) {
+    SCOPED_TRACE(each.name);
+    Exchange& exchange = handset.Expect(each.type, each.subtype);
+    if (each.answers) exchange.Answer(each.type, each.subtype);
+    const Result result = each.run();
+    EXPECT_EQ(result, Result::Success);
+    EXPECT_EQ(OperationOf(result), each.operation);
+    EXPECT_THAT(LogText(),
+                ElementsAre(each.name, "Clear Port Buffer", ResultLine(Result::Success)));
+
+    if (each.answers) {
+      handset.Expect(each.type, each.subtype).Refuse();
+      EXPECT_EQ(each.run(), Result::Refused);
+      EXPECT_THAT(LogText(), ElementsAre(each.name, "Clear Port Buffer", "Error Code = 39 ()"));
+    }
+    handset.Expect(each.type, each.subtype).WriteFails();
+    EXPECT_EQ(each.run(), Result::WriteFailed);
+    EXPECT_THAT(Log(),
+                ElementsAre(each.name, "Clear Port Buffer", ResultLine(Result::WriteFailed)));
+  }
+}
+
+TEST_F(PhoneMode, TheStartModeWrapsAndItsResultIsNotLogged) {
+  handset.Expect(0xFE, 72).Answer(0xFE, 72, "01 02 03 04 05 06 07 08 09 0A 0B 0C");
+  const Result result = commands::SetPhoneStartMode(phone, 200);
+  EXPECT_EQ(result, Result::Success);
+  EXPECT_EQ(OperationOf(result), 6u);
+  EXPECT_THAT(LogText(), ElementsAre("SetPhoneStartMode:", "Clear Port Buffer"));
+}
+
+TEST_F(PhoneMode, TheStartModeWhoseSubtypeIsTheRefusalsSucceeds) {
+  handset.Expect(0xFE, 2).Answer(0xFE, 2);
+  EXPECT_EQ(commands::SetPhoneStartMode(phone, 130), Result::Success);
+}
+
+TEST_F(PhoneMode, TheStartModeWaitsFourSecondsWithoutTheIncrement) {
+  settings.receiveIncrementMs = 5000;
+  handset.Expect(0xFE, 129).Silent();
+  std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(commands::SetPhoneStartMode(phone, 1), Result::NoAnswer);
+  EXPECT_EQ(clock.NowMs() - before, 4000u);
+  handset.Expect(12, 1).After(8900).Answer(12, 1);
+  EXPECT_EQ(commands::ChangePhoneMode(phone, 1), Result::Success);
+}
+
+TEST_F(PhoneMode, CampParametersGoIntoTheNextFramesSequenceOnly) {
+  handset.Expect(0xFE, 129).Sequence(0x0000A3AF).Answer(0xFE, 129);
+  EXPECT_EQ(commands::SetModeAndCampParam(phone, 1, 0x1F, 0x5A3), Result::Success);
+  handset.Expect(0xFE, 129).Sequence(0).Answer(0xFE, 129);
+  EXPECT_EQ(commands::SetPhoneStartMode(phone, 1), Result::Success);
+  std::uint32_t answered = 9;
+  handset.Expect(12, 5).Sequence(0x0000FFE1).Answer(12, 5, "00 00");
+  EXPECT_EQ(commands::UsbChangeModeAndSetCampParam(phone, 5, 0xF1, 0xFFFF, &answered),
+            Result::Success);
+  EXPECT_EQ(answered, 1u);
+}
+
+TEST_F(PhoneMode, TheAnsweredFlagIsWrittenOnSuccessOnly) {
+  std::uint32_t answered = 9;
+  handset.Expect(12, 1).Refuse();
+  EXPECT_EQ(commands::UsbChangePhoneMode(phone, 1, &answered), Result::Refused);
+  EXPECT_EQ(answered, 9u);
+  handset.Expect(12, 1).Answer(12, 1, "FF");
+  EXPECT_EQ(commands::UsbChangePhoneMode(phone, 1, &answered), Result::Success);
+  EXPECT_EQ(answered, 0u);
+  handset.Expect(12, 1).Answer(12, 1, "00 00");
+  EXPECT_EQ(commands::UsbChangePhoneMode(phone, 1, &answered), Result::Success);
+  EXPECT_EQ(answered, 1u);
+}
+
+TEST_F(PhoneMode, StartModeExSendsTheModeAfterTheStartFrame) {
+  handset.SayRaw(kBigEndianStart, 90);
+  handset.Expect(0xFE, 0x81).Answer(0xFE, 0x81);
+  const Result result = commands::SetPhoneStartModeEx(phone, 1, 100);
+  EXPECT_EQ(result, Result::Success);
+  EXPECT_THAT(
+      LogText(),
+      ElementsAre("SetPhoneStartModeEx:", "RecvPhoneStartData:", ResultLine(Result::Success),
+                  "SetPhoneStartMode:", "Clear Port Buffer", ResultLine(Result::Success)));
+  EXPECT_EQ(commands::SetPhoneStartModeEx(phone, 1, 100), Result::NoUsefulData);
+}
+
+TEST_F(PhoneMode, ReadModeTurnsByteThreeIntoAStartModeCode) {
+  GuardedBuffer<std::uint8_t> data(6);
+  const auto read = [&](const char* answer, std::uint32_t capacity) {
+    handset.Expect(28, 0).Answer(28, 0, answer);
+    return commands::ReadMode(phone, data.Data(), capacity);
+  };
+  EXPECT_EQ(read("01 02 03", 6), Result::Success);
+  EXPECT_EQ(data.Hex(4), "01 02 03 A5");
+  EXPECT_EQ(read("01 02 03 25 05", 3), Result::Success);
+  EXPECT_TRUE(data.UntouchedFrom(3));
+  EXPECT_EQ(read("01 02 03 25 05 06 07 08", 6), Result::Success);
+  EXPECT_EQ(data.Hex(6), "01 02 03 85 05 06");
+}
+
+TEST_F(PhoneMode, ReadHandsOutTheNextFrameWhateverItIs) {
+  GuardedBuffer<std::uint8_t> data(12);
+  handset.SayRaw("99 99");
+  handset.Say(0x62, 0x03, "7E 7D 01");
+  std::uint32_t length = 12;
+  Result result = commands::Read(phone, data.Data(), &length, 100);
+  EXPECT_EQ(result, Result::Success);
+  EXPECT_EQ(OperationOf(result), 13u);
+  EXPECT_EQ(length, 11u);
+  EXPECT_EQ(data.Hex(11), "00 00 00 00 00 0B 62 03 7E 7D 01");
+  handset.Say(1, 1, "AA BB CC DD EE");
+  length = 12;
+  EXPECT_EQ(commands::Read(phone, data.Data(), &length, 100), Result::BufferTooSmall);
+  EXPECT_EQ(length, 12u);
+  EXPECT_EQ(data.Hex(12), "00 00 00 00 00 0D 01 01 AA BB CC DD");
+  length = 12;
+  EXPECT_EQ(commands::Read(phone, data.Data(), &length, 100), Result::NoFrame);
+  handset.SayRaw("7E 01 02");
+  EXPECT_EQ((length = 12, commands::Read(phone, data.Data(), &length, 100)), Result::NoFrame);
+  EXPECT_THAT(Log(), ElementsAre());
+}
+
+TEST_F(PhoneMode, WritePassesBytesAsTheyAreAndDropsNothing) {
+  handset.Say(3, 3);
+  handset.ExpectRaw("7E 41 54 0D").Answer(4, 4);
+  const std::uint8_t bytes[] = {0x7E, 'A', 'T', 0x0D};
+  Result result = commands::Write(phone, bytes, 4);
+  EXPECT_EQ(result, Result::Success);
+  EXPECT_EQ(OperationOf(result), 14u);
+  GuardedBuffer<std::uint8_t> data(16);
+  for (const char* expected : {"03 03", "04 04"}) {
+    std::uint32_t length = 16;
+    EXPECT_EQ(commands::Read(phone, data.Data(), &length, 100), Result::Success);
+    EXPECT_TRUE(data.Hex(8).ends_with(expected)) << data.Hex(8);
+  }
+  handset.ExpectRaw("7E 41 54 0D").WriteFails();
+  EXPECT_EQ(commands::Write(phone, bytes, 4), Result::WriteFailed);
+  EXPECT_THAT(Log(), ElementsAre());
+}
+
+TEST_F(PhoneMode, AClosedPhoneGivesOneAndKeepsItsLimits) {
+  static_cast<void>(phone.link.Close());
+  std::uint8_t data[8];
+  std::uint32_t length = 8;
+  EXPECT_EQ(commands::ChangePhoneMode(phone, 1), Result::PortNotOpen);
+  EXPECT_EQ(commands::Read(phone, data, &length, 100), Result::PortNotOpen);
+  EXPECT_EQ(commands::Write(phone, data, 8), Result::PortNotOpen);
+}
+
+}  // namespace
+}  // namespace merovane::test
