@@ -40,7 +40,9 @@ if(WIN32)
 else()
   target_link_libraries(merovane_header_only INTERFACE Threads::Threads)
 endif()
-target_compile_definitions(merovane_header_only INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)
+# Whether Asio finds aligned allocation depends on the headers included before it, and files
+# that decide differently free each other's memory the wrong way.
+target_compile_definitions(merovane_header_only INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED ASIO_DISABLE_STD_ALIGNED_ALLOC)
 if(MEROVANE_SANITIZE MATCHES "thread")
   # ThreadSanitizer knows no bare fences; Asio's are beside its own locks.
   target_compile_definitions(merovane_header_only INTERFACE ASIO_DISABLE_FENCED_BLOCK)
