@@ -1,5 +1,6 @@
 #include "commands/crc16.h"
 
+#include <algorithm>
 #include <array>
 
 #include "link/byte_order.h"
@@ -34,10 +35,8 @@ std::uint16_t Crc16Arc(std::span<const std::uint8_t> data) {
 }
 
 std::vector<std::uint8_t> WithChecksum(std::span<const std::uint8_t> block) {
-  std::vector<std::uint8_t> checked;
-  checked.reserve(block.size() + kChecksumBytes);
-  checked.assign(block.begin(), block.end());
-  checked.resize(block.size() + kChecksumBytes);
+  std::vector<std::uint8_t> checked(block.size() + kChecksumBytes);
+  std::copy(block.begin(), block.end(), checked.begin());
   PutU16(checked, block.size(), Crc16Arc(block));
   return checked;
 }
