@@ -17,28 +17,18 @@ class ManualClock final : public Clock {
   std::uint32_t nowMs_;
 };
 
-TEST(Deadline, RunsOutAcrossTheWrapOfTheTicks) {
+TEST(Deadline, RunsOutAcrossTheWrapOfTheTicksAndIsExtendedFromNow) {
   ManualClock clock(UINT32_MAX - 30);
-  const Deadline deadline(clock, 100);
+  Deadline deadline(clock, 100);
   clock.SleepMs(99);
   EXPECT_FALSE(deadline.Passed());
   EXPECT_EQ(deadline.RemainingMs(), 1U);
-  clock.SleepMs(1);
+  clock.SleepMs(501);
   EXPECT_TRUE(deadline.Passed());
-  EXPECT_EQ(deadline.RemainingMs(), 0U);
-  clock.SleepMs(500);
   EXPECT_EQ(deadline.ElapsedMs(), 600U);
   EXPECT_EQ(deadline.RemainingMs(), 0U);
-}
-
-TEST(Deadline, IsExtendedFromNowAndNotFromItsEnd) {
-  ManualClock clock(7);
-  Deadline deadline(clock, 100);
-  clock.SleepMs(130);
   deadline.ExtendFromNow(500);
   EXPECT_EQ(deadline.RemainingMs(), 500U);
-  clock.SleepMs(500);
-  EXPECT_TRUE(deadline.Passed());
   EXPECT_TRUE(Deadline(clock, 0).Passed());
 }
 

@@ -23,14 +23,5 @@ TEST(MessageBox, GoesToTheReplacementWhileThereIsOne) {
   EXPECT_EQ(shown[1].first, "");
 }
 
-TEST(Console, TakesTextInEveryState) {
-  for (const auto state : {ConsoleState::Off, ConsoleState::Hidden, ConsoleState::Hidden,
-                           ConsoleState::Off, ConsoleState::Off}) {
-    SetConsole(state);
-    WriteConsole("not to be seen\r\n");
-    WriteConsole("");
-  }
-}
-
 }  // namespace
 }  // namespace merovane::platform

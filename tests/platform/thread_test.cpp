@@ -58,19 +58,6 @@ TEST(Thread, EndsWhenItsBodyThrowsAndFreesWhatTheBodyHeld) {
   EXPECT_EQ(held.use_count(), 1);
 }
 
-TEST(Thread, DoesNotWaitForItself) {
-  auto thread = std::make_shared<Thread>();
-  const auto started = std::make_shared<Event>();
-  const auto waited = std::make_shared<std::atomic<bool>>(true);
-  ASSERT_TRUE(thread->Start([thread, started, waited] {
-    started->WaitMs(UINT32_MAX);
-    *waited = thread->WaitMs(kLongMs);
-  }));
-  started->Set();
-  ASSERT_TRUE(thread->WaitMs(kLongMs));
-  EXPECT_FALSE(*waited);
-}
-
 TEST(Thread, RunsOnAfterItWasGivenUp) {
   struct Shared {
     Event stop;

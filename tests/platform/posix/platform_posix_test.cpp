@@ -93,9 +93,7 @@ TEST(PosixFiles, StandWholeWhenTheNewContentDoesNotFit) {
 TEST(PosixFiles, AreWrittenInPlaceWhereTheDirectoryTakesNoOther) {
   const ScratchDirectory directory;
   WriteContent(directory / "a", "old content");
-  WriteContent(directory / "foreign", "old");
   chmod((directory / "a").c_str(), 0666);
-  chmod((directory / "foreign").c_str(), 0644);
   chmod(directory.Path().c_str(), 0555);
   EXPECT_TRUE(InChild(
       [](const std::filesystem::path& path) {
@@ -128,6 +126,14 @@ TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
   CallerEvent(full).Reset();
   CallerEvent(full).Set();
   eventfd_t count = 0;
+  EXPECT_EQ(eventfd_read(full, &count), 0);
+  EXPECT_EQ(count, 1U);
+  // A number that is no descriptor must not be cut down to one that is.
+  if constexpr (sizeof(std::intptr_t) > sizeof(int)) {
+    CallerEvent((std::intptr_t{1} << 32) + full).Set();
+    EXPECT_FALSE(CallerEvent((std::intptr_t{1} << 32) + full).IsNull());
+  }
+  CallerEvent(full).Set();
   EXPECT_EQ(eventfd_read(full, &count), 0);
   EXPECT_EQ(count, 1U);
   close(full);

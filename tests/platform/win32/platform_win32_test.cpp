@@ -1,7 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 
+#include "platform/console.h"
 #include "platform/files.h"
 #include "platform/message_queue.h"
 #include "platform/profile_file.h"
@@ -95,6 +97,34 @@ TEST(Win32Thread, IsNotWaitedForAfterItWasKilled) {
   TerminateThread(killer.get(), 0);
   EXPECT_TRUE(thread.WaitMs(INFINITE));
   EXPECT_FALSE(thread.Running());
+}
+
+// The start of the console's first line; empty when the process has no console.
+std::wstring ConsoleText() {
+  const UniqueHandle output = FileHandle(CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
+                                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                                     OPEN_EXISTING, 0, nullptr));
+  std::array<wchar_t, 5> text{};
+  DWORD count = 0;
+  if (output) {
+    ReadConsoleOutputCharacterW(output.get(), text.data(), text.size(), COORD{0, 0}, &count);
+  }
+  return {text.data(), count};
+}
+
+TEST(Win32Console, IsMadeWrittenAndReleased) {
+  FreeConsole();
+  SetConsole(ConsoleState::Hidden);
+  if (GetConsoleCP() == 0) GTEST_SKIP() << "without a display there is no console";
+  EXPECT_FALSE(IsWindowVisible(GetConsoleWindow()));
+  WriteConsole("ab\r\n");
+  EXPECT_EQ(ConsoleText().substr(0, 2), L"ab");
+  SetConsole(ConsoleState::Shown);
+  EXPECT_TRUE(IsWindowVisible(GetConsoleWindow()));
+  SetConsole(ConsoleState::Off);
+  WriteConsole("lost");
+  EXPECT_EQ(ConsoleText(), L"");
+  AttachConsole(ATTACH_PARENT_PROCESS);
 }
 
 }  // namespace

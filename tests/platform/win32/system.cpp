@@ -1,5 +1,6 @@
 #include "platform/system.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <stdexcept>
 
@@ -9,10 +10,12 @@ namespace merovane::platform::test {
 namespace {
 
 // Under Wine device names are links in the prefix, which only a program of the system below makes.
+// The prefix is told as "\??\unix\home\user\.wine" or "\??\Z:\home\user\.wine".
 std::string WinePrefix() {
-  const char* prefix = std::getenv("WINEPREFIX");
-  const char* home = std::getenv("HOME");
-  return prefix ? prefix : std::string(home ? home : "") + "/.wine";
+  const char* told = std::getenv("WINECONFIGDIR");
+  std::string prefix = told ? told : "";
+  std::ranges::replace(prefix, '\\', '/');
+  return prefix.substr(std::min(prefix.find('/', 4), prefix.size()));
 }
 
 bool UnderWine() {
@@ -35,7 +38,10 @@ void MakeLink(const std::string& command, const std::wstring& device, bool made)
     GetFileAttributesW((L"\\\\.\\" + device).c_str());
     return GetLastError() == ERROR_INVALID_PARAMETER;
   };
-  while (there() != made) Sleep(1);
+  for (int i = 0; there() != made; ++i) {
+    if (i == 10'000) throw std::runtime_error("no effect: " + command);
+    Sleep(1);
+  }
 }
 
 }  // namespace
