@@ -1,6 +1,8 @@
 #include "channel_server.h"
 
 #include <array>
+#include <asio/post.hpp>
+#include <asio/write.hpp>
 #include <deque>
 #include <utility>
 

@@ -1,7 +1,8 @@
 // A channel server: sees what its clients forward and can send data to all of them.
 #pragma once
 
-#include <asio.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
 #include <cstddef>
 #include <cstdint>
 #include <functional>

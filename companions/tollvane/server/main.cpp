@@ -2,6 +2,8 @@
 // them what is typed.
 #include <CLI/CLI.hpp>
 #include <array>
+#include <asio/post.hpp>
+#include <asio/signal_set.hpp>
 #include <chrono>
 #include <csignal>
 #include <cstdio>

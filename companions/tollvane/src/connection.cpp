@@ -1,5 +1,7 @@
 #include "connection.h"
 
+#include <asio/post.hpp>
+#include <asio/write.hpp>
 #include <chrono>
 #include <utility>
 

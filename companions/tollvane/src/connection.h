@@ -1,7 +1,9 @@
 // One connection to a channel server, served by a thread of its own.
 #pragma once
 
-#include <asio.hpp>
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
 #include <atomic>
 #include <cstddef>
 #include <cstdint>
