@@ -164,7 +164,10 @@ void ChannelPort::StopReceiveThread() {
 Result ChannelPort::Read(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs,
                          std::size_t& got) {
   got = 0;
-  if (!channel_) return Result::PortNotOpen;
+  if (!channel_) {
+    AvoidSpinning(timeLimitMs);
+    return Result::PortNotOpen;
+  }
   const platform::Deadline deadline(clock_, timeLimitMs);
   for (;;) {
     if (Cancelled()) return Result::NoData;
@@ -188,8 +191,7 @@ Result ChannelPort::ReadChannel(std::span<std::uint8_t> buffer, std::uint32_t ti
   const std::int32_t count =
       channel_->Read(buffer.data(), static_cast<std::uint32_t>(buffer.size()), timeLimitMs, 0);
   if (count < 1) {
-    // A dead channel fails at once: callers that try again until their limit must not spin.
-    if (count < 0 && timeLimitMs > 0) clock_.SleepMs(1);
+    if (count < 0) AvoidSpinning(timeLimitMs);
     return Result::NoData;
   }
   got = std::min(static_cast<std::size_t>(count), buffer.size());
@@ -197,6 +199,11 @@ Result ChannelPort::ReadChannel(std::span<std::uint8_t> buffer, std::uint32_t ti
   if (recording_ && settings_.SavesReceivedData()) Record(*recording_, data);
   if (allLog_ && settings_.allLog) allLog_->Data(data, false);
   return Result::Success;
+}
+
+// A closed port and a dead channel fail at once, and callers try again until their limit.
+void ChannelPort::AvoidSpinning(std::uint32_t timeLimitMs) {
+  if (timeLimitMs > 0) clock_.SleepMs(1);
 }
 
 Result ChannelPort::Write(std::span<const std::uint8_t> data) {

@@ -68,6 +68,7 @@ class ChannelPort {
   Result ReadChannel(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs, std::size_t& got);
   Result ReadThreadRing(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs,
                         std::size_t& got);
+  void AvoidSpinning(std::uint32_t timeLimitMs);
 
   LinkSettings& settings_;
   platform::Clock& clock_;

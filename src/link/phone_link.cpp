@@ -71,12 +71,11 @@ Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
     encodedBytes = EncodeFrame(rawFrame, {encoded.get(), encodedCapacity});
   }
 
-  if (settings_.ReceivesThroughThread()) {
-    channel_.ClearThreadRing();
-  } else {
+  if (!settings_.ReceivesThroughThread()) {
     static_cast<void>(channel_.Clear());
     LogLine("Clear Port Buffer");
   }
+  channel_.ClearThreadRing();
   ring_.Clear();
 
   const std::span<const std::uint8_t> frame(encoded.get(), encodedBytes);
@@ -113,10 +112,6 @@ Result PhoneLink::WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer,
     FrameId id{};
     std::uint32_t length = 0;
     const Result result = ReceiveTyped(id, frame, length, deadline.RemainingMs());
-    if (result == Result::PortNotOpen) {
-      // Nothing can arrive: trying again until the limit would only spin.
-      clock_.SleepMs(std::min<std::uint32_t>(1, deadline.RemainingMs()));
-    }
     if (!Succeeded(result)) continue;
     const auto received = std::span<const std::uint8_t>(frame).first(length);
     if (id == awaited) {

@@ -65,11 +65,7 @@ Result RecvPhoneStartData(Phone& phone, std::uint8_t* data, std::uint32_t capaci
   AnswerBuffer chunk;
   while (!deadline.Passed() && !link.Channel().Cancelled()) {
     std::size_t got = 0;
-    const Result read = link.Channel().Read(chunk, deadline.RemainingMs(), got);
-    if (!Succeeded(read)) {
-      if (read == Result::PortNotOpen) link.Clock().SleepMs(std::min(1U, deadline.RemainingMs()));
-      continue;
-    }
+    if (!Succeeded(link.Channel().Read(chunk, deadline.RemainingMs(), got))) continue;
     link.FrameRing().Append(std::span<const std::uint8_t>(chunk).first(got));
     bool found = false;
     std::array<std::uint8_t, kHeaderBytes> header;
