@@ -160,8 +160,8 @@ bool LogFile::Open(std::string_view name, std::uint32_t flags, std::uint32_t fir
   const std::filesystem::path given = platform::PathFromText(name.empty() ? baseName_ : name);
   const std::filesystem::path directory =
       given.is_absolute() ? given.parent_path() : Resolve(directory_);
-  const std::string base = given.stem().string() + NameSuffix(flags);
-  const std::string ownExtension = given.extension().string();
+  const std::string base = platform::TextFromPath(given.stem()) + NameSuffix(flags);
+  const std::string ownExtension = platform::TextFromPath(given.extension());
   const auto open = [&](Target& target, const char* mark, const std::string& extension) {
     target = Target{};
     target.directory = directory;
@@ -202,7 +202,7 @@ void LogFile::Close() {
 
 void LogFile::Write(Target& target, std::string_view block) {
   if (!target.file.IsOpen()) return;
-  if (sizeLimitMb_ != 0 && target.file.Size() / kMb > sizeLimitMb_) {
+  if (sizeLimitMb_ != 0 && target.file.Size() > sizeLimitMb_ * kMb) {
     target.file.Close();
     ++target.rolled;
     if (!OpenTarget(target)) return;

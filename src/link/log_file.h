@@ -33,6 +33,7 @@ struct LogDirectory {
   };
   Kind kind = Kind::Executable;
   std::string folder;
+  friend bool operator==(const LogDirectory&, const LogDirectory&) = default;
 };
 
 using LogOptionValue = std::variant<std::uint32_t, std::string, LogDirectory>;
