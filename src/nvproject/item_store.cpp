@@ -16,6 +16,7 @@ constexpr std::size_t kMaxNotedChanges = 4096;
 void ItemStore::BeginModule() { modules_.push_back({items_.Size(), 0}); }
 
 void ItemStore::Append(Item item) {
+  if (static_cast<std::uint32_t>(item.index) != modules_.back().count) orderly_ = false;
   item.pathHash = CaselessHash(item.fullPath);
   items_.Append(std::move(item));
   ++modules_.back().count;

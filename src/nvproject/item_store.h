@@ -49,6 +49,9 @@ class ItemStore {
   void SetPlace(const Module& module, std::uint32_t position, std::uint32_t offset,
                 std::uint32_t length);
 
+  // Whether every item stands where its index says, so that writing one back touches no other.
+  bool IsOrderly() const { return orderly_; }
+
   // Grows with every change of anything but contents.
   std::uint64_t StructureRevision() const { return structureRevision_; }
   // Grows whenever a path may lead to another item than before. Never 0.
@@ -71,6 +74,7 @@ class ItemStore {
   std::vector<Module> modules_;
   TextArena texts_;
   PathIndex index_;
+  bool orderly_ = true;
   std::uint64_t indexedRevision_ = 0;
   std::uint64_t structureRevision_ = 1;
   std::uint64_t pathRevision_ = 1;

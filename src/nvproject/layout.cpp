@@ -13,8 +13,8 @@ constexpr Number RoundUp(Number value, std::uint32_t multiple) {
 }  // namespace
 
 void Layout::Run(ItemStore& items, std::uint32_t start) {
-  const std::uint64_t before = items.StructureRevision();
-  if (settledRevision_ == before && settledStart_ == start) return;
+  const State before = StateOf(items, start);
+  if (settled_ == before) return;
 
   topLevel_.clear();
   std::uint64_t running = start;
@@ -37,9 +37,14 @@ void Layout::Run(ItemStore& items, std::uint32_t start) {
     }
   }
 
-  settledStart_ = start;
-  settledRevision_.reset();
-  if (items.StructureRevision() == before) settledRevision_ = before;
+  settled_.reset();
+  if (StateOf(items, start) == before) settled_ = before;
+}
+
+Layout::State Layout::StateOf(const ItemStore& items, std::uint32_t start) {
+  // An item that is written back to another's place takes its content along.
+  const std::uint64_t contents = items.IsOrderly() ? 0 : items.ContentRevision();
+  return {items.StructureRevision(), contents, start};
 }
 
 // Structures nest as deep as files make them, so the open ones are kept here and not on the stack.

@@ -42,14 +42,23 @@ class Layout {
     std::uint32_t length;  // of the data
   };
 
+  // What a run depends on.
+  struct State {
+    std::uint64_t structureRevision;
+    std::uint64_t contentRevision;
+    std::uint32_t start;
+
+    bool operator==(const State&) const = default;
+  };
+  static State StateOf(const ItemStore& items, std::uint32_t start);
+
   // Each lays out the item at the position and all that belongs to it.
   Placed PlaceStructure(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
   Placed PlaceArray(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
 
   std::vector<TopLevelItem> topLevel_;
   std::vector<OpenStructure> open_;
-  std::optional<std::uint64_t> settledRevision_;
-  std::uint32_t settledStart_ = 0;
+  std::optional<State> settled_;  // the state that a run has left as it was
 };
 
 }  // namespace merovane::nvproject

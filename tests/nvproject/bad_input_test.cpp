@@ -1,0 +1,108 @@
+// Files that nobody should have written: a result, never a crash, a hang or memory without bound.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "nvproject/commands.h"
+#include "nvproject/project_input.h"
+#include "nvproject/support.h"
+#include "project-generator/project_generator.h"
+
+namespace merovane::nvproject::testing {
+namespace {
+
+constexpr int kShort = 2, kArray = 5, kStruct = 7;
+
+Result Image(CFileParser& parser) {
+  std::vector<std::uint8_t> image(kImageCapacity);
+  std::uint32_t length = 0;
+  return GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, {});
+}
+
+TEST(BadInput, CorpusRuns) {
+  int files = 0;
+  for (const auto& entry : std::filesystem::directory_iterator(NVPROJECT_CORPUS)) {
+    SCOPED_TRACE(entry.path().string());
+    fuzzing::RunProjectInput(ReadFile(entry.path().string()));
+    ++files;
+  }
+  EXPECT_GT(files, 5);
+}
+
+TEST(BadInput, ProjectCutAnywhereLoadsOrFails) {
+  const auto generated = projectgen::Generate({.items = 0});
+  const std::string& text = generated.files[1].text;
+  for (std::size_t size = 0; size < text.size(); size += 4999) {
+    fuzzing::RunProjectInput("MODULE = m0\n%%\n" + text.substr(0, size));
+  }
+  const std::string& project = generated.files[0].text;
+  for (std::size_t size = 0; size < project.size(); ++size) {
+    fuzzing::RunProjectInput(project.substr(0, size));
+  }
+}
+
+TEST(BadInput, FilesThatAreNone) {
+  const TemporaryDirectory directory;
+  std::unique_ptr<CFileParser> project;
+  const auto open = [&](const std::string& name) {
+    return OpenPrjFile(project, directory.Path(name).c_str());
+  };
+  std::filesystem::create_directory(directory.Path("folder"));
+  WriteFile(directory.Path("empty"), "");
+  WriteFile(directory.Path("binary"), std::string(100000, '\0') + std::string(100000, '\xFF'));
+  WriteFile(directory.Path("names_folder"), "MODULE = folder\n");
+  WriteFile(directory.Path("names_itself"), "MODULE = names_itself\n");
+  EXPECT_EQ(open("folder"), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open("empty"), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open("binary"), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open("missing"), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open(std::string(1000, 'n')), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open("names_folder"), Result::OpenNvProjectFailed);
+  EXPECT_EQ(open("names_itself"), Result::Success);
+  EXPECT_EQ(OpenPrjFile(project, ""), Result::OpenNvProjectFailed);
+}
+
+TEST(BadInput, NumbersInFilesAreNotBelieved) {
+  const auto huge =
+      Load({{{.name = "a", .type = kArray, .size = 1000000},
+             {.name = "a[0]", .type = kShort, .parent = 0, .length = 2},
+             {.name = "b", .type = kArray, .length = 4294967295U, .size = 4294967295U}}});
+  EXPECT_EQ(Image(*huge), Result::BufferTooSmall);
+  const auto wide = Load({{{.name = "a", .type = kShort, .length = 4294967295U},
+                           {.name = "b", .type = kShort, .length = 4294967295U}}});
+  EXPECT_EQ(Image(*wide), Result::BufferTooSmall);
+  // Indices that no list has: what is written back is lost, and nothing else.
+  const auto lost = Load({{{.name = "a", .type = kShort, .length = 2, .index = 2147483647},
+                           {.name = "b", .type = kShort, .length = 2, .index = -2147483647}}});
+  EXPECT_TRUE(lost->SetItemContent(0, "a", "1"));
+  EXPECT_TRUE(lost->SetItemContent(0, "b", "1"));
+  EXPECT_EQ(Content(*lost, "a"), "");
+  EXPECT_EQ(Image(*lost), Result::Success);
+}
+
+TEST(BadInput, DeepNestingIsLaidOut) {
+  std::vector<TestItem> items;
+  for (int i = 0; i < 10000; ++i) items.push_back({.name = "s", .type = kStruct, .parent = i - 1});
+  items.push_back({.name = "m", .type = kShort, .parent = 9999, .content = "7"});
+  const auto parser = Load({items});
+  EXPECT_EQ(Image(*parser), Result::Success);
+  EXPECT_EQ(parser->Items()[0].length, 2U);
+  EXPECT_EQ(parser->ItemOffset("s.s"), 0U);
+}
+
+TEST(BadInput, ManyItemsOfOnePathAreNoBurden) {
+  // Every item has the same path and lands on the first one's place.
+  std::vector<TestItem> items;
+  for (int i = 0; i < 100000; ++i) items.push_back({.name = "same", .type = kShort, .index = 0});
+  const auto parser = Load({items});
+  for (int i = 0; i < 1000; ++i) {
+    ASSERT_TRUE(parser->SetItemContent(0, "SAME", std::to_string(i)));
+    ASSERT_FALSE(parser->GetItemContent(0, "other", nullptr));
+  }
+  EXPECT_EQ(Content(*parser, "same"), "999");
+  EXPECT_EQ(Image(*parser), Result::Success);
+}
+
+}  // namespace
+}  // namespace merovane::nvproject::testing

@@ -1,0 +1,180 @@
+// Full paths, and finding items by them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <random>
+
+#include "nvproject/support.h"
+
+namespace merovane::nvproject::testing {
+namespace {
+
+constexpr int kArray = 5;
+constexpr int kStruct = 7;
+
+std::vector<std::string> Paths(const std::vector<TestItem>& items) {
+  const auto parser = Load({items});
+  std::vector<std::string> paths;
+  for (std::uint32_t i = 0; i < parser->Items().Items().Size(); ++i) {
+    paths.emplace_back(parser->Items()[i].fullPath);
+  }
+  return paths;
+}
+
+TEST(FullPath, FollowsTheKindOfParentAndName) {
+  const std::vector<std::pair<TestItem, std::string>> cases = {
+      {{.name = "top", .type = kStruct}, "top"},
+      {{.name = "list", .type = kArray, .parent = 0}, "top.list"},
+      {{.name = "list[0x3]", .parent = 1}, "top.list[0x3]"},
+      {{.name = "plain", .parent = 1}, "top.listplain"},
+      {{.name = "other[2]", .parent = 0}, "top.[2]"},
+      {{.name = "adc[0]", .parent = 0}, "top.adc[0]"},
+      {{.name = "battery[1]", .parent = 1}, "top.list.battery[1]"},
+      {{.name = "RF_ramp_up_table_stage0[3]", .parent = 0}, "top.RF_ramp_up_table_stage0[3]"},
+      {{.name = "xRF_ramp_down_table_stage1[3]", .parent = 1},
+       "top.list.xRF_ramp_down_table_stage1[3]"},
+      {{.name = "rf_ramp_up_table_stage0[3]", .parent = 1}, "top.list[3]"},
+      {{.name = "ADC[0]", .parent = 1}, "top.list[0]"},
+      {{.name = "nothing[0]", .parent = 99}, ".[0]"},
+      {{.name = "later", .parent = 13}, ".later"},
+      {{.name = "adc[7]"}, "adc[7]"},
+      {{.name = "self", .parent = 14}, ".self"},
+  };
+  std::vector<TestItem> items;
+  std::vector<std::string> expected;
+  for (const auto& [item, path] : cases) {
+    items.push_back(item);
+    expected.push_back(path);
+  }
+  EXPECT_EQ(Paths(items), expected);
+}
+
+TEST(FullPath, ParentIsTheFirstItemOfItsIndex) {
+  EXPECT_EQ(Paths({{.name = "a", .type = kStruct, .index = 4},
+                   {.name = "b", .type = kStruct, .index = 1},
+                   {.name = "c", .type = kStruct, .index = 4},
+                   {.name = "d", .type = kStruct, .index = 1},
+                   {.name = "x", .parent = 4},
+                   {.name = "y", .parent = 1},
+                   {.name = "e", .type = kStruct, .index = -5},
+                   {.name = "z", .parent = -5}}),
+            (std::vector<std::string>{"a", "b", "c", "d", "a.x", "b.y", "e", "e.z"}));
+}
+
+TEST(FullPath, IsCutTo511Characters) {
+  std::vector<TestItem> items;
+  for (int i = 0; i < 20; ++i) {
+    items.push_back({.name = std::string(63, 'n'), .type = kStruct, .parent = i - 1});
+  }
+  const auto paths = Paths(items);
+  EXPECT_EQ(paths[6].size(), 7U * 64 - 1);
+  EXPECT_EQ(paths[7].size(), 511U);
+  EXPECT_EQ(paths[19], paths[7]);
+}
+
+TEST(Lookup, IgnoresCaseAndModuleAndTakesTheFirst) {
+  const auto parser = Load({{{.name = "Same", .content = "1"}, {.name = "b", .content = "2"}},
+                            {{.name = "sAME", .content = "3"}, {.name = "z@[`{", .content = "4"}}});
+  EXPECT_EQ(Content(*parser, "SAME"), "1");
+  EXPECT_EQ(Content(*parser, "Z@[`{"), "4");
+  // Only letters have case.
+  EXPECT_EQ(Content(*parser, "z`{@["), "?");
+  EXPECT_EQ(Content(*parser, ""), "?");
+  EXPECT_TRUE(parser->GetItemContent(9, "b", nullptr));
+  EXPECT_FALSE(parser->GetItemContent(0, "c", nullptr));
+  EXPECT_EQ(parser->Items().FindExact("sAME"), 2U);
+  EXPECT_EQ(parser->Items().FindExact("SAME"), kNoItem);
+}
+
+TEST(Lookup, ContentIsCutTo255Characters) {
+  const auto parser = Load({{{.name = "a"}}});
+  EXPECT_TRUE(parser->SetItemContent(0, "A", std::string(300, 'c')));
+  EXPECT_EQ(Content(*parser, "a"), std::string(255, 'c'));
+}
+
+// Keeps the items as plain copies and goes through all of them each time.
+class PlainTree {
+ public:
+  explicit PlainTree(const CFileParser& parser) {
+    const ItemStore& items = parser.Items();
+    for (const ItemStore::Module& module : items.Modules()) {
+      auto& list = modules_.emplace_back();
+      for (std::uint32_t i = 0; i < module.count; ++i) list.push_back(items[module.first + i]);
+    }
+  }
+
+  std::string Get(std::string_view path) {
+    const auto [module, at] = Scan(path);
+    return module < modules_.size() ? modules_[module][at].content : "?";
+  }
+
+  bool Set(std::string_view path, const std::string& content) {
+    const auto [module, at] = Scan(path);
+    if (module == modules_.size()) return false;
+    Item item = modules_[module][at];
+    item.content = content;
+    const auto target = static_cast<std::size_t>(item.index);
+    if (item.index >= 0 && target < modules_[module].size()) modules_[module][target] = item;
+    return true;
+  }
+
+ private:
+  std::pair<std::size_t, std::size_t> Scan(std::string_view path) const {
+    for (std::size_t module = 0; module < modules_.size(); ++module) {
+      for (std::size_t at = 0; at < modules_[module].size(); ++at) {
+        if (std::ranges::equal(modules_[module][at].fullPath, path, [](char a, char b) {
+              return std::tolower(static_cast<unsigned char>(a)) ==
+                     std::tolower(static_cast<unsigned char>(b));
+            })) {
+          return {module, at};
+        }
+      }
+    }
+    return {modules_.size(), 0};
+  }
+
+  std::vector<std::vector<Item>> modules_;
+};
+
+TEST(Lookup, AnswersAsALinearScanWhateverIsWritten) {
+  for (unsigned seed = 1; seed <= 60; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const auto below = [&](int limit) {
+      return static_cast<int>(random() % static_cast<unsigned>(limit));
+    };
+    std::vector<std::vector<TestItem>> modules(1 + static_cast<std::size_t>(below(3)));
+    for (auto& items : modules) {
+      const int count = 1 + below(30);
+      for (int i = 0; i < count; ++i) {
+        // Few names, so that paths repeat; some indices name other items, or none.
+        const int index = below(3) == 0 ? below(count + 4) - 2 : i;
+        items.push_back({.name = std::string(1, static_cast<char>(below(2) ? 'a' : 'A')) +
+                                 std::to_string(below(4)),
+                         .type = below(2) ? kStruct : kArray,
+                         .parent = below(i + 1) - 1,
+                         .content = std::to_string(i),
+                         .index = index});
+      }
+    }
+    const auto parser = Load(modules);
+    PlainTree plain(*parser);
+    std::vector<std::string> paths = {"", "a9"};
+    for (std::uint32_t i = 0; i < parser->Items().Items().Size(); ++i) {
+      paths.emplace_back(parser->Items()[i].fullPath);
+    }
+    for (int step = 0; step < 60; ++step) {
+      const std::string path =
+          paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))];
+      const std::string content = std::to_string(1000 + step);
+      ASSERT_EQ(parser->SetItemContent(0, path, content), plain.Set(path, content)) << path;
+      for (const std::string& each : paths)
+        ASSERT_EQ(Content(*parser, each), plain.Get(each)) << each;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace merovane::nvproject::testing

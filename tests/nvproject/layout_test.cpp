@@ -1,0 +1,127 @@
+// Places computed by hand.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "nvproject/support.h"
+
+namespace merovane::nvproject::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::Pair;
+
+constexpr int kChar = 1, kShort = 2, kLong = 4, kArray = 5, kString = 6, kStruct = 7;
+
+// Offset and length of every item after a layout.
+std::vector<std::pair<std::uint32_t, std::uint32_t>> Places(CFileParser& parser) {
+  parser.LayoutItems();
+  std::vector<std::pair<std::uint32_t, std::uint32_t>> places;
+  const ItemList& items = parser.Items().Items();
+  for (std::uint32_t i = 0; i < items.Size(); ++i) {
+    places.emplace_back(items[i].offset, items[i].length);
+  }
+  return places;
+}
+
+std::vector<std::pair<std::uint32_t, std::uint32_t>> Places(const std::vector<TestItem>& items) {
+  return Places(*Load({items}));
+}
+
+TEST(Layout, AlignsMembersToTheirWidth) {
+  EXPECT_THAT(Places({{.name = "s", .type = kStruct},
+                      {.name = "a", .type = kChar, .parent = 0},
+                      {.name = "b", .type = kLong, .parent = 0},
+                      {.name = "c", .type = kChar, .parent = 0}}),
+              ElementsAre(Pair(4, 12), Pair(0, 0), Pair(4, 0), Pair(8, 0)));
+}
+
+TEST(Layout, LaysArraysOutByTheirSize) {
+  std::vector<TestItem> items = {{.name = "a", .type = kArray, .length = 99, .size = 16}};
+  for (int i = 0; i < 16; ++i) {
+    items.push_back({.name = "a[]", .type = kShort, .parent = 0, .length = 2});
+  }
+  const auto places = Places(items);
+  EXPECT_THAT(places[0], Pair(0, 32));
+  for (std::uint32_t i = 0; i < 16; ++i) EXPECT_THAT(places[i + 1], Pair(2 * i, 2));
+
+  // The last element's length counts; one that is no scalar takes no room; what stands behind the
+  // size is no element.
+  EXPECT_THAT(Places({{.name = "a", .type = kArray, .size = 4},
+                      {.name = "a[0]", .type = kChar, .parent = 0, .length = 1},
+                      {.name = "a[1]", .type = kLong, .parent = 0, .length = 4},
+                      {.name = "a[2]", .type = kString, .parent = 0, .length = 5},
+                      {.name = "a[3]", .type = kShort, .parent = 0, .length = 7},
+                      {.name = "a[4]", .type = kShort, .parent = 0, .length = 2}}),
+              ElementsAre(Pair(0, 28), Pair(0, 1), Pair(4, 4), Pair(0, 5), Pair(8, 7), Pair(0, 2)));
+}
+
+TEST(Layout, NestedStructuresGoOnAtTheOuterPosition) {
+  EXPECT_THAT(
+      Places({{.name = "s", .type = kStruct},
+              {.name = "a", .type = kChar, .parent = 0},
+              {.name = "n", .type = kStruct, .parent = 0},
+              {.name = "b", .type = kShort, .parent = 2},
+              {.name = "c", .type = kChar, .parent = 2},
+              {.name = "d", .type = kLong, .parent = 0},
+              {.name = "l", .type = kArray, .parent = 0, .length = 3, .size = 3},
+              {.name = "l[0]", .type = kChar, .parent = 6, .length = 1},
+              {.name = "l[1]", .type = kChar, .parent = 6, .length = 1},
+              {.name = "l[2]", .type = kChar, .parent = 6, .length = 1},
+              {.name = "t", .type = kString, .parent = 0, .length = 8},
+              {.name = "e", .type = kChar, .parent = 0}}),
+      // A nested structure's length is where it ends in the whole.
+      ElementsAre(Pair(4, 16), Pair(0, 0), Pair(2, 6), Pair(2, 0), Pair(4, 0), Pair(8, 0),
+                  Pair(1, 15), Pair(12, 1), Pair(13, 1), Pair(14, 1), Pair(0, 8), Pair(15, 0)));
+}
+
+TEST(Layout, AlignmentOfANestedStructureDoesNotWidenTheOuterOne) {
+  const std::vector<TestItem> items = {{.name = "s", .type = kStruct},
+                                       {.name = "n", .type = kStruct, .parent = 0},
+                                       {.name = "x", .type = kLong, .parent = 1},
+                                       {.name = "c", .type = kChar, .parent = 0}};
+  EXPECT_THAT(Places(items), ElementsAre(Pair(1, 5), Pair(4, 4), Pair(0, 0), Pair(4, 0)));
+  // A structure of structures only has no alignment of its own.
+  EXPECT_THAT(Places({items[0], items[1], items[2]}),
+              ElementsAre(Pair(0, 4), Pair(4, 4), Pair(0, 0)));
+}
+
+TEST(Layout, ListsTopLevelItemsWithTheirPlaceInTheImage) {
+  const auto parser = Load({{{.name = "a", .type = kChar, .length = 1},
+                             {.name = "b", .type = kShort, .length = 2},
+                             {.name = "c", .type = kString, .length = 5}},
+                            {{.name = "s", .type = kStruct},
+                             {.name = "m", .type = kShort, .parent = 0},
+                             {.name = "d", .type = kLong, .length = 4}}});
+  const auto list = [&] {
+    std::vector<std::vector<std::uint32_t>> rows;
+    for (const TopLevelItem& top : parser->TopLevelItems()) {
+      rows.push_back({top.item, top.module, top.offset, top.length});
+    }
+    return rows;
+  };
+  const auto places = Places(*parser);
+  const auto expected = std::vector<std::vector<std::uint32_t>>{
+      {0, 0, 8, 1}, {1, 0, 16, 2}, {2, 0, 24, 5}, {3, 1, 36, 2}, {5, 1, 44, 4}};
+  EXPECT_EQ(list(), expected);
+  // Lying in the image is not written to the items; the list does not grow.
+  EXPECT_THAT(places,
+              ElementsAre(Pair(0, 1), Pair(0, 2), Pair(0, 5), Pair(2, 2), Pair(0, 0), Pair(0, 4)));
+  EXPECT_EQ(Places(*parser), places);
+  EXPECT_EQ(list(), expected);
+
+  parser->SetAlternativeBase(true);
+  parser->LayoutItems();
+  EXPECT_EQ(parser->TopLevelItems()[0].offset, 49164U);
+}
+
+TEST(Layout, OffsetQueryLaysOutFirstAndCountsCase) {
+  const auto parser = Load({{{.name = "s", .type = kStruct},
+                             {.name = "a", .type = kChar, .parent = 0},
+                             {.name = "b", .type = kLong, .parent = 0}}});
+  EXPECT_EQ(parser->ItemOffset("s.b"), 4U);
+  EXPECT_EQ(parser->ItemOffset("s"), 4U);
+  EXPECT_EQ(parser->ItemOffset("s.B"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace merovane::nvproject::testing

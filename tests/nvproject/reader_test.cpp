@@ -1,0 +1,160 @@
+// Reading project and module files: lines, keys, values, and which of them count.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "nvproject/support.h"
+
+namespace merovane::nvproject::testing {
+namespace {
+
+using ::testing::SizeIs;
+
+// A project whose one module file is this text.
+std::unique_ptr<CFileParser> LoadModuleText(const std::string& text) {
+  auto parser = ParserOf({{"d\\p", "MODULE = m\n"}, {"d\\m", text}});
+  return parser->LoadProject("d\\p") ? std::move(parser) : nullptr;
+}
+
+const Item& OnlyItem(const CFileParser& parser) {
+  EXPECT_EQ(parser.Items().Items().Size(), 1U);
+  return parser.Items()[0];
+}
+
+TEST(Reader, TakesProjectAndModuleKeys) {
+  auto parser = ParserOf({{"C:\\nv\\p.prj",
+                           "# Quorvantel Kestrane Project File, Format Version 1.0\r\n\r\n"
+                           "  PROJECT     =  handset\r\n  ALIGNMENT   =  -4\r\n"
+                           "  TARGET      =  out\\nv.bin extra\r\n"
+                           "  DESCRIPTION =  several words\r\n  MODULE     =  a.nvm\r\n"
+                           "PROJECT=glued\r\nproject = lower\r\nOTHER = x\r\n"},
+                          {"C:\\nv\\a.nvm", "\tMODULE = one two\nDESCRIPTION = three four\n"}});
+  ASSERT_TRUE(parser->LoadProject("C:\\nv\\p.prj"));
+  EXPECT_EQ(parser->Project().name, "handset");
+  EXPECT_EQ(parser->Project().alignment, -4);
+  EXPECT_EQ(parser->Project().target, "C:\\nv\\out\\nv.bin");
+  EXPECT_EQ(parser->Project().description, "several");
+  ASSERT_THAT(parser->Modules(), SizeIs(1));
+  EXPECT_EQ(parser->Modules()[0].name, "one");
+  EXPECT_EQ(parser->Modules()[0].description, "three");
+  EXPECT_EQ(parser->Modules()[0].path, "C:\\nv\\a.nvm");
+  EXPECT_FALSE(parser->Changed());
+}
+
+TEST(Reader, TakesItemKeysInAnyOrderAndOutsideOfItems) {
+  const auto parser = LoadModuleText(
+      "ITEM_PARENT = 7\n"
+      "BEGIN_ITEM\n"
+      "   ITEM_TYPE    = 5 (ARRAY)\n ITEM_LENGTH = +32\n ITEM_ID = 4294967295\n"
+      "ITEM_PARENT = -1\n ITEM_SIZE = 16abc\n ITEM_NAME = first second\n"
+      "ITEM_CONTENT = 0x1F and more\n ITEM_INDEX = 3\n ITEM_DESC =  two words \r\n"
+      "\t# no comment, but no key either\n"
+      "END_ITEM\n"
+      "BEGIN_ITEM\nITEM_NAME = never_ended\n");
+  ASSERT_NE(parser, nullptr);
+  const Item& item = OnlyItem(*parser);
+  EXPECT_EQ(item.name, "first");
+  EXPECT_EQ(item.fullPath, "first");
+  EXPECT_EQ(item.type, ItemType::Array);
+  EXPECT_EQ(item.length, 32U);
+  EXPECT_EQ(item.id, 4294967295U);
+  EXPECT_EQ(item.size, 16U);
+  EXPECT_EQ(item.content, "0x1F");
+  EXPECT_EQ(item.index, 3);
+  EXPECT_EQ(item.description, "  two words \n");
+  EXPECT_EQ(item.offset, 0U);
+}
+
+TEST(Reader, BeginClearsAndEndDoesNot) {
+  const auto parser = LoadModuleText(
+      "BEGIN_ITEM\nITEM_NAME = a\nITEM_PARENT = -1\nITEM_CONTENT = 5\nITEM_DESC =x\n"
+      "END_ITEM\nITEM_INDEX = 1\nEND_ITEM\nBEGIN_ITEM\nEND_ITEM\n");
+  ASSERT_NE(parser, nullptr);
+  ASSERT_EQ(parser->Items().Items().Size(), 3U);
+  EXPECT_EQ(parser->Items()[1].name, "a");
+  EXPECT_EQ(parser->Items()[1].index, 1);
+  EXPECT_EQ(parser->Items()[1].description, "x\n");
+  // Without a name, and with parent 0.
+  EXPECT_EQ(parser->Items()[2].fullPath, "a.");
+  EXPECT_EQ(parser->Items()[2].description, "");
+}
+
+TEST(Reader, ValueThatCannotBeReadLeavesTheFieldAsItWas) {
+  const auto parser = LoadModuleText(
+      "BEGIN_ITEM\nITEM_NAME = a\nITEM_LENGTH = 9\nITEM_PARENT = -1\nITEM_NAME =   \n"
+      "ITEM_LENGTH = none\nITEM_LENGTH = -\nITEM_LENGTH\nITEM_CONTENT\nEND_ITEM\n");
+  ASSERT_NE(parser, nullptr);
+  EXPECT_EQ(OnlyItem(*parser).name, "a");
+  EXPECT_EQ(OnlyItem(*parser).length, 9U);
+}
+
+TEST(Reader, LongLinesAreReadInPieces) {
+  // The piece behind the first 259 characters is a line of its own, with a key of its own.
+  const std::string filler = "ITEM_NAME = " + std::string(300, 'n');
+  const std::string key(259, '#');
+  for (const char* const lineEnd : {"\n", "\r\n"}) {
+    const auto parser =
+        LoadModuleText("BEGIN_ITEM\nITEM_PARENT = -1\n" + filler + lineEnd + key +
+                       "ITEM_LENGTH = 12" + lineEnd + key + lineEnd + "END_ITEM" + lineEnd);
+    ASSERT_NE(parser, nullptr);
+    EXPECT_EQ(OnlyItem(*parser).name, std::string(63, 'n'));
+    EXPECT_EQ(OnlyItem(*parser).length, 12U);
+  }
+}
+
+TEST(Reader, PieceHoldsItsLineEndWhenThereIsRoom) {
+  const std::string start = "ITEM_DESC =";
+  for (const std::size_t total : {257U, 258U, 259U, 260U}) {
+    const std::string value(total - start.size(), 'd');
+    const auto parser =
+        LoadModuleText("BEGIN_ITEM\nITEM_PARENT = -1\n" + start + value + "\r\nEND_ITEM\n");
+    ASSERT_NE(parser, nullptr);
+    const std::string expected = total < 259 ? value + "\n" : value.substr(0, 259 - start.size());
+    EXPECT_EQ(OnlyItem(*parser).description, expected) << total;
+  }
+}
+
+TEST(Reader, ZeroByteEndsAPiece) {
+  using namespace std::string_literals;
+  const auto parser = LoadModuleText(
+      "BEGIN_ITEM\nITEM_PARENT = -1\nITEM_DESC =ab\0cd\nITEM_NAME = x\0y\nEND_ITEM\0 z\n"s);
+  ASSERT_NE(parser, nullptr);
+  EXPECT_EQ(OnlyItem(*parser).description, "ab");
+  EXPECT_EQ(OnlyItem(*parser).name, "x");
+}
+
+TEST(Reader, FailsWithoutModules) {
+  EXPECT_FALSE(ParserOf({{"d\\p", "PROJECT = p\n"}})->LoadProject("d\\p"));
+  EXPECT_FALSE(ParserOf({{"d\\p", ""}})->LoadProject("d\\p"));
+  EXPECT_FALSE(ParserOf({})->LoadProject("d\\p"));
+  EXPECT_FALSE(ParserOf({{"", "MODULE = m\n"}})->LoadProject(""));
+  // One that is missing fails the whole, an unnamed one too.
+  EXPECT_FALSE(ParserOf({{"d\\p", ProjectFile({"m", "n"})}, {"d\\m", ""}})->LoadProject("d\\p"));
+  EXPECT_FALSE(ParserOf({{"d\\p", "MODULE = m\nMODULE =\n"}, {"d\\m", ""}})->LoadProject("d\\p"));
+}
+
+TEST(Reader, ProjectWithoutDirectoryEndsAtTheFirstPathAndStaysOpen) {
+  auto parser = ParserOf({{"p", "PROJECT = x\nMODULE = m\nDESCRIPTION = y\n"}, {"m", ""}});
+  EXPECT_TRUE(parser->LoadProject("p"));
+  EXPECT_EQ(parser->Project().name, "x");
+  EXPECT_EQ(parser->Project().description, "");
+  EXPECT_THAT(parser->Modules(), SizeIs(0));
+  EXPECT_FALSE(parser->LoadProject("p"));
+  const TemporaryDirectory directory;
+  EXPECT_FALSE(parser->CreateProject("n", directory.Path("new"), "", ""));
+  EXPECT_FALSE(std::filesystem::exists(directory.Path("new")));
+}
+
+TEST(Reader, AbsolutePathsAreTakenAsTheyAre) {
+  for (const std::string module : {"/x/m", "\\x\\m", "D:\\x\\m", "D:/x/m"}) {
+    auto parser = ParserOf({{"p", "TARGET = /t\nMODULE = " + module + "\n"}, {module, ""}});
+    EXPECT_TRUE(parser->LoadProject("p"));
+    EXPECT_THAT(parser->Modules(), SizeIs(1)) << module;
+    EXPECT_EQ(parser->Project().target, "/t");
+  }
+  auto parser = ParserOf({{"a/b\\p", "MODULE = c/m\nTARGET =\n"}, {"a/b\\c/m", ""}});
+  EXPECT_TRUE(parser->LoadProject("a/b\\p"));
+  EXPECT_EQ(parser->Project().target, "");
+}
+
+}  // namespace
+}  // namespace merovane::nvproject::testing

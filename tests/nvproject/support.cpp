@@ -1,0 +1,90 @@
+#include "nvproject/support.h"
+
+#include <atomic>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <utility>
+
+#include "platform/console.h"
+
+namespace merovane::nvproject::testing {
+
+std::string ModuleFile(const std::vector<TestItem>& items, std::string_view name) {
+  std::ostringstream out;
+  out << "  MODULE = " << name << "\n";
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const TestItem& item = items[i];
+    out << "BEGIN_ITEM\nITEM_NAME = " << item.name << "\nITEM_ID = " << item.id
+        << "\nITEM_TYPE = " << item.type << "\nITEM_LENGTH = " << item.length
+        << "\nITEM_CONTENT = " << item.content << "\nITEM_PARENT = " << item.parent
+        << "\nITEM_INDEX = " << (item.index == -2 ? static_cast<int>(i) : item.index) << "\n";
+    if (item.size > 0) out << "ITEM_SIZE = " << item.size << "\n";
+    out << "END_ITEM\n";
+  }
+  return out.str();
+}
+
+std::string ProjectFile(const std::vector<std::string>& modules) {
+  std::string text = "PROJECT = p\n";
+  for (const std::string& module : modules) text += "MODULE = " + module + "\n";
+  return text;
+}
+
+std::unique_ptr<CFileParser> ParserOf(std::map<std::string, std::string> files) {
+  return std::make_unique<CFileParser>(
+      [files = std::move(files)](const std::string& path) -> std::unique_ptr<std::istream> {
+        const auto found = files.find(path);
+        if (found == files.end()) return nullptr;
+        return std::make_unique<std::istringstream>(found->second);
+      });
+}
+
+std::unique_ptr<CFileParser> Load(const std::vector<std::vector<TestItem>>& modules) {
+  std::map<std::string, std::string> files;
+  std::vector<std::string> names;
+  for (const auto& items : modules) {
+    names.push_back("m" + std::to_string(names.size()));
+    files["d\\" + names.back()] = ModuleFile(items, names.back());
+  }
+  files["d\\p"] = ProjectFile(names);
+  auto parser = ParserOf(std::move(files));
+  return parser->LoadProject("d\\p") ? std::move(parser) : nullptr;
+}
+
+TemporaryDirectory::TemporaryDirectory() {
+  static std::atomic<int> counter{0};
+  const auto stamp = std::filesystem::file_time_type::clock::now().time_since_epoch().count();
+  path_ = std::filesystem::temp_directory_path() /
+          ("nvproject-" + std::to_string(stamp) + "-" + std::to_string(counter++));
+  std::filesystem::create_directories(path_);
+}
+
+TemporaryDirectory::~TemporaryDirectory() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path_, ignored);
+}
+
+void WriteFile(const std::string& path, std::string_view bytes) {
+  std::ofstream(path, std::ios::binary) << bytes;
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream stream(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+CaughtMessages::CaughtMessages() {
+  platform::SetMessageBox([this](const std::string& text, const std::string& caption) {
+    texts_.push_back(caption + ": " + text);
+  });
+}
+
+CaughtMessages::~CaughtMessages() { platform::SetMessageBox(nullptr); }
+
+std::string Content(CFileParser& parser, std::string_view path) {
+  std::string content;
+  return parser.GetItemContent(0, path, &content) ? content : "?";
+}
+
+}  // namespace merovane::nvproject::testing
