@@ -31,6 +31,7 @@ TEST(Event, WakesAllThreadsThatWait) {
   Event event;
   std::atomic<int> woken{0};
   std::vector<std::thread> waiters;
+  waiters.reserve(4);
   for (int i = 0; i < 4; ++i) {
     waiters.emplace_back([&, limitMs = i % 2 ? UINT32_MAX : 60'000U] {
       if (event.WaitMs(limitMs)) ++woken;
