@@ -1,0 +1,353 @@
+#include "commands/calibration/multi_chip.h"
+
+#include "calibration/calibration_fixture.h"
+#include "commands/calibration/multi_chip_data.h"
+#include "commands/calibration/radio_steps.h"
+
+namespace merovane::test {
+namespace {
+
+struct MultiChip : CalibrationFixture {
+  void ExpectStep(unsigned band, unsigned item, unsigned value) {
+    ExpectWrite(Header({0, band, item, 0, 2}).U16(value));
+  }
+  Fields TransmitterRequest(unsigned band, unsigned on) const {
+    const auto& sent = phone.calibration.transmit;
+    return Header({0, band, 28, 0, 20})
+        .Zeros(4)
+        .U32(sent.first)
+        .Zeros(2)
+        .U8(on)
+        .U8(0)
+        .U16(sent.second)
+        .U16(sent.third)
+        .U16(sent.fourth)
+        .Zeros(2);
+  }
+  Fields ReceiverRequest(unsigned band, unsigned on, unsigned first, unsigned second,
+                         unsigned directCurrent = 0) const {
+    return Header({0, band, 29, 0, 20})
+        .U16(first)
+        .U16(second)
+        .U32(2)
+        .U16(18)
+        .U8(on)
+        .Zeros(7)
+        .U8(directCurrent)
+        .U8(0);
+  }
+  void ExpectWordRead(unsigned band, unsigned item, unsigned value) {
+    ExpectRead({0, band, item, 0, 2}).Answer(32, 1, ReadAnswer().U16(value));
+  }
+};
+
+TEST_F(MultiChip, StepsSendWhatHasChangedAndRepeatWhatFailed) {
+  handset.ExpectAnyPayload(32, 0).Silent();
+  EXPECT_EQ(steps::SetTch(phone, 62), Result::NoAnswer);
+  ExpectStep(0, 19, 62);
+  EXPECT_EQ(steps::SetTch(phone, 62), Result::Success);
+  EXPECT_EQ(steps::SetTch(phone, 62), Result::Success);
+  ExpectStep(0, 6, 5);
+  ExpectStep(0, 7, 5);
+  ExpectStep(0, 2, 5);
+  for (const auto step : {&steps::SetCdac, &steps::SetCafc, &steps::SetCafcCenter}) {
+    EXPECT_EQ(step(phone, 0), Result::Success) << "what a handset begins with";
+    EXPECT_EQ(step(phone, 5), Result::Success);
+    EXPECT_EQ(step(phone, 5), Result::Success);
+  }
+  // A level is always sent.
+  ExpectStep(0, 20, 0);
+  ExpectStep(0, 20, 0);
+  EXPECT_EQ(steps::SetPcl(phone, 0), Result::Success);
+  EXPECT_EQ(steps::SetPcl(phone, 0), Result::Success);
+}
+
+TEST_F(MultiChip, TransmitterTakesItsParametersAsTheyWereSet) {
+  InBothByteOrders([&] {
+    phone.calibration = {};
+    EXPECT_EQ(SetPhoneClassmark_MChip(phone, 3), Result::Success);
+    EXPECT_EQ(SetTxParam(phone, 0x01020304, 0x0506, 0x0708, 0x090A), Result::Success);
+    ExpectStep(3, 19, 700);
+    ExpectStep(3, 20, 10);
+    ExpectWrite(TransmitterRequest(3, 1));
+    EXPECT_EQ(TxOn_MChip(phone, 1, 700, 10), Result::Success);
+    EXPECT_TRUE(phone.calibration.transmitterOn);
+    ExpectWrite(TransmitterRequest(3, 0));
+    static_cast<void>(Log());
+    EXPECT_EQ(TxOn_MChip(phone, 0, 1, 1), Result::Success);
+    EXPECT_FALSE(phone.calibration.transmitterOn);
+    EXPECT_THAT(LogText(), ElementsAre("TxOff_MChip", "TxOff:", "Clear Port Buffer",
+                                       ResultLine(Result::Success)));
+  });
+  // Whose bytes, once: 01020304 from offset 4, the flag at 10, the others from 12.
+  EXPECT_EQ(ToHex(handset.Heard().back().payload),
+            "00 00 03 00 1C 00 00 00 14 00 00 00 00 00 04 03 02 01 00 00 00 00 06 05 08 07 0A 09 "
+            "00 00");
+}
+
+TEST_F(MultiChip, FirstFailingStepEndsACommand) {
+  ExpectStep(0, 19, 700);
+  handset.ExpectAnyPayload(32, 0).Refuse();
+  EXPECT_EQ(TxOn_MChip(phone, 1, 700, 10), Result::Refused);
+  EXPECT_EQ(phone.calibration.lastPcl, 0);
+  const QV_AFC_PARAMETERS afc{{1, 2, 3, 4}};
+  handset.ExpectAnyPayload(32, 0).Refuse();
+  EXPECT_EQ(AfcStart_MChip(phone, 1, &afc), Result::Refused);
+  const QV_AGC_PARAMETERS agc{0, {700, 2, 3, 4}, 0};
+  QV_AGC_RESULT measured{};
+  ExpectStep(0, 20, 4);
+  handset.ExpectAnyPayload(32, 0).Refuse();
+  EXPECT_EQ(AgcStart_MChip(phone, 1, &agc, &measured), Result::Refused);
+}
+
+TEST_F(MultiChip, AfcTrimsByItsMode) {
+  const QV_AFC_PARAMETERS parameters{{0x111, 0x222, 0x333, 0x444}};
+  InBothByteOrders([&] {
+    phone.calibration = {};
+    ExpectStep(0, 19, 0x222);
+    ExpectStep(0, 20, 0x333);
+    ExpectStep(0, 2, 0x111);
+    ExpectWrite(TransmitterRequest(0, 1));
+    EXPECT_EQ(AfcStart_MChip(phone, 1, &parameters), Result::Success);
+    EXPECT_EQ(SetPhoneAfcMode(phone, 9), Result::Success);
+    ExpectStep(0, 20, 0x333);
+    ExpectStep(0, 6, 0x111);
+    ExpectStep(0, 7, 0x444);
+    ExpectWrite(TransmitterRequest(0, 1));
+    EXPECT_EQ(AfcStart_MChip(phone, 1, &parameters), Result::Success);
+    ExpectWrite(TransmitterRequest(0, 0));
+    EXPECT_EQ(AfcStart_MChip(phone, 0, nullptr), Result::Success);
+  });
+  static_cast<void>(Log());
+  ExpectRefused(AfcStart_MChip(phone, 1, nullptr), 66);
+}
+
+TEST_F(MultiChip, AgcMeasuresUntilRssiSettles) {
+  const QV_AGC_PARAMETERS parameters{0xFFFF'FFFF, {61, 0x1234, 260, 7}, 0xFFFF'FFFF};
+  InBothByteOrders([&] {
+    phone.calibration = {};
+    EXPECT_EQ(SetPhoneClassmark_MChip(phone, 1), Result::Success);
+    GuardedBuffer<QV_AGC_RESULT> measured;
+    ExpectStep(1, 19, 61);
+    ExpectStep(1, 20, 7);
+    ExpectWrite(ReceiverRequest(1, 1, 0x1234, 260));
+    ExpectWordRead(1, 25, 0);
+    handset.ExpectAnyPayload(32, 1).Refuse();
+    ExpectWordRead(1, 25, 0x40);
+    ExpectWordRead(1, 26, 300);
+    const std::uint32_t before = clock.NowMs();
+    static_cast<void>(Log());
+    EXPECT_EQ(AgcStart_MChip(phone, 1, &parameters, measured.Data()), Result::Success);
+    EXPECT_EQ(clock.NowMs() - before, 200U + 2 * 20);
+    EXPECT_EQ(measured[0].rssi, 0x40);
+    EXPECT_EQ(measured[0].rx_level, 300);
+    EXPECT_EQ(measured[0].value, 0xA5A5A5A5);
+    const auto log = LogText();
+    EXPECT_EQ(log.front(), "AgcStart_MChip:");
+    EXPECT_EQ(log[log.size() - 2], "RSSI = 0X40, RxLevel = 300");
+
+    ExpectWrite(ReceiverRequest(1, 0, 0x1234, 260));
+    EXPECT_EQ(AgcStart_MChip(phone, 0, &parameters, nullptr), Result::Success);
+  });
+  static_cast<void>(Log());
+  QV_AGC_RESULT measured{};
+  ExpectRefused(AgcStart_MChip(phone, 1, nullptr, &measured), 65);
+  ExpectRefused(AgcStart_MChip(phone, 1, &parameters, nullptr), 65);
+  ExpectRefused(AgcStart_MChip(phone, 0, nullptr, nullptr), 65);
+}
+
+TEST_F(MultiChip, RssiOfZeroIsReadSixTimes) {
+  std::uint16_t rssi = 9;
+  for (int read = 0; read < 6; ++read) ExpectWordRead(0, 25, 0);
+  EXPECT_EQ(steps::GetRssi(phone, rssi), Result::InvalidRssi);
+  EXPECT_EQ(rssi, 0);
+  for (int read = 0; read < 5; ++read) ExpectWordRead(0, 25, 0);
+  handset.ExpectAnyPayload(32, 1).Answer(32, 1, "00 00 00 00 00 00");
+  EXPECT_EQ(steps::GetRssi(phone, rssi), Result::WrongDataLength);
+}
+
+TEST_F(MultiChip, DirectCurrentIsMeasuredInBandZero) {
+  std::uint16_t first = 0;
+  std::uint16_t second = 0;
+  InBothByteOrders([&] {
+    phone.calibration = {};
+    EXPECT_EQ(SetPhoneClassmark_MChip(phone, 4), Result::Success);
+    ExpectStep(0, 19, 61);
+    ExpectWrite(ReceiverRequest(0, 1, 0, 260, 1));
+    ExpectRead({0, 0, 41, 0, 4}).Answer(32, 1, ReadAnswer().U16(0x1122).U16(0x3344));
+    handset.Expect(32, 0, ReceiverRequest(0, 0, 0, 260)).Refuse();
+    const std::uint32_t before = clock.NowMs();
+    EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Success);
+    EXPECT_EQ(clock.NowMs() - before, 100U);
+    EXPECT_EQ(first, 0x3344);
+    EXPECT_EQ(second, 0x1122);
+    EXPECT_EQ(phone.calibration.currentBand, 0);
+  });
+}
+
+TEST_F(MultiChip, DirectCurrentEndsWithTheReceiverOffWhateverFailed) {
+  std::uint16_t first = 7;
+  std::uint16_t second = 7;
+  handset.ExpectAnyPayload(32, 0).Refuse();
+  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
+  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Refused);
+  ExpectStep(0, 19, 61);
+  handset.Expect(32, 0, ReceiverRequest(0, 1, 0, 260, 1)).Refuse();
+  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
+  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Refused);
+  ExpectWrite(ReceiverRequest(0, 1, 0, 260, 1));
+  ExpectRead({0, 0, 41, 0, 4}).Answer(32, 1, "00 00 00 00 00 00");
+  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
+  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::WrongDataLength);
+  EXPECT_EQ(first, 7);
+  static_cast<void>(Log());
+  ExpectRefused(CalDirectCurr(phone, nullptr, &second), 258);
+  ExpectRefused(CalDirectCurr(phone, &first, nullptr), 258);
+}
+
+TEST_F(MultiChip, ActivationAndBandAreCheckedAndLogged) {
+  EXPECT_EQ(SetPhoneClassmark_MChip(phone, 4), Result::Success);
+  static_cast<void>(Log());
+  ExpectRefused(SetPhoneClassmark_MChip(phone, 2), 67);
+  ExpectStep(4, 27, 1);
+  EXPECT_EQ(Active_MChip(phone, 0x100), Result::Success);
+  ExpectStep(4, 27, 0);
+  EXPECT_EQ(Active_MChip(phone, 0), Result::Success);
+  EXPECT_EQ(OperationOf(Result::Success), 69U);
+}
+
+struct NonSignal : MultiChip {
+  Result Send(std::uint32_t id, QV_NON_SIGNAL_ANSWER* output) {
+    const QV_NON_SIGNAL_COMMAND command{0xAAAA0102, id, 0xBBBB0506, {11, 12, 13, 0x1415}};
+    return SendNonSignalCmd(phone, &command, output, 5000);
+  }
+  Exchange& Expect(unsigned id) {
+    return handset.Expect(32, 0,
+                          Header({0, 0, 40, 0, 14})
+                              .U16(11)
+                              .U16(12)
+                              .U16(13)
+                              .U16(0x1415)
+                              .U16(0x0102)
+                              .U16(id)
+                              .U16(0x0506));
+  }
+  GuardedBuffer<QV_NON_SIGNAL_ANSWER> answer;
+};
+
+TEST_F(NonSignal, CommandSixReturnsValues) {
+  InBothByteOrders([&] {
+    Expect(6).After(4900).Answer(32, 0, handset.Message().U16(0).U16(0x102).U16(3).U16(4).U16(5));
+    EXPECT_EQ(Send(6, answer.Data()), Result::Success);
+    EXPECT_EQ(answer[0].status, 0);
+    EXPECT_THAT(answer[0].values, ElementsAre(0x102, 3, 4));
+    // A failure fills the output too.
+    Expect(6).Answer(32, 0, handset.Message().U16(0x100).U16(7).U16(8).U16(9));
+    EXPECT_EQ(Send(6, answer.Data()), Result::NonSignalFailed);
+    EXPECT_EQ(answer[0].status, 0x100);
+    EXPECT_THAT(answer[0].values, ElementsAre(7, 8, 9));
+  });
+}
+
+TEST_F(NonSignal, OtherCommandsReturnTheirStatusAlone) {
+  Expect(5).Answer(32, 0, "00 00 01 02 03 04 05 06");
+  EXPECT_EQ(Send(0x10005, answer.Data()), Result::Success);
+  EXPECT_EQ(LogText().front(), "SendNonSignalCmd(ID = 65541):");
+  Expect(5).Answer(32, 0, "00 01 01 02 03 04 05 06");
+  EXPECT_EQ(Send(5, nullptr), Result::NonSignalFailed);
+  for (const char* shortAnswer : {"00 00 00 00 00 00 00", ""}) {
+    Expect(6).Answer(32, 0, shortAnswer);
+    EXPECT_EQ(Send(6, answer.Data()), Result::NonSignalFailed);
+  }
+  EXPECT_TRUE(answer.Untouched());
+  static_cast<void>(Log());
+  ExpectRefused(Send(6, nullptr), 259);
+  ExpectRefused(SendNonSignalCmd(phone, nullptr, answer.Data(), 1000), 259);
+}
+
+struct MultiChipData : MultiChip {};
+
+TEST_F(MultiChipData, PowerFactorGoesToItsLevelsPlace) {
+  InBothByteOrders([&] {
+    phone.calibration = {};
+    EXPECT_EQ(SetPhoneClassmark_MChip(phone, 3), Result::Success);
+    static_cast<void>(Log());
+    // Table 2, level 19 less 5 in bands 0 and 4; the band word is the current band.
+    const QV_POWER_STEP low{4, 19, 0x0BCD, 2};
+    ExpectWrite(Header({0, 3, 21, 46, 2}).U16(0x0BCD));
+    EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &low), Result::Success);
+    EXPECT_THAT(LogText(), ElementsAre("PwrStepFactorSet_MChip:", "Clear Port Buffer",
+                                       ResultLine(Result::Success)));
+    EXPECT_EQ(OperationOf(Result::Success), 70U);
+    // No check of this band, which counts levels from 0.
+    const QV_POWER_STEP high{2, 15, 0x0BCD, 2};
+    ExpectWrite(Header({0, 3, 21, 47, 2}).U16(0x0BCD));
+    EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &high),
+              Result::Success);
+  });
+}
+
+TEST_F(MultiChipData, FactorsAreWrittenOnceEachToItsOwnPlace) {
+  const QV_POWER_STEP step{1, 0, 0, 0};
+  struct Place {
+    const commands::MultiChipFactor& factor;
+    unsigned storage, item;
+    std::uint32_t operation;
+  };
+  const Place places[] = {{multi_chip::Set_Flash_8PSK_PWR_FACTOR_MChip, 1, 36, 228},
+                          {multi_chip::Set_Ram_8PSK_PWR_FACTOR_MChip, 0, 36, 229},
+                          {multi_chip::Set_Flash_8PSK_PWR_TX_GAIN_MChip, 1, 37, 240},
+                          {multi_chip::Set_Ram_8PSK_PWR_TX_GAIN_MChip, 0, 37, 241}};
+  for (const Place& place : places) {
+    SCOPED_TRACE(place.factor.logName);
+    // A failed write is repeated, a good one not; zeros are a value as any other.
+    handset.ExpectAnyPayload(32, 0).Silent();
+    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::NoAnswer);
+    EXPECT_EQ(OperationOf(Result::NoAnswer), place.operation);
+    ExpectWrite(Header({place.storage, 1, place.item, 0, 2}).U16(0));
+    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::Success);
+    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::Success);
+    static_cast<void>(Log());
+    ExpectRefused(SetMultiChipFactor(phone, place.factor, nullptr), place.operation);
+    const QV_POWER_STEP wrongBand{2, 0, 0, 0};
+    ExpectRefused(SetMultiChipFactor(phone, place.factor, &wrongBand), place.operation);
+  }
+  ExpectRefused(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, nullptr), 70);
+}
+
+TEST_F(MultiChipData, RampsComeInPairs) {
+  InBothByteOrders([&] {
+    GuardedBuffer<std::uint16_t> first(16);
+    GuardedBuffer<std::uint16_t> second(16);
+    ExpectRead({1, 3, 9, 0, 32}).Answer(32, 1, ReadAnswer().U16(0x1234).Zeros(40));
+    ExpectRead({1, 3, 11, 0, 32}).Answer(32, 1, ReadAnswer().U16(0x5678));
+    EXPECT_EQ(ReadMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, first.Data(), second.Data(), 3),
+              Result::Success);
+    EXPECT_EQ(OperationOf(Result::Success), 140U);
+    EXPECT_EQ(first[0], 0x1234);
+    EXPECT_EQ(first[15], 0);
+    EXPECT_EQ(second[0], 0x5678);
+    EXPECT_TRUE(second.UntouchedFrom(1));
+
+    const std::array<std::uint16_t, 16> up{0x0102, 2};
+    const std::array<std::uint16_t, 16> down{0x0304, 4};
+    static_cast<void>(Log());
+    ExpectWrite(Header({0, 4, 8, 0, 32}).U16(0x0102).U16(2).Zeros(28));
+    ExpectWrite(Header({0, 4, 10, 0, 32}).U16(0x0304).U16(4).Zeros(28));
+    EXPECT_EQ(WriteMultiChipRamp(phone, multi_chip::Ramp_Ram, 0, up.data(), down.data(), 4),
+              Result::Success);
+    EXPECT_EQ(LogText().front(), "RampSetting_Ram_MChip:");
+    handset.ExpectAnyPayload(32, 0).Refuse();
+    EXPECT_EQ(WriteMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, up.data(), down.data(), 4),
+              Result::Refused);
+  });
+  std::array<std::uint16_t, 16> table{};
+  static_cast<void>(Log());
+  ExpectRefused(ReadMultiChipRamp(phone, multi_chip::Ramp_Ram, 1, nullptr, table.data(), 0), 138);
+  ExpectRefused(WriteMultiChipRamp(phone, multi_chip::Ramp_Ram, 1, table.data(), nullptr, 0), 137);
+  ExpectRefused(WriteMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, table.data(), table.data(), 2),
+                139);
+}
+
+}  // namespace
+}  // namespace merovane::test
