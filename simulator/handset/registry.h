@@ -3,7 +3,9 @@
 #include <cstdint>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -30,6 +32,19 @@ class Registry {
     return found == answerTypes_.end() ? request : found->second;
   }
 
+  // AT commands, in capitals, that begin so: the handler gives the line before the "OK", empty for
+  // none, or nothing when the command is wrong.
+  using AtHandler = std::function<std::optional<std::string>(const std::string&)>;
+  void OnAt(std::string prefix, AtHandler handler) {
+    at_.emplace_back(std::move(prefix), std::move(handler));
+  }
+  const AtHandler* AtHandlerOf(const std::string& command) const {
+    for (const auto& [prefix, handler] : at_) {
+      if (command.starts_with(prefix)) return &handler;
+    }
+    return nullptr;
+  }
+
   // Everything else is not heard before a start mode was chosen.
   void AllowWhileBooting(uint8_t type) { whileBooting_.insert(type); }
   bool AllowedWhileBooting(uint8_t type) const { return whileBooting_.contains(type); }
@@ -52,6 +67,7 @@ class Registry {
   std::map<uint8_t, std::vector<Handler>> wholeTypes_;
   std::map<uint8_t, uint8_t> answerTypes_;
   std::set<uint8_t> whileBooting_;
+  std::vector<std::pair<std::string, AtHandler>> at_;
 };
 
 }  // namespace handset

@@ -4,6 +4,7 @@
 #include "modules/memory/memory.h"
 #include "modules/peripherals/peripherals.h"
 #include "modules/session/session.h"
+#include "radio/radio.h"
 
 namespace handset {
 
@@ -25,6 +26,7 @@ std::vector<std::unique_ptr<Module>> MakeModules(Firmware& firmware) {
            MakeBluetoothModule,
            MakeWifiModule,
            MakeDspModule,
+           MakeRadioModule,
        }) {
     modules.push_back(make(firmware));
   }

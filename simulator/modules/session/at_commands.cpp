@@ -48,6 +48,7 @@ class AtModule final : public Module {
   std::string Name() const override { return "at"; }
 
   void Register(Registry& registry) override {
+    registry_ = &registry;
     registry.SetAnswerType(kCommandType, kAcknowledgeType);
     registry.On(kCommandType, 0, [this](const Frame& frame) {
       firmware_.Answer(kAcknowledgeType, 0, {});
@@ -75,6 +76,9 @@ class AtModule final : public Module {
       awaitingMessage_ = true;
       Say("\r\n> ");
       return;
+    }
+    if (const Registry::AtHandler* handler = registry_->AtHandlerOf(upper)) {
+      if (const auto line = (*handler)(upper)) return Succeed(*line);
     }
     for (const Answered& known : kAnswers) {
       if (upper == known.command) return Succeed(std::string(known.text));
@@ -105,6 +109,7 @@ class AtModule final : public Module {
   void Say(const std::string& text) { firmware_.Answer(kAnswerType, 0, ToBytes(text)); }
 
   Firmware& firmware_;
+  const Registry* registry_ = nullptr;
   bool awaitingMessage_ = false;
   unsigned messagesSent_ = 0;
 };
