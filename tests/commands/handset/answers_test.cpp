@@ -1,0 +1,259 @@
+// Answers that are longer or shorter than asked for, or tell of a failure.
+#include "commands/crc16.h"
+#include "commands/test/bluetooth.h"
+#include "commands/test/dsp_debug.h"
+#include "commands/test/flash_nv.h"
+#include "commands/test/gps.h"
+#include "commands/test/identification.h"
+#include "commands/test/peripherals.h"
+#include "commands/test/production_block.h"
+#include "commands/test/registers.h"
+#include "commands/test/wifi.h"
+#include "support/command_fixture.h"
+
+namespace merovane::test {
+namespace {
+
+using namespace commands;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+
+struct HandsetAnswers : CommandFixture {
+  GuardedBuffer<std::uint8_t> out{16};
+  std::uint32_t length = 77;
+};
+
+TEST_F(HandsetAnswers, OfFlashItemsAreCutToWhatWasAskedFor) {
+  handset.ExpectAnyPayload(13, 2).Answer(13, 0, "00 05 00 04 01 02 03 04 05 06");
+  EXPECT_EQ(ReadFlash(phone, 5, out.Data(), 4, &length, 10), Result::BufferTooSmall);
+  EXPECT_EQ(out.Hex(4), "01 02 03 04");
+  EXPECT_TRUE(out.UntouchedFrom(4));
+  EXPECT_EQ(length, 4u);
+  handset.ExpectAnyPayload(13, 2).Answer(13, 0, "00 05 00 04 09 08");
+  EXPECT_EQ(ReadFlash(phone, 5, out.Data(), 4, &length, 10), Result::Success);
+  EXPECT_EQ(length, 2u);
+  handset.ExpectAnyPayload(13, 2).Answer(13, 0, "00 05 00 04");
+  static_cast<void>(Log());
+  EXPECT_EQ(ReadFlash(phone, 5, out.Data(), 4, &length, 10), Result::WrongDataLength);
+  EXPECT_EQ(length, 0u);
+  EXPECT_THAT(LogText(), Contains(ResultLine(Result::WrongDataLength)));
+}
+
+TEST_F(HandsetAnswers, OfNvItemsAreCutAndOnesWithoutAnItemCountAsTooLong) {
+  handset.ExpectAnyPayload(13, 0).Answer(13, 0, "00 07 01 02 03");
+  EXPECT_EQ(ReadNv(phone, 7, out.Data(), 2, &length, 10), Result::BufferTooSmall);
+  EXPECT_EQ(length, 2u);
+  EXPECT_TRUE(out.UntouchedFrom(2));
+  handset.ExpectAnyPayload(13, 0).Answer(13, 0, "00");
+  EXPECT_EQ(ReadNv(phone, 7, out.Data(), 5, &length, 10), Result::BufferTooSmall);
+  EXPECT_EQ(length, 5u);
+  EXPECT_EQ(out.Hex(5), "00 00 00 00 00");
+  EXPECT_TRUE(out.UntouchedFrom(5));
+}
+
+TEST_F(HandsetAnswers, OfPartsOfNvItemsAreCheckedWithTheItemId) {
+  const auto read = [&](std::uint32_t offset, std::uint32_t bytes, std::uint32_t capacity) {
+    handset.ExpectAnyPayload(13, 0).Answer(13, 0, "00 07 01 02 03 04");
+    return ReadNvFromHandset(phone, 7, offset, bytes, out.Data(), capacity, &length);
+  };
+  EXPECT_EQ(read(7, 0, 16), Result::InvalidParam);
+  EXPECT_EQ(read(3, 4, 16), Result::InvalidParam);
+  EXPECT_EQ(read(6, UINT32_MAX, 16), Result::InvalidParam);
+  EXPECT_TRUE(out.Untouched());
+  EXPECT_EQ(length, 77u);
+  EXPECT_EQ(read(1, 4, 2), Result::Success);
+  EXPECT_EQ(length, 2u);
+  EXPECT_EQ(out.Hex(2), "02 03");
+  EXPECT_TRUE(out.UntouchedFrom(2));
+  // Two bytes further than the item goes.
+  EXPECT_EQ(read(2, 4, 16), Result::Success);
+  EXPECT_EQ(out.Hex(4), "03 04 00 00");
+}
+
+TEST_F(HandsetAnswers, OfRegistersFillTheCountAndNoMore) {
+  handset.ExpectAnyPayload(11, 0).Answer(11, 0, Bytes(300, 0x11));
+  EXPECT_EQ(ReadRegister(phone, 0, 0, out.Data(), 3), Result::Success);
+  EXPECT_EQ(out.Hex(3), "11 11 11");
+  EXPECT_TRUE(out.UntouchedFrom(3));
+}
+
+TEST_F(HandsetAnswers, WithLongIdentificationsAreCut) {
+  handset.Expect(93, 3).Answer(93, 3, Bytes(101, 0x22));
+  EXPECT_EQ(GetLcdIcDriverID(phone, 1, out.Data(), 4, &length), Result::BufferTooSmall);
+  EXPECT_EQ(length, 101u);
+  EXPECT_TRUE(out.UntouchedFrom(4));
+  handset.Expect(0, 0).Answer(0, 0, Bytes(101, 0x33));
+  GuardedBuffer<char> version(8);
+  EXPECT_EQ(GetMSVersion(phone, version.Data(), 5), Result::Success);
+  EXPECT_EQ(version.Hex(5), "33 33 33 33 33");
+  EXPECT_TRUE(version.UntouchedFrom(5));
+}
+
+TEST_F(HandsetAnswers, WithTooManyFlashRegionsAreImplausible) {
+  InBothByteOrders([&] {
+    GuardedBuffer<QV_FLASH_INFO> info;
+    handset.Expect(93, 4).Answer(93, 4, handset.Message().U32(1).U32(2).U32(32).Zeros(372));
+    static_cast<void>(Log());
+    EXPECT_EQ(GetFlashInfo(phone, info.Data()), Result::ParseFailed);
+    EXPECT_TRUE(info.Untouched());
+    EXPECT_THAT(LogText(), ElementsAre("GetFlashInfo:", "Clear Port Buffer"));
+    Fields full = handset.Message().U32(1).U32(2).U32(31);
+    for (std::uint32_t word = 0; word < 93; ++word) full.U32(word);
+    handset.Expect(93, 4).Answer(93, 4, full.Raw("EE EE"));
+    EXPECT_EQ(GetFlashInfo(phone, info.Data()), Result::Success);
+    EXPECT_EQ(info[0].regions[30].words[2], 92u);
+  });
+}
+
+TEST_F(HandsetAnswers, OfThe7310KFillThreeWordsOrTen) {
+  InBothByteOrders([&] {
+    const std::uint16_t words[10] = {};
+    GuardedBuffer<std::uint16_t> answered(10);
+    const Bytes answer = handset.Message().U16(1).U16(2).U16(3).Zeros(14).Get();
+    for (const std::size_t bytes : {5, 6, 19}) {
+      handset.ExpectAnyPayload(37, 9).Answer(
+          37, 9, Bytes(answer.begin(), answer.begin() + static_cast<std::ptrdiff_t>(bytes)));
+      EXPECT_EQ(Send7310KCommand(phone, 9, words, answered.Data(), 10), Result::Success);
+      EXPECT_TRUE(answered.UntouchedFrom(bytes == 5 ? 0 : 3)) << bytes;
+    }
+    EXPECT_EQ(answered[2], 3u);
+  });
+}
+
+TEST_F(HandsetAnswers, OfThe7310KAreAwaitedWithoutTheIncrement) {
+  settings.receiveIncrementMs = 500;
+  GuardedBuffer<std::uint16_t> answered(10);
+  const std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(Recv7310KCommand(phone, 4, answered.Data(), 0), Result::NoAnswer);
+  EXPECT_EQ(clock.NowMs() - before, 1000u);
+  EXPECT_TRUE(answered.Untouched());
+  EXPECT_THAT(Log(), ElementsAre("Recv7310KCommand", ResultLine(Result::NoAnswer)));
+  handset.Say(37, 4, handset.Message().U16(5).Zeros(18), 40);
+  const Result result = Recv7310KCommand(phone, 4, answered.Data(), 50);
+  EXPECT_EQ(result, Result::Success);
+  EXPECT_EQ(OperationOf(result), 236u);
+  EXPECT_EQ(answered[0], 5u);
+}
+
+TEST_F(HandsetAnswers, WithProductionBlocksAreCheckedBeforeTheyAreDelivered) {
+  InBothByteOrders([&] {
+    const auto read = [&](const Bytes& answer, std::uint32_t capacity) {
+      handset.ExpectAnyPayload(95, 0x81).Answer(95, 1, answer);
+      length = 77;
+      return FastReadProduct(phone, out.Data(), capacity, &length);
+    };
+    Bytes damaged = WithChecksum(Hex("01 02 03"));
+    damaged[1] ^= 1;
+    static_cast<void>(Log());
+    EXPECT_EQ(read(damaged, 16), Result::ChecksumMismatch);
+    EXPECT_THAT(LogText(), ElementsAre("Read Product Info", "Clear Port Buffer"));
+    EXPECT_EQ(length, 0u);
+    EXPECT_TRUE(out.Untouched());
+    EXPECT_EQ(read({}, 16), Result::WrongDataLength);
+    EXPECT_THAT(LogText(), Contains(ResultLine(Result::WrongDataLength)));
+    // The checksum of nothing.
+    EXPECT_EQ(read(Hex("00 00"), 16), Result::Success);
+    EXPECT_EQ(length, 0u);
+    // Cut behind its checksum's place, so that it does not match.
+    EXPECT_EQ(read(WithChecksum(Bytes(998, 7)), 16), Result::BufferTooSmall);
+    EXPECT_EQ(length, 998u);
+    EXPECT_EQ(read(WithChecksum(Bytes(999, 7)), 16), Result::ChecksumMismatch);
+    GuardedBuffer<std::uint8_t> small(4);
+    handset.ExpectAnyPayload(96, 0x81).Answer(96, 1, WithChecksum(Hex("01 02 03 04 05")));
+    EXPECT_EQ(FastReadVerSion(phone, small.Data(), 4, &length), Result::BufferTooSmall);
+    EXPECT_EQ(length, 5u);
+    EXPECT_EQ(small.Hex(4), "01 02 03 04");
+    std::fill_n(out.Data(), 16, std::uint8_t{0xA5});
+  });
+}
+
+TEST_F(HandsetAnswers, WithTheImeiCountAreAwaitedForTheIncrementOnly) {
+  InBothByteOrders([&] {
+    std::uint32_t count = 9;
+    settings.receiveIncrementMs = 0;
+    handset.Expect(97, 0x80, "00 00").Answer(97, 1, "02 00 00 00 00 00 00 00 00 00");
+    EXPECT_EQ(FastReaIMEICount(phone, &count), Result::NoAnswer);
+    EXPECT_EQ(count, 9u);
+    settings.receiveIncrementMs = 50;
+    handset.Expect(97, 0x80, "00 00").Answer(97, 1, "02 00 00 00 00 00 00 00 00 00");
+    EXPECT_EQ(FastReaIMEICount(phone, &count), Result::Success);
+    EXPECT_EQ(count, 2u) << "not in the handset's byte order";
+    for (const char* answer : {"", "04", "04 00 00 00 00 00 00 00 00"}) {
+      handset.Expect(97, 0x80, "00 00").Answer(97, 1, answer);
+      EXPECT_EQ(FastReaIMEICount(phone, &count), Result::WrongDataLength);
+      EXPECT_EQ(count, *answer ? 4u : 0u);
+    }
+  });
+}
+
+TEST_F(HandsetAnswers, ThatFailLeaveAVoltageOfZero) {
+  std::uint32_t voltage = 3700;
+  handset.Expect(30, 0).Refuse();
+  EXPECT_EQ(ReadPhoneVolt(phone, &voltage), Result::Refused);
+  EXPECT_EQ(voltage, 0u);
+}
+
+TEST_F(HandsetAnswers, OfGpsMustRepeatTheRequest) {
+  InBothByteOrders([&] {
+    const auto message = [&](std::uint32_t first, std::uint32_t second) {
+      return handset.Message().U32(first).U32(second).Raw(Bytes(44, 1)).Zeros(212);
+    };
+    handset.ExpectAnyPayload(35, 0).Answer(35, 0, message(3, 0));
+    EXPECT_EQ(GpsOpen(phone, 1), Result::GpsFailed);
+    handset.ExpectAnyPayload(35, 0).Answer(35, 0, message(0, 9));
+    EXPECT_EQ(GpsOpen(phone, 1), Result::Success) << "only the command counts";
+    const Bytes block(44, 5);
+    handset.ExpectAnyPayload(35, 0).Answer(35, 0, message(4, 43));
+    EXPECT_EQ(GpsWriteNv(phone, block.data()), Result::GpsFailed);
+    GuardedBuffer<std::uint8_t> read(44);
+    handset.ExpectAnyPayload(35, 0).Answer(35, 0, message(4, 44));
+    static_cast<void>(Log());
+    EXPECT_EQ(GpsReadNv(phone, read.Data()), Result::GpsFailed);
+    EXPECT_EQ(read.Hex(44), ToHex(Bytes(44, 1)));
+    EXPECT_THAT(LogText(), Contains(ResultLine(Result::GpsFailed)));
+    handset.ExpectAnyPayload(35, 0).Answer(35, 0, "00 00 00 63 00 00 00 2C 01");
+    EXPECT_EQ(GpsReadNv(phone, read.Data()), Result::Success) << "too short to be looked at";
+    EXPECT_EQ(read.Hex(3), "01 00 00");
+  });
+}
+
+TEST_F(HandsetAnswers, WithAWifiStatusFailUnlogged) {
+  InBothByteOrders([&] {
+    const Bytes failed = handset.Message().U32(1).U32(2).U32(3).U32(4).Get();
+    GuardedBuffer<std::uint32_t> words(3);
+    const auto fails = [&](std::uint8_t subtype, const std::function<Result()>& run) {
+      handset.ExpectAnyPayload(54, subtype).Answer(54, subtype, failed);
+      static_cast<void>(Log());
+      EXPECT_EQ(run(), Result::WifiFailed) << int{subtype};
+      EXPECT_EQ(LogText().size(), 2u) << int{subtype};
+    };
+    QV_WIFI_FACTOR factor{8, 2, 9};
+    fails(0, [&] { return WIFI_EnterEUTMode(phone, 1); });
+    fails(2, [&] { return WIFI_LoadAddr(phone, out.Data()); });
+    fails(5, [&] { return WIFI_SetMode(phone, 1); });
+    fails(9, [&] { return WIFI_ReadRxValue(phone, words.Data(), words.Data() + 1); });
+    fails(10, [&] { return WIFI_OperFactor(phone, 0, &factor); });
+    fails(12, [&] { return WIFI_OperFactor(phone, 2, &factor); });
+    EXPECT_TRUE(out.Untouched());
+    EXPECT_TRUE(words.Untouched());
+    EXPECT_EQ(factor.status, 8u);
+    EXPECT_EQ(factor.value, 9u);
+  });
+  std::uint32_t counts[] = {5, 5};
+  handset.Expect(54, 9).Silent();
+  EXPECT_EQ(WIFI_ReadRxValue(phone, &counts[0], &counts[1]), Result::NoAnswer);
+  EXPECT_THAT(counts, ElementsAre(0, 0));
+}
+
+TEST_F(HandsetAnswers, WithADspStatusFailLogged) {
+  InBothByteOrders([&] {
+    handset.ExpectAnyPayload(50, 1).Answer(50, 1, "00 00 01 00 AA BB");
+    static_cast<void>(Log());
+    EXPECT_EQ(DspDebug_RdRegMemo(phone, 0, 1, 0, out.Data(), 2), Result::DspDebugFailed);
+    EXPECT_TRUE(out.Untouched());
+    EXPECT_THAT(LogText(), Contains(ResultLine(Result::DspDebugFailed)));
+  });
+}
+
+}  // namespace
+}  // namespace merovane::test
