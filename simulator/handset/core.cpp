@@ -19,7 +19,7 @@ constexpr size_t kUnsolicitedBacklogLimit = 65536;
 constexpr milliseconds kDrainPoll{5};
 constexpr milliseconds kDrainLimit{2000};
 // From the last byte of an answer to the handset's own fall.
-constexpr milliseconds kRestartDelay{30};
+constexpr milliseconds kRestartDelay{100};
 constexpr milliseconds kPortRetry{100};
 constexpr size_t kTranscriptPayloadBytes = 64;
 
@@ -124,15 +124,18 @@ void Core::Invoke(const std::function<void()>& function) {
     return;
   }
   std::promise<void> done;
+  std::exception_ptr failure;
   asio::post(io_, [&] {
     try {
       function();
-      done.set_value();
     } catch (...) {
-      done.set_exception(std::current_exception());
+      failure = std::current_exception();
     }
+    // By now this thread has let go of the exception.
+    done.set_value();
   });
-  done.get_future().get();
+  done.get_future().wait();
+  if (failure) std::rethrow_exception(failure);
 }
 
 // --- power and modes

@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <asio/io_context.hpp>
 #include <asio/signal_set.hpp>
+#include <cstdio>
 #include <cstdlib>
 #include <iostream>
 #include <string>
@@ -98,9 +99,30 @@ void Declare(CLI::App& app, CommandLine& line) {
   app.add_flag("--verbose", line.verbose, "Show every frame on standard error");
 }
 
-}  // namespace
+// Serves until "quit", or a signal when there is no console.
+void Serve(const HandsetOptions& options) {
+  Handset phone(options);
+  asio::io_context signals;
+  asio::signal_set stop(signals, SIGINT, SIGTERM);
+  stop.async_wait([&](const asio::error_code& error, int) {
+    if (error) return;
+    phone.Stop();
+    // The main thread may be waiting for a line that never comes.
+    std::_Exit(EXIT_SUCCESS);
+  });
+  phone.Start();
+  std::thread watcher([&] { signals.run(); });
+  std::cout << "ready " << phone.Address() << std::endl;
+  std::string command;
+  bool quit = false;
+  while (!quit && std::getline(std::cin, command)) {
+    quit = !handset::RunConsoleLine(phone, command);
+  }
+  if (quit) signals.stop();
+  watcher.join();
+}
 
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
   CLI::App app("A simulated handset on a pseudo-terminal, a TCP port or a serial device");
   CommandLine line;
   Declare(app, line);
@@ -108,33 +130,17 @@ int main(int argc, char** argv) {
   if (line.verbose) {
     line.options.transcript = [](const std::string& text) { std::cerr << text + "\n"; };
   }
-  try {
-    Handset handset(line.options);
-    handset.Start();
-    std::cout << "ready " << handset.Address() << std::endl;
+  Serve(line.options);
+  return EXIT_SUCCESS;
+}
 
-    asio::io_context signals;
-    asio::signal_set stop(signals, SIGINT, SIGTERM);
-    std::thread watcher([&] {
-      stop.async_wait([&](const asio::error_code& error, int) {
-        if (error) return;
-        handset.Stop();
-        // The main thread may be waiting for a line that never comes.
-        std::_Exit(EXIT_SUCCESS);
-      });
-      signals.run();
-    });
-    std::string command;
-    bool quit = false;
-    while (!quit && std::getline(std::cin, command)) {
-      quit = !handset::RunConsoleLine(handset, command);
-    }
-    // Without a console it serves until a signal ends it.
-    if (quit) signals.stop();
-    watcher.join();
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
   } catch (const std::exception& error) {
-    std::cerr << "merovane-handset: " << error.what() << "\n";
+    std::fprintf(stderr, "merovane-handset: %s\n", error.what());
     return EXIT_FAILURE;
   }
-  return EXIT_SUCCESS;
 }

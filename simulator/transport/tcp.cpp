@@ -20,7 +20,9 @@ class TcpPort final : public Transport {
     if (error) throw std::runtime_error("not an IP address: " + options.address);
   }
 
-  ~TcpPort() override { Vanish(); }
+  ~TcpPort() override {
+    if (station_) station_->Close();
+  }
 
   void Appear() override {
     try {

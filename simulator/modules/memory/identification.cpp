@@ -23,7 +23,7 @@ class IdentificationModule final : public Module {
       Bytes payload;
       for (uint32_t value : values) Append32(payload, value, firmware_.Order());
       payload.resize(std::max(payload.size(), bytes));
-      Fixed(registry, subtype, std::move(payload));
+      Fixed(registry, subtype, payload);
     };
     words(0, {kChipId});
     words(1, {kChipType});
@@ -40,7 +40,7 @@ class IdentificationModule final : public Module {
   }
 
  private:
-  void Fixed(Registry& registry, uint8_t subtype, Bytes payload) {
+  void Fixed(Registry& registry, uint8_t subtype, const Bytes& payload) {
     registry.On(kIdentificationType, subtype,
                 [this, payload](const Frame& frame) { firmware_.Answer(frame, payload); });
   }

@@ -41,7 +41,7 @@ class RegistersModule final : public Module {
     }
     if (operation == kRead && total == kHeaderBytes) {
       if (auto bytes = memory_.Read(address, width, count)) return AnswerWith(frame, *bytes);
-    } else if (operation == kWrite && total == kHeaderBytes + count * width) {
+    } else if (operation == kWrite && total == kHeaderBytes + size_t{count} * width) {
       if (memory_.Write(address, width, std::span(frame.payload).subspan(kHeaderBytes))) {
         return AnswerWith(frame, {});
       }

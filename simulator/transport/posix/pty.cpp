@@ -66,7 +66,9 @@ class PtyPort final : public Transport {
   PtyPort(asio::io_context& io, const HandsetOptions& options, TransportEvents events)
       : io_(io), look_(io), link_(options.link), events_(std::move(events)) {}
 
-  ~PtyPort() override { Vanish(); }
+  ~PtyPort() override {
+    if (pump_) pump_->Close();
+  }
 
   void Appear() override {
     int fd = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);

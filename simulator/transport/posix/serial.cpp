@@ -28,7 +28,9 @@ class SerialPort final : public Transport {
         baudRate_(options.baudRate),
         events_(std::move(events)) {}
 
-  ~SerialPort() override { Vanish(); }
+  ~SerialPort() override {
+    if (pump_) pump_->Close();
+  }
 
   void Appear() override {
     try {
