@@ -112,7 +112,8 @@ std::size_t DecodeFrame(std::span<const std::uint8_t> frame, std::span<std::uint
       out += run;
       takeOne();
     } else {
-      for (const std::uint8_t* const blockEnd = in + kBlock; in < blockEnd;) takeOne();
+      const std::uint8_t* const blockEnd = in + kBlock;
+      while (in < blockEnd) takeOne();
     }
   }
   while (in < end) takeOne();
