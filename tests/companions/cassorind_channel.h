@@ -8,12 +8,11 @@
 #include <string>
 
 #include "cassorind/cassorind.h"
-#include "companions/device_peers.h"
+#include "companions/peers.h"
 
 namespace peers {
 
 inline constexpr std::uint32_t kPort = 5;
-inline constexpr std::uint32_t kPatience = kPatienceMs;
 
 struct Release {
   void operator()(CassorindChannel* channel) const { ReleaseChannel(channel); }
@@ -36,7 +35,7 @@ inline std::string ReadAll(CassorindChannel& channel, std::size_t bytes, std::ui
   std::string data;
   while (data.size() < bytes) {
     std::string buffer(piece, '\0');
-    const std::int32_t count = channel.Read(buffer.data(), piece, kPatience, 0);
+    const std::int32_t count = channel.Read(buffer.data(), piece, kPatienceMs, 0);
     if (count <= 0) break;
     data.append(buffer, 0, static_cast<std::size_t>(count));
   }
@@ -57,26 +56,17 @@ inline ::testing::AssertionResult SameBytes(const std::string& got, const std::s
                                        << ", differ at " << differs.first - got.begin();
 }
 
-// Runs each test over a pty and over TCP.
-class AnyDevice : public ::testing::TestWithParam<const char*> {
+// Runs each test over every kind of device.
+class AnyDevice : public ::testing::TestWithParam<std::string> {
  protected:
-  void SetUp() override {
-    if (GetParam() == std::string_view("pty")) {
-      peer = std::make_unique<PtyPeer>();
-    } else {
-      peer = std::make_unique<TcpPeer>();
-    }
-    device = std::make_unique<PortDevice>(kPort, peer->DeviceName());
-    channel = NewChannel();
-  }
   void Open() {
     ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
     peer->Accept();
   }
 
-  std::unique_ptr<Peer> peer;
-  std::unique_ptr<PortDevice> device;
-  ChannelPointer channel;
+  const std::unique_ptr<Peer> peer = Make(GetParam());
+  const PortDevice device{kPort, peer->DeviceName()};
+  const ChannelPointer channel = NewChannel();
 };
 
 }  // namespace peers

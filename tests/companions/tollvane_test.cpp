@@ -12,9 +12,12 @@
 
 #include "channel_server.h"
 #include "companions/tcp_peer.h"
-#include "threadqueue/threadqueue.h"
+#include "platform/message_queue.h"
 
 namespace {
+
+using merovane::platform::Message;
+using merovane::platform::TakeMessage;
 
 constexpr std::uint32_t kServerMessage = 2025;
 constexpr std::chrono::milliseconds kPatience{peers::kPatienceMs};
@@ -93,8 +96,8 @@ std::int32_t ForwardText(TollvaneServer& client, const std::string& text) {
 
 std::string TakeChunks(std::size_t bytes) {
   std::string data;
-  THREADQUEUE_MESSAGE message{};
-  while (data.size() < bytes && threadqueue_take(&message, peers::kPatienceMs)) {
+  Message message;
+  while (data.size() < bytes && TakeMessage(message, peers::kPatienceMs)) {
     EXPECT_EQ(message.id, kServerMessage);
     data.append(reinterpret_cast<const char*>(message.first),
                 static_cast<std::size_t>(message.second));
@@ -105,8 +108,8 @@ std::string TakeChunks(std::size_t bytes) {
 class Tollvane : public ::testing::Test {
  protected:
   void SetUp() override {
-    THREADQUEUE_MESSAGE message{};
-    while (threadqueue_take(&message, 0)) {
+    Message message;
+    while (TakeMessage(message, 0)) {
     }
   }
   // With the server knowing of it too, so that it has whom to inject to.
@@ -115,7 +118,7 @@ class Tollvane : public ::testing::Test {
     ASSERT_TRUE(server.AwaitClients(1));
   }
 
-  const std::uint32_t self = threadqueue_current_thread();
+  const std::uint32_t self = merovane::platform::CurrentThreadId();
   RunningServer server;
   Client client{InitDll()};
 };
@@ -163,9 +166,8 @@ TEST_F(Tollvane, EveryRegisteredThreadGetsEveryChunk) {
   std::promise<std::uint32_t> otherId;
   std::string otherGot;
   std::thread other([&] {
-    THREADQUEUE_MESSAGE none{};
-    threadqueue_take(&none, 0);
-    otherId.set_value(threadqueue_current_thread());
+    merovane::platform::CreateMessageQueue();
+    otherId.set_value(merovane::platform::CurrentThreadId());
     otherGot = TakeChunks(5);
   });
   const std::uint32_t otherThread = otherId.get_future().get();
@@ -187,18 +189,18 @@ TEST_F(Tollvane, EveryRegisteredThreadGetsEveryChunk) {
   server.Inject("unheard");
   ForwardText(*client, "x");
   client->Disconnect();
-  THREADQUEUE_MESSAGE message{};
-  EXPECT_EQ(threadqueue_take(&message, 0), 0);
+  Message message;
+  EXPECT_FALSE(TakeMessage(message, 0));
 }
 
 TEST_F(Tollvane, AFullQueueDelaysAndLosesNothing) {
-  while (threadqueue_post(self, 1, 0, 0)) {
-  }
+  int filled = 0;
+  while (filled < 10000 && merovane::platform::PostMessageToThread(self, 1, 0, 0)) ++filled;
   ConnectToServer();
   EXPECT_NE(client->RegisterReceiver(kServerMessage, 1, self), 0);
   server.Inject("delayed");
-  THREADQUEUE_MESSAGE message{};
-  for (int i = 0; i < 10000; ++i) ASSERT_EQ(threadqueue_take_range(&message, 1, 1), 1);
+  Message message;
+  for (int i = 0; i < filled; ++i) ASSERT_TRUE(TakeMessage(message, 0));
   EXPECT_EQ(TakeChunks(7), "delayed");
 }
 
@@ -232,8 +234,8 @@ TEST_F(Tollvane, ChunksOutliveTheDisconnect) {
   ConnectToServer();
   EXPECT_NE(client->RegisterReceiver(kServerMessage, 1, self), 0);
   server.Inject("kept");
-  THREADQUEUE_MESSAGE message{};
-  ASSERT_EQ(threadqueue_take(&message, peers::kPatienceMs), 1);
+  Message message;
+  ASSERT_TRUE(TakeMessage(message, peers::kPatienceMs));
   EXPECT_NE(client->Disconnect(), 0);
   EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(message.first), 4), "kept");
 }

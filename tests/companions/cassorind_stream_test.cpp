@@ -1,23 +1,14 @@
-#include "cassorind/cassorind.h"
-
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <thread>
 
+#include "cassorind/cassorind.h"
 #include "companions/cassorind_channel.h"
+#include "companions/tcp_peer.h"
 
 namespace peers {
 namespace {
-
-std::size_t OpenDescriptors() {
-  return static_cast<std::size_t>(std::distance(
-      std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator()));
-}
 
 using CassorindStream = AnyDevice;
 
@@ -38,9 +29,9 @@ TEST_P(CassorindStream, ReadsWhatIsThereWithoutWaitingForMore) {
   Open();
   peer->Send("abcdef");
   char buffer[4];
-  EXPECT_EQ(channel->Read(buffer, 4, kPatience, 0), 4);
+  EXPECT_EQ(channel->Read(buffer, 4, kPatienceMs, 0), 4);
   EXPECT_EQ(std::string(buffer, 4), "abcd");
-  EXPECT_EQ(channel->Read(buffer, 4, kPatience, 0), 2);
+  EXPECT_EQ(channel->Read(buffer, 4, kPatienceMs, 0), 2);
   EXPECT_EQ(std::string(buffer, 2), "ef");
   EXPECT_EQ(channel->Read(buffer, 4, 20, 0), 0);
   EXPECT_EQ(channel->Read(buffer, 4, 0, 0), 0);
@@ -63,9 +54,9 @@ TEST_P(CassorindStream, AVanishedDeviceEndsReadsAndWrites) {
   Open();
   std::thread vanisher([&] { peer->Vanish(); });
   char buffer[8];
-  EXPECT_EQ(channel->Read(buffer, 8, kPatience, 0), -1);
+  EXPECT_EQ(channel->Read(buffer, 8, kPatienceMs, 0), -1);
   vanisher.join();
-  EXPECT_EQ(channel->Read(buffer, 8, kPatience, 0), -1);
+  EXPECT_EQ(channel->Read(buffer, 8, kPatienceMs, 0), -1);
   EXPECT_LT(channel->Write("gone", 4, 0), 4);
   EXPECT_NE(channel->Close(), 0);
 }
@@ -78,7 +69,7 @@ TEST_P(CassorindStream, WhatCameBeforeTheEndIsReadFirst) {
   EXPECT_EQ(ReadAll(*channel, 6), " words");
   EXPECT_EQ(channel->Read(nullptr, 0, 0, 0), 0);
   char buffer[8];
-  EXPECT_EQ(channel->Read(buffer, 8, kPatience, 0), -1);
+  EXPECT_EQ(channel->Read(buffer, 8, kPatienceMs, 0), -1);
 }
 
 TEST_P(CassorindStream, AWriteNotedBeforeTheEndIsReportedShort) {
@@ -132,22 +123,19 @@ TEST_P(CassorindStream, WritesOfSeveralThreadsDoNotMix) {
   second.join();
 }
 
-TEST_P(CassorindStream, OpensAndClosesLeaveNothingOpen) {
-  const auto cycle = [&] {
+TEST_P(CassorindStream, CanBeOpenedAgainAndAgain) {
+  for (int i = 0; i < 50; ++i) {
     Open();
-    ASSERT_NE(channel->Close(), 0);
-    if (GetParam() == std::string_view("tcp")) peer->Vanish();
-  };
-  cycle();
-  const std::size_t before = OpenDescriptors();
-  for (int i = 0; i < 50; ++i) cycle();
-  EXPECT_EQ(OpenDescriptors(), before);
+    peer->Send("up");
+    EXPECT_EQ(ReadAll(*channel, 2), "up");
+    EXPECT_NE(channel->Close(), 0);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(Devices, CassorindStream, ::testing::Values("pty", "tcp"),
-                         [](const auto& each) { return std::string(each.param); });
+INSTANTIATE_TEST_SUITE_P(Devices, CassorindStream, ::testing::ValuesIn(Kinds()),
+                         [](const auto& each) { return each.param; });
 
-TEST(CassorindChannelState, RefusesWhatCannotBeOpened) {
+TEST(CassorindChannel, RefusesWhatCannotBeOpened) {
   EXPECT_EQ(CreateChannel(nullptr, 0), 0);
   CassorindChannel* none = nullptr;
   EXPECT_EQ(CreateChannel(&none, 1), 0);
@@ -155,8 +143,8 @@ TEST(CassorindChannelState, RefusesWhatCannotBeOpened) {
 
   const ChannelPointer channel = NewChannel();
   EXPECT_EQ(channel->Open(nullptr), 0);
-  for (const char* device : {"/dev/pts/no-such-device", "/dev/null", "/etc/passwd", "socket://",
-                             "socket://127.0.0.1", "socket://:80", "socket://127.0.0.1:1"}) {
+  for (const char* device : {"no-such-device", "socket://", "socket://127.0.0.1", "socket://:80",
+                             "socket://127.0.0.1:1"}) {
     const PortDevice named(kPort, device);
     EXPECT_FALSE(OpenAt(*channel, kPort, 115200)) << device;
   }
@@ -164,63 +152,21 @@ TEST(CassorindChannelState, RefusesWhatCannotBeOpened) {
   EXPECT_FALSE(OpenAt(*channel, 250, 115200));
 
   char buffer[1];
-  EXPECT_EQ(channel->Read(buffer, 1, kPatience, 0), -1);
+  EXPECT_EQ(channel->Read(buffer, 1, kPatienceMs, 0), -1);
   EXPECT_EQ(channel->Write("x", 1, 0), 0);
   EXPECT_EQ(channel->Clear(), 0);
   EXPECT_EQ(channel->Close(), 0);
 }
 
-TEST(CassorindChannelState, ADeviceThatVanishedCannotBeOpenedAgain) {
-  std::string name;
-  {
-    const PtyPeer pty;
-    name = pty.DeviceName();
-  }
-  const PortDevice device(kPort, name);
-  EXPECT_FALSE(OpenAt(*NewChannel(), kPort, 115200));
-}
-
-TEST(CassorindChannelState, HasOneUserAtATime) {
-  const PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer first = NewChannel();
-  const ChannelPointer second = NewChannel();
-  ASSERT_TRUE(OpenAt(*first, kPort, 115200));
-  EXPECT_FALSE(OpenAt(*first, kPort, 115200));
-  EXPECT_FALSE(OpenAt(*second, kPort, 115200));
-  EXPECT_NE(first->Close(), 0);
-  EXPECT_EQ(first->Close(), 0);
-  EXPECT_TRUE(OpenAt(*second, kPort, 115200));
-}
-
-TEST(CassorindSerial, IsRawWithEightBitsAtTheGivenRate) {
-  const PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer channel = NewChannel();
-  for (const std::uint32_t rate : {1200u, 9600u, 115200u, 128000u, 921600u, 4000000u}) {
-    ASSERT_TRUE(OpenAt(*channel, kPort, rate)) << rate;
-    const termios2 settings = pty.Settings();
-    EXPECT_EQ(settings.c_ospeed, rate);
-    EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB | CRTSCTS), static_cast<tcflag_t>(CS8));
-    EXPECT_EQ(settings.c_iflag, 0u);
-    EXPECT_EQ(settings.c_oflag, 0u);
-    EXPECT_EQ(settings.c_lflag, 0u);
-    channel->Close();
-  }
+TEST(CassorindChannel, IsClosedByItsRelease) {
+  TcpPeer peer;
+  const PortDevice device(kPort, peer.DeviceName());
+  ChannelPointer channel = NewChannel();
+  ASSERT_TRUE(OpenAt(*channel, kPort, 0));
   EXPECT_FALSE(OpenAt(*channel, kPort, 0));
-  EXPECT_FALSE(OpenAt(*channel, kPort, 4000001));
-}
-
-TEST(CassorindSerial, DropsWhatCameBeforeTheOpen) {
-  PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer channel = NewChannel();
-  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
-  pty.Send("stale\n");
-  channel->Close();
-  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
-  pty.Send("new");
-  EXPECT_EQ(ReadAll(*channel, 3), "new");
+  peer.Accept();
+  channel.reset();
+  EXPECT_EQ(peer.Receive(1), "");
 }
 
 }  // namespace

@@ -1,0 +1,94 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <iterator>
+#include <string>
+
+#include "companions/cassorind_channel.h"
+#include "companions/posix/pty_peer.h"
+
+namespace peers {
+namespace {
+
+std::size_t OpenDescriptors() {
+  return static_cast<std::size_t>(std::distance(
+      std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator()));
+}
+
+TEST(CassorindSerial, OpensAndClosesLeaveNoDescriptors) {
+  const PtyPeer pty;
+  const PortDevice device(kPort, pty.DeviceName());
+  const ChannelPointer channel = NewChannel();
+  ASSERT_NE(channel->SetReceiver(1124, 1, 1), 0);
+  const std::size_t before = OpenDescriptors();
+  for (int i = 0; i < 50; ++i) {
+    ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+    EXPECT_GT(OpenDescriptors(), before);
+    EXPECT_NE(channel->Close(), 0);
+  }
+  EXPECT_EQ(OpenDescriptors(), before);
+}
+
+TEST(CassorindSerial, IsOnlyATerminal) {
+  const ChannelPointer channel = NewChannel();
+  for (const char* device : {"/dev/pts/no-such-device", "/dev/null", "/etc/passwd", "/tmp"}) {
+    const PortDevice named(kPort, device);
+    EXPECT_FALSE(OpenAt(*channel, kPort, 115200)) << device;
+  }
+}
+
+TEST(CassorindSerial, ADeviceThatVanishedCannotBeOpenedAgain) {
+  std::string name;
+  {
+    const PtyPeer pty;
+    name = pty.DeviceName();
+  }
+  const PortDevice device(kPort, name);
+  EXPECT_FALSE(OpenAt(*NewChannel(), kPort, 115200));
+}
+
+TEST(CassorindSerial, HasOneUserAtATime) {
+  const PtyPeer pty;
+  const PortDevice device(kPort, pty.DeviceName());
+  const ChannelPointer first = NewChannel();
+  const ChannelPointer second = NewChannel();
+  ASSERT_TRUE(OpenAt(*first, kPort, 115200));
+  EXPECT_FALSE(OpenAt(*first, kPort, 115200));
+  EXPECT_FALSE(OpenAt(*second, kPort, 115200));
+  EXPECT_NE(first->Close(), 0);
+  EXPECT_EQ(first->Close(), 0);
+  EXPECT_TRUE(OpenAt(*second, kPort, 115200));
+}
+
+TEST(CassorindSerial, IsRawWithEightBitsAtTheGivenRate) {
+  const PtyPeer pty;
+  const PortDevice device(kPort, pty.DeviceName());
+  const ChannelPointer channel = NewChannel();
+  for (const std::uint32_t rate : {1200u, 9600u, 115200u, 128000u, 921600u, 4000000u}) {
+    ASSERT_TRUE(OpenAt(*channel, kPort, rate)) << rate;
+    const termios2 settings = pty.Settings();
+    EXPECT_EQ(settings.c_ospeed, rate);
+    EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB | CRTSCTS), static_cast<tcflag_t>(CS8));
+    EXPECT_EQ(settings.c_iflag, 0u);
+    EXPECT_EQ(settings.c_oflag, 0u);
+    EXPECT_EQ(settings.c_lflag, 0u);
+    channel->Close();
+  }
+  EXPECT_FALSE(OpenAt(*channel, kPort, 0));
+  EXPECT_FALSE(OpenAt(*channel, kPort, 4000001));
+}
+
+TEST(CassorindSerial, DropsWhatCameBeforeTheOpen) {
+  PtyPeer pty;
+  const PortDevice device(kPort, pty.DeviceName());
+  const ChannelPointer channel = NewChannel();
+  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+  pty.Send("stale\n");
+  channel->Close();
+  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+  pty.Send("new");
+  EXPECT_EQ(ReadAll(*channel, 3), "new");
+}
+
+}  // namespace
+}  // namespace peers
