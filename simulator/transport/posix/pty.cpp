@@ -41,6 +41,7 @@ class StationEnd {
     if (fd_ >= 0) close(fd_);
   }
 
+  bool IsOpen() const { return fd_ >= 0; }
   bool MakeRaw() const {
     termios settings{};
     if (fd_ < 0 || tcgetattr(fd_, &settings) != 0) return false;
@@ -126,8 +127,15 @@ class PtyPort final : public Transport {
   void StationLeft() {
     SetConnected(false);
     pump_->DropBacklog();
+    StationEnd end(device_);
+    if (!end.IsOpen()) {
+      // A station that died with the device in exclusive mode leaves it locked for good.
+      std::exchange(pump_, nullptr)->Close();
+      Appear();
+      return;
+    }
     // What nobody read must not greet the next station.
-    StationEnd(device_).DropUnread();
+    end.DropUnread();
     LookForStation();
   }
 
