@@ -72,9 +72,9 @@ TEST_F(Writer, SavedProjectReadsBackAndItsDescriptionsGrow) {
   ASSERT_EQ(again.Items().Items().Size(), 3U);
   for (std::uint32_t i = 0; i < 3; ++i) {
     Item expected = parser.Items()[i];
-    const std::string description = " " + std::string(expected.description);
     // An empty description becomes what stands behind the "=".
-    expected.description = i == 0 ? description : " \n";
+    const std::string description = i == 0 ? "  two values\n" : " \n";
+    expected.description = description;
     if (expected.type != ItemType::Array) expected.size = 0;
     EXPECT_EQ(again.Items()[i], expected) << i;
   }
