@@ -2032,6 +2032,197 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(const QV_TD_PARAMETERS *pa
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
     int32_t port, const QV_TD_PARAMETERS *parameters);
 
+/* ---- NV projects --------------------------------------------------------------------- */
+
+/** Opens an NV project in place of the one that the phone object holds, if any.
+ * @param path  of the project file, in the system's narrow encoding; its module files are read with it
+ * @return 0; 4 when `path` is null; 29 when the project or one of its modules cannot be read: no project is
+ *   open then */
+MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile(const char *path);
+MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile_MT(int32_t port, const char *path);
+
+/** Closes the phone object's NV project. Changes that were not put into an image are lost.
+ * @return 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile(void);
+MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
+
+/** Reads an item's content as text.
+ * @param module    not used: the first item of that path in load order answers
+ * @param path      full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
+ * @param text      exactly `capacity` bytes are written: the text, cut to fit, then zeros. A text of `capacity`
+ *   characters or more has no terminating zero
+ * @param capacity  bytes at `text`; 256 hold every text
+ * @return 0; 4 for a null pointer or capacity 0; 17; 18 when there is no item of that path (whatever the code's name says) */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue(
+    uint32_t module, const char *path, char *text, uint32_t capacity);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_MT(
+    int32_t port, uint32_t module, const char *path, char *text, uint32_t capacity);
+
+/** Replaces an item's content.
+ * @param text  a block of 256 bytes; at most 255 characters, up to the first zero, are stored. Numbers are decimal
+ *   or, with an "x" in them, hexadecimal
+ * @return 0; 4 for a null pointer; 17; 18 when there is no item of that path */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue(
+    uint32_t module, const char *path, const char *text);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
+    int32_t port, uint32_t module, const char *path, const char *text);
+
+/** Builds the NV image.
+ * @param buffer  65,536 bytes; those behind the image become zero
+ * @param length  bytes of the image
+ * @return 0; 4 for a null pointer; 17; 5 when the image would pass 65,536 bytes: nothing is written then */
+MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory(
+    void *buffer, uint32_t *length);
+MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
+    int32_t port, void *buffer, uint32_t *length);
+
+/** Builds the NV image into the project's TARGET file. For the default phone object only.
+ * @return 0, also when the file cannot be written, which a message box tells; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SaveToBinaryFile(void);
+
+/** Tells where an item's data stand: for a member or element in the data of its top-level item; 0 for a top-level
+ * scalar or array, its widest alignment for a structure.
+ * @param path    letter case counts
+ * @param offset  in bytes. No size is told, whatever the name says
+ * @return 0; 4 for a null pointer; 17; 18 when there is no item of that path */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize(const char *path, uint32_t *offset);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
+    int32_t port, const char *path, uint32_t *offset);
+
+/** Reverses the byte order of 16- and 32-bit values in a block, as the items from `path` on say.
+ * @param path    of the item where the block begins; letter case counts. A structure or array counts as one byte of
+ *   its own: begin at its first member. An unknown path changes nothing
+ * @param length  bytes at `data`
+ * @return 0; 17 (tested first); 4 for a null pointer or length 0 */
+MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType(
+    const char *path, void *data, uint32_t length);
+MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType_MT(
+    int32_t port, const char *path, void *data, uint32_t length);
+
+/* ---- NV projects: calibration parameters --------------------------------------------- */
+
+/** Reads a band's AGC words, gain index and receive boundaries.
+ * @param agc_words    91 values
+ * @param gain_index   one value
+ * @param rx_boundary  4 values
+ * @param band         0 GSM, 1 GSM850, 2 DCS, 3 PCS
+ * @return 0, also when the project lacks some of them (a missing element repeats the one before); 4 for a null pointer or
+ *   another band; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc(
+    uint16_t *agc_words, uint16_t *gain_index, uint16_t *rx_boundary, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc_MT(
+    int32_t port, uint16_t *agc_words, uint16_t *gain_index, uint16_t *rx_boundary, uint32_t band);
+
+/** Writes a band's AGC words, gain index and receive compensation. The gain indices of GSM, DCS and GSM850 are written
+ * with it, as the last QV_GetNvValue_Agc found them: 0 before the first.
+ * @param agc_words        91 values
+ * @param rx_compensation  5 values
+ * @param band             0 GSM, 1 GSM850, 2 DCS, 3 PCS
+ * @return 0; 4 for a null pointer or another band; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc(
+    const uint16_t *agc_words, uint16_t gain_index, const uint16_t *rx_compensation,
+    uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc_MT(
+    int32_t port, const uint16_t *agc_words, uint16_t gain_index, const uint16_t *rx_compensation,
+    uint32_t band);
+
+/** Reads a band's ramp tables, transmit boundaries and step factors. For GSM the two ramp-down tables come in each
+ * other's place.
+ * @param ramp_up_stage0    16 values, as are the next three
+ * @param tx_boundary       4 values
+ * @param step_factor       80 values
+ * @param band              0 GSM, 1 GSM850, 2 DCS, 3 PCS
+ * @return 0; 4 for a null pointer or another band; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc(
+    uint16_t *ramp_up_stage0, uint16_t *ramp_up_stage1, uint16_t *ramp_down_stage0,
+    uint16_t *ramp_down_stage1, uint16_t *tx_boundary, uint16_t *step_factor, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc_MT(
+    int32_t port, uint16_t *ramp_up_stage0, uint16_t *ramp_up_stage1, uint16_t *ramp_down_stage0,
+    uint16_t *ramp_down_stage1, uint16_t *tx_boundary, uint16_t *step_factor, uint32_t band);
+
+/** Writes a band's step factors.
+ * @param step_factor  80 values
+ * @param band         0 GSM, 1 GSM850, 2 DCS, 3 PCS
+ * @return 0; 4 for a null pointer or another band; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc(const uint16_t *step_factor, uint32_t band);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc_MT(
+    int32_t port, const uint16_t *step_factor, uint32_t band);
+
+/** Reads a band's step factors. For the default phone object only.
+ * @param step_factor  80 values
+ * @param band         0 GSM, 1 DCS, 3 PCS, 4 GSM850 (not as elsewhere); another one reads nothing
+ * @return 0; 17 (tested first); 4 for a null pointer */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Factor(uint16_t *step_factor, uint32_t band);
+
+/** Reads the version of the calibration parameters.
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion(uint16_t *version);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_MT(int32_t port, uint16_t *version);
+
+/** Reads the same version.
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD(uint16_t *version);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD_MT(int32_t port, uint16_t *version);
+
+/** Reads the ADC's and the battery's calibration points.
+ * @param adc      2 values
+ * @param battery  2 values
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1(uint32_t *adc, uint32_t *battery);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1_MT(
+    int32_t port, uint32_t *adc, uint32_t *battery);
+
+/** Writes the ADC's and the battery's calibration points, 2 values each.
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1(
+    const uint32_t *adc, const uint32_t *battery);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1_MT(
+    int32_t port, const uint32_t *adc, const uint32_t *battery);
+
+/** Reads the charger's voltage table.
+ * @param voltage_table  16 values
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2(uint16_t *voltage_table);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2_MT(int32_t port, uint16_t *voltage_table);
+
+/** Writes the charger's voltage table, 16 values.
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2(const uint16_t *voltage_table);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2_MT(
+    int32_t port, const uint16_t *voltage_table);
+
+/** Reads the AFC centre and slope.
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1(uint16_t *center, uint16_t *slope);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1_MT(
+    int32_t port, uint16_t *center, uint16_t *slope);
+
+/** Writes the AFC centre and slope.
+ * @return 0; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1(uint16_t center, uint16_t slope);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1_MT(
+    int32_t port, uint16_t center, uint16_t slope);
+
+/** Reads the AFC structure.
+ * @param afc_range  16 values, as are the next two
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2(
+    uint16_t *slope_length, uint16_t *cdac, uint16_t *cafc, uint16_t *afc_range,
+    uint16_t *slope_value, uint16_t *slope_reciprocal);
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2_MT(
+    int32_t port, uint16_t *slope_length, uint16_t *cdac, uint16_t *cafc, uint16_t *afc_range,
+    uint16_t *slope_value, uint16_t *slope_reciprocal);
+
+/** Writes the AFC structure.
+ * @param afc_range  16 values, as are the next two
+ * @return 0; 4 for a null pointer; 17 */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2(
+    uint16_t slope_length, uint16_t cdac, uint16_t cafc, const uint16_t *afc_range,
+    const uint16_t *slope_value, const uint16_t *slope_reciprocal);
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2_MT(
+    int32_t port, uint16_t slope_length, uint16_t cdac, uint16_t cafc, const uint16_t *afc_range,
+    const uint16_t *slope_value, const uint16_t *slope_reciprocal);
+
 #ifdef __cplusplus
 }
 #endif

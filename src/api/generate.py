@@ -14,7 +14,11 @@ arguments; both run merovane::commands::X(Phone&, ...). Behind the kind, in brac
     decorated       no _MT twin, published under its stdcall-decorated name
     twin-decorated  the twin is published under its decorated name
 `session X` gives QV_X alone, which runs merovane::api::X(...); [void] when it returns nothing.
-`project X` is as `command X`, and runs merovane::nvproject::X(CFileParser*, ...) on the object's NV project.
+`project X` is as `command X`, and runs merovane::nvproject::X(CFileParser*, ...) on the object's NV project, under that
+operation's id; underscores in X do not count. Behind the kind, in brackets:
+    as F            runs F instead
+    image           F takes an ImageContext behind the arguments
+    holder          F takes what holds the project, and has no id
 A line `family "module"` adds the rows that families/<module>.py makes of a table.
 
 Written: exports.cpp, Merovane.def, exports.map, exports-windows.txt, exports-linux.txt into --output;
@@ -81,7 +85,12 @@ class Api:
         elif kind == "command":
             call = f"commands::{name}({', '.join(['phone'] + names)})"
         else:
-            call = f"nvproject::{name}({', '.join(['phone.project.get()'] + names)})"
+            function = next((flag[3:] for flag in flags if flag.startswith("as ")), name.replace("_", ""))
+            project = "phone.project" if "holder" in flags else "phone.project.get()"
+            context = ["api::ImageContextNow()"] if "image" in flags else []
+            call = f"nvproject::{function}({', '.join([project] + names + context)})"
+            if "holder" not in flags:
+                call = f"api::RunProjectOperation(nvproject::operation::k{function}, [&] {{ return {call}; }})"
         closure = "[&](auto& phone) { return " + call + "; }"
         export("", f"api::OnDefaultPhone({closure})", arguments, documentation, "decorated" in flags)
         if not {"plain", "decorated"} & flags:
