@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <span>
+#include <stdexcept>
 
 namespace handset {
 namespace {
@@ -47,11 +48,7 @@ void CalibrationData::Write(const Frame& frame) {
   }
   if (header.item == kSave && header.copy == 1 && header.bytes == 0) {
     // Writing flash takes its time.
-    return firmware_.After(kCommitTime, [this, frame] {
-      items_.Commit();
-      firmware_.Flash().Save();
-      Acknowledge(frame);
-    });
+    return firmware_.After(kCommitTime, [this, frame] { Commit(frame); });
   }
   if (header.copy == 0 && Step(frame, header)) return;
   const auto data = std::span(frame.payload).subspan(kHeaderBytes);
@@ -60,8 +57,25 @@ void CalibrationData::Write(const Frame& frame) {
     return firmware_.Refuse(frame);
   }
   // The radio uses what is in RAM at once.
-  if (header.copy == 0 && (header.item == item::kAfcCentre || header.item == item::kFineTrim)) {
-    frontEnd_.SetCrystal(U16(frame, kHeaderBytes));
+  if (header.copy == 0) {
+    const uint16_t value = items_.Value(0, header.item);
+    if (header.item == item::kAfcCentre || header.item == item::kFineTrim) {
+      frontEnd_.SetCrystal(value);
+    } else if (header.item == item::kCoarseTrim) {
+      frontEnd_.SetCoarseTrim(value);
+    }
+  }
+  Acknowledge(frame);
+}
+
+void CalibrationData::Commit(const Frame& frame) {
+  items_.Commit();
+  try {
+    // Now, not after the answer: who has that may cut the power.
+    firmware_.Flash().Save();
+  } catch (const std::runtime_error& error) {
+    firmware_.Note(error.what());
+    return firmware_.Refuse(frame);
   }
   Acknowledge(frame);
 }
@@ -71,8 +85,7 @@ bool CalibrationData::Step(const Frame& frame, const Header& header) {
   const auto has = [&](size_t bytes) { return header.bytes == bytes; };
   switch (header.item) {
     case kChannel:
-      if (!has(2)) break;
-      frontEnd_.SetBand(header.band);
+      if (!has(2) || !frontEnd_.SetBand(header.band)) break;
       frontEnd_.Tune(word(0));
       Acknowledge(frame);
       return true;
@@ -87,8 +100,7 @@ bool CalibrationData::Step(const Frame& frame, const Header& header) {
       Acknowledge(frame);
       return true;
     case kTransmitter:
-      if (!has(20)) break;
-      frontEnd_.SetBand(header.band);
+      if (!has(20) || !frontEnd_.SetBand(header.band)) break;
       if (frame.payload[kHeaderBytes + 10]) {
         frontEnd_.Transmit();
       } else {
@@ -97,8 +109,7 @@ bool CalibrationData::Step(const Frame& frame, const Header& header) {
       Acknowledge(frame);
       return true;
     case kReceiver: {
-      if (!has(20) || word(8) != 18) break;
-      frontEnd_.SetBand(header.band);
+      if (!has(20) || word(8) != 18 || !frontEnd_.SetBand(header.band)) break;
       const bool directCurrent = frame.payload[kHeaderBytes + 18] != 0;
       if (frame.payload[kHeaderBytes + 10]) {
         frontEnd_.Receive(word(0), directCurrent);

@@ -25,6 +25,7 @@ class CalibrationData {
 
   void Write(const Frame& frame);
   void Read(const Frame& frame);
+  void Commit(const Frame& frame);
   // True when the item is a radio step, which has been carried out and answered.
   bool Step(const Frame& frame, const Header& header);
   bool Measure(const Frame& frame, const Header& header);

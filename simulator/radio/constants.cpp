@@ -60,7 +60,7 @@ const BandConstants* RadioConstants::Band(uint32_t band) const {
   return found == bands.end() ? nullptr : &*found;
 }
 
-double FrequencyErrorHz(const RadioConstants& constants, uint16_t dac, double temperature) {
+double FrequencyErrorHz(const RadioConstants& constants, double dac, double temperature) {
   const double steps = dac - constants.centreDac;
   return constants.hzPerStep * steps + constants.hzPerStepCubed * steps * steps * steps +
          constants.hzPerDegree * (temperature - kRoomTemperature);

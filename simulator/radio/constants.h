@@ -45,7 +45,7 @@ struct RadioConstants {
 
 inline constexpr double kRoomTemperature = 25;
 
-double FrequencyErrorHz(const RadioConstants& constants, uint16_t dac, double temperature);
+double FrequencyErrorHz(const RadioConstants& constants, double dac, double temperature);
 
 // -1 at the band's first channel, 1 at its last.
 double Place(const BandConstants& band, uint16_t channel);

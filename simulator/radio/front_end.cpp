@@ -8,6 +8,8 @@ namespace handset {
 namespace {
 
 constexpr int kReadsUntilSettled = 2;
+// The coarse trim counts from the crystal's own place, in both directions.
+constexpr double kFineStepsPerCoarseStep = 32;
 // Spread of single measurements.
 constexpr double kRssiNoise = 2;  // 1/32 dB
 constexpr double kReceiveLevelNoise = 0.2;
@@ -24,9 +26,16 @@ uint16_t Rounded(double value) {
 void FrontEnd::PowerOn() {
   band_ = channel_ = level_ = gainWord_ = 0;
   dac_ = items_.Value(0, item::kAfcCentre);
-  factor_.reset();
+  coarseTrim_ = items_.Value(0, item::kCoarseTrim);
+  StopTransmitting();
   receiving_ = directCurrent_ = false;
   readsUntilSettled_ = 0;
+}
+
+bool FrontEnd::SetBand(uint32_t band) {
+  if (!constants_.Band(band)) return false;
+  band_ = static_cast<uint16_t>(band);
+  return true;
 }
 
 void FrontEnd::Tune(uint16_t channel) {
@@ -39,19 +48,19 @@ const BandConstants* FrontEnd::TunedBand() const {
   return band && channel_ >= band->firstChannel && channel_ <= band->lastChannel ? band : nullptr;
 }
 
-void FrontEnd::Transmit() {
-  factor_ = 0;
-  const BandConstants* band = TunedBand();
-  if (!band || level_ < band->firstLevel || level_ >= band->firstLevel + kLevels) return;
-  const size_t element = GroupOf(*band, channel_) * kLevels + (level_ - band->firstLevel);
-  factor_ = items_.Value(band_, item::kStepFactors, element);
+bool FrontEnd::TransmitWith(uint32_t group, uint16_t factor) {
+  if (group >= kChannelGroups) return false;
+  channel_ = MiddleOfGroup(*constants_.Band(band_), group);
+  factor_ = factor;
+  transmitting_ = Transmitting::WithFactor;
+  return true;
 }
 
-void FrontEnd::TransmitWith(uint16_t level, size_t group, uint16_t factor) {
-  level_ = level;
-  const BandConstants* band = constants_.Band(band_);
-  if (band && group < kChannelGroups) channel_ = MiddleOfGroup(*band, group);
-  factor_ = factor;
+uint16_t FrontEnd::Factor(const BandConstants& band) const {
+  if (transmitting_ == Transmitting::WithFactor) return factor_;
+  if (level_ < band.firstLevel || level_ >= band.firstLevel + kLevels) return 0;
+  const size_t element = GroupOf(band, channel_) * kLevels + (level_ - band.firstLevel);
+  return items_.Value(band_, item::kStepFactors, element);
 }
 
 void FrontEnd::Receive(uint16_t gainWord, bool directCurrent) {
@@ -94,15 +103,16 @@ std::pair<uint16_t, uint16_t> FrontEnd::MeasureDirectCurrent() {
 }
 
 std::optional<double> FrontEnd::FrequencyError() {
-  if (!factor_ || !TunedBand()) return std::nullopt;
-  return firmware_.Noise().Gaussian(FrequencyErrorHz(constants_, dac_, temperature_),
+  if (!Transmits() || !IsInBand()) return std::nullopt;
+  const double dac = dac_ + kFineStepsPerCoarseStep * static_cast<int16_t>(coarseTrim_);
+  return firmware_.Noise().Gaussian(FrequencyErrorHz(constants_, dac, temperature_),
                                     kFrequencyNoiseHz);
 }
 
 std::optional<double> FrontEnd::Power() {
   const BandConstants* band = TunedBand();
-  if (!factor_ || !band) return std::nullopt;
-  return firmware_.Noise().Gaussian(TransmitPowerDbm(*band, channel_, *factor_, temperature_),
+  if (!Transmits() || !band) return std::nullopt;
+  return firmware_.Noise().Gaussian(TransmitPowerDbm(*band, channel_, Factor(*band), temperature_),
                                     kPowerNoiseDb);
 }
 

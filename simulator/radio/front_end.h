@@ -19,23 +19,25 @@ class FrontEnd {
   void PowerOn();
 
   // --- as commands set it
-  void SetBand(uint16_t band) { band_ = band; }
+  // False, and nothing changed, for a band that the handset does not have.
+  bool SetBand(uint32_t band);
   uint16_t Band() const { return band_; }
   void Tune(uint16_t channel);
   void SetLevel(uint16_t level) { level_ = level; }
   void SetCrystal(uint16_t dac) { dac_ = dac; }
-  // With the step factor of the tuned channel and level in RAM, or with one given for a level and
-  // group.
-  void Transmit();
-  void TransmitWith(uint16_t level, size_t group, uint16_t factor);
-  void StopTransmitting() { factor_.reset(); }
+  void SetCoarseTrim(uint16_t steps) { coarseTrim_ = steps; }
+  // With the step factor that RAM holds for the tuned channel and the level, or with a given one in
+  // the middle of a group of channels.
+  void Transmit() { transmitting_ = Transmitting::FromTable; }
+  bool TransmitWith(uint32_t group, uint16_t factor);
+  void StopTransmitting() { transmitting_ = Transmitting::No; }
   void Receive(uint16_t gainWord, bool directCurrent);
   void StopReceiving() { receiving_ = false; }
-  void ChangeGain(uint16_t gainWord) { gainWord_ = gainWord; }
-  bool Transmits() const { return factor_.has_value(); }
+  bool Transmits() const { return transmitting_ != Transmitting::No; }
   bool Receives() const { return receiving_; }
 
   // --- as the handset measures
+  bool IsInBand() const { return TunedBand() != nullptr; }
   // 0 for the first reads after tuning and where nothing is received.
   uint16_t MeasureRssi();
   // The same without the settling: the measurement that layer 1 makes and reports itself.
@@ -51,7 +53,10 @@ class FrontEnd {
   double Temperature() const { return temperature_; }
 
  private:
+  enum class Transmitting { No, FromTable, WithFactor };
+
   const BandConstants* TunedBand() const;
+  uint16_t Factor(const BandConstants& band) const;
 
   Firmware& firmware_;
   const RadioConstants& constants_;
@@ -60,7 +65,9 @@ class FrontEnd {
   uint16_t channel_ = 0;
   uint16_t level_ = 0;
   uint16_t dac_ = 0;
-  std::optional<uint16_t> factor_;
+  uint16_t coarseTrim_ = 0;
+  Transmitting transmitting_ = Transmitting::No;
+  uint16_t factor_ = 0;
   bool receiving_ = false;
   bool directCurrent_ = false;
   uint16_t gainWord_ = 0;

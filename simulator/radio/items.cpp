@@ -5,6 +5,8 @@
 #include <cmath>
 #include <string>
 
+#include "modules/memory/fixed_nv.h"
+
 namespace handset {
 namespace {
 
@@ -26,8 +28,8 @@ const std::map<uint16_t, ItemKind>& Kinds() {
       made[factors] = {2 * kChannelGroups * kLevels, 2, true};
     }
     made[item::kGainWords] = {182, 2, true};
-    made[24] = {2, 2, true};              // highest gain index
-    made[30] = made[35] = {8, 1, false};  // IMEIs
+    made[24] = {2, 2, true};  // highest gain index
+    made[item::kImei] = made[item::kSecondImei] = {8, 1, false};
     made[item::kScheme] = {12, 2, false};
     constexpr size_t kCompensationBytes[] = {10, 18, 18, 12, 12, 8, 8, 10, 8, 10, 2, 2};
     uint16_t number = 48;
@@ -38,6 +40,13 @@ const std::map<uint16_t, ItemKind>& Kinds() {
 }
 
 constexpr std::array<uint16_t, 4> kBands = {0, 1, 3, 4};
+
+// The IMEIs are in flash alone, in the block where the rest of the handset finds them.
+std::optional<FixedNvField> ImeiField(uint16_t item) {
+  if (item == item::kImei) return kImei1;
+  if (item == item::kSecondImei) return kImei2;
+  return std::nullopt;
+}
 
 bool IsBand(uint16_t band) { return std::find(kBands.begin(), kBands.end(), band) != kBands.end(); }
 
@@ -53,15 +62,17 @@ std::string CalibrationItems::FlashName(Key key) {
 }
 
 // Items that are one for all bands stand under band 0, whatever band is sent with them.
-std::optional<CalibrationItems::Key> CalibrationItems::Locate(uint16_t band, uint16_t item) {
+std::optional<CalibrationItems::Key> CalibrationItems::Locate(Copy copy, uint16_t band,
+                                                              uint16_t item) {
   const ItemKind* kind = Kind(item);
-  if (!kind || !IsBand(band)) return std::nullopt;
+  if (!kind || !IsBand(band) || (copy == Copy::Ram && ImeiField(item))) return std::nullopt;
   return Key{kind->perBand ? band : uint16_t{0}, item};
 }
 
 Bytes CalibrationItems::Whole(Copy copy, Key key) const {
   Bytes whole;
   if (copy == Copy::Flash) {
+    if (const auto field = ImeiField(key.second)) return ReadFixedNv(firmware_.Flash(), *field);
     if (const Bytes* stored = firmware_.Flash().Find(FlashName(key))) whole = *stored;
   } else if (auto found = ram_.find(key); found != ram_.end()) {
     whole = found->second;
@@ -73,6 +84,7 @@ Bytes CalibrationItems::Whole(Copy copy, Key key) const {
 void CalibrationItems::LoadRam() {
   ram_.clear();
   for (const auto& [item, kind] : Kinds()) {
+    if (ImeiField(item)) continue;
     for (const uint16_t band : kBands) {
       if (band != 0 && !kind.perBand) continue;
       ram_[{band, item}] = Whole(Copy::Flash, {band, item});
@@ -86,7 +98,7 @@ void CalibrationItems::Commit() {
 
 std::optional<Bytes> CalibrationItems::Read(Copy copy, uint16_t band, uint16_t item, size_t offset,
                                             size_t bytes) const {
-  const auto key = Locate(band, item);
+  const auto key = Locate(copy, band, item);
   if (!key) return std::nullopt;
   const Bytes whole = Whole(copy, *key);
   const size_t first = std::min(offset * Kind(item)->elementBytes, whole.size());
@@ -97,16 +109,18 @@ std::optional<Bytes> CalibrationItems::Read(Copy copy, uint16_t band, uint16_t i
 
 bool CalibrationItems::Write(Copy copy, uint16_t band, uint16_t item, size_t offset,
                              std::span<const uint8_t> data) {
-  const auto key = Locate(band, item);
+  const auto key = Locate(copy, band, item);
   if (!key) return false;
   const size_t first = offset * Kind(item)->elementBytes;
   if (first + data.size() > Kind(item)->bytes) return false;
   Bytes whole = Whole(copy, *key);
   std::copy(data.begin(), data.end(), whole.begin() + static_cast<std::ptrdiff_t>(first));
-  if (copy == Copy::Flash) {
-    firmware_.Flash().Put(FlashName(*key), std::move(whole));
-  } else {
+  if (copy == Copy::Ram) {
     ram_[*key] = std::move(whole);
+  } else if (const auto field = ImeiField(item)) {
+    WriteFixedNv(firmware_.Flash(), *field, whole);
+  } else {
+    firmware_.Flash().Put(FlashName(*key), std::move(whole));
   }
   return true;
 }

@@ -45,7 +45,7 @@ class CalibrationItems {
  private:
   using Key = std::pair<uint16_t, uint16_t>;
   static std::string FlashName(Key key);
-  static std::optional<Key> Locate(uint16_t band, uint16_t item);
+  static std::optional<Key> Locate(Copy copy, uint16_t band, uint16_t item);
   Bytes Whole(Copy copy, Key key) const;
 
   Firmware& firmware_;
@@ -60,7 +60,9 @@ inline constexpr uint16_t kFineTrim = 7;
 inline constexpr uint16_t kReceiveCompensation = 18;
 inline constexpr uint16_t kStepFactors = 21;
 inline constexpr uint16_t kGainWords = 23;
+inline constexpr uint16_t kImei = 30;
 inline constexpr uint16_t kScheme = 33;
+inline constexpr uint16_t kSecondImei = 35;
 }  // namespace item
 
 }  // namespace handset

@@ -1,6 +1,7 @@
 #include "radio/layer1.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace handset {
 namespace {
@@ -9,6 +10,8 @@ constexpr uint8_t kType = 10;
 constexpr size_t kHeaderBytes = 16;
 constexpr milliseconds kMeasurementTime{30};
 constexpr size_t kBlockBytes = 2048;
+constexpr size_t kShortBlockBytes = 480;
+constexpr size_t kStepBytes = 4;
 // More steps than this the extended run does not take.
 constexpr size_t kMaxSteps = 6912;
 
@@ -53,6 +56,13 @@ void Layer1::Describe(StatusMap& status) const {
   status["active"] = active_ ? "yes" : "no";
 }
 
+void Layer1::Activate(bool active) {
+  active_ = active;
+  if (active) return;
+  frontEnd_.StopTransmitting();
+  frontEnd_.StopReceiving();
+}
+
 bool Layer1::HasLength(const Frame& frame, uint16_t length) const {
   return frame.payload.size() == length && U16(frame, 2) == length;
 }
@@ -87,11 +97,7 @@ void Layer1::Hear(const Frame& frame) {
     case kActivate:
     case kDeactivate:
       if (!HasLength(frame, 16)) return firmware_.Refuse(frame);
-      active_ = id == kActivate;
-      if (!active_) {
-        frontEnd_.StopTransmitting();
-        frontEnd_.StopReceiving();
-      }
+      Activate(id == kActivate);
       return Acknowledge(frame);
     default:
       break;
@@ -100,8 +106,7 @@ void Layer1::Hear(const Frame& frame) {
   if (!active_) return firmware_.Refuse(frame);
   switch (id) {
     case kClassmark:
-      if (!HasLength(frame, 20)) break;
-      frontEnd_.SetBand(static_cast<uint16_t>(U32(frame, 16)));
+      if (!HasLength(frame, 20) || !frontEnd_.SetBand(U32(frame, 16))) break;
       return Acknowledge(frame);
     case kAfcStart:
       if (!HasLength(frame, 24)) break;
@@ -126,9 +131,10 @@ void Layer1::Hear(const Frame& frame) {
       return Acknowledge(frame);
     case kPowerStep:
       if (!HasLength(frame, td ? 32 : 28)) break;
-      if (!td) {
-        frontEnd_.SetBand(static_cast<uint16_t>(U32(frame, 16)));
-        frontEnd_.TransmitWith(U16(frame, 20), U32(frame, 24), U16(frame, 22));
+      if (!td) frontEnd_.SetLevel(U16(frame, 20));
+      if (!td && !(frontEnd_.SetBand(U32(frame, 16)) &&
+                   frontEnd_.TransmitWith(U32(frame, 24), U16(frame, 22)))) {
+        break;
       }
       return Acknowledge(frame);
     case kPowerAmplifier:
@@ -188,25 +194,25 @@ void Layer1::HearExtended(const Frame& frame) {
   const uint32_t step = std::max<uint32_t>(U16(frame, 20), 1);
   if (last < first || (last - first) / step >= kMaxSteps) return firmware_.Refuse(frame);
   frontEnd_.Tune(U16(frame, 22));
-  frontEnd_.TransmitWith(0, SIZE_MAX, 1024);
+  if (!frontEnd_.IsInBand()) return firmware_.Refuse(frame);
+  frontEnd_.Transmit();
   Bytes report;
   for (uint32_t dac = first; dac <= last; dac += step) {
     frontEnd_.SetCrystal(static_cast<uint16_t>(dac));
-    const auto error = static_cast<int32_t>(frontEnd_.FrequencyError().value_or(0));
+    const double error = std::clamp(frontEnd_.FrequencyError().value_or(0), -32768.0, 32767.0);
     Append16(report, static_cast<uint16_t>(dac), firmware_.Order());
-    Append16(report, static_cast<uint16_t>(error), firmware_.Order());
+    Append16(report, static_cast<uint16_t>(std::lround(error)), firmware_.Order());
   }
+  // In blocks of about one size: a station takes a short one for the end, and a single one for no
+  // report.
+  size_t blocks = (report.size() + kBlockBytes - 1) / kBlockBytes;
+  if (blocks == 1 && report.size() > 2 * kShortBlockBytes) blocks = 2;
+  const size_t stepsPerBlock = (report.size() / kStepBytes + blocks - 1) / blocks;
   blocks_.clear();
-  for (size_t at = 0; at < report.size(); at += kBlockBytes) {
-    const size_t end = std::min(at + kBlockBytes, report.size());
+  for (size_t at = 0; at < report.size(); at += kStepBytes * stepsPerBlock) {
+    const size_t end = std::min(at + kStepBytes * stepsPerBlock, report.size());
     blocks_.emplace_back(report.begin() + static_cast<std::ptrdiff_t>(at),
                          report.begin() + static_cast<std::ptrdiff_t>(end));
-  }
-  // A last block of 480 bytes or less would not be told from no block: it goes with the one before.
-  if (blocks_.size() > 1 && blocks_.back().size() <= 480) {
-    Bytes rest = std::move(blocks_.back());
-    blocks_.pop_back();
-    blocks_.back().insert(blocks_.back().end(), rest.begin(), rest.end());
   }
   nextBlock_ = 0;
   SendBlock();

@@ -19,7 +19,7 @@ class Layer1 {
   void PowerOn();
   void Describe(StatusMap& status) const;
   void ChangeMode(CalibrationMode mode) { mode_ = mode; }
-  void Activate(bool active) { active_ = active; }
+  void Activate(bool active);
 
  private:
   void Hear(const Frame& frame);

@@ -7,6 +7,7 @@ namespace handset {
 namespace {
 
 constexpr uint8_t kType = 36;
+constexpr size_t kMaxValues = 3073;
 
 std::string FlashName(uint32_t selector) { return "td/" + std::to_string(selector); }
 
@@ -21,6 +22,7 @@ void TdParameters::Register(Registry& registry) {
 void TdParameters::Read(const Frame& frame) {
   const uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
   const size_t asked = Read16(frame.payload, 4, firmware_.Order());
+  if (asked > kMaxValues) return firmware_.Refuse(frame);
   const Bytes* stored = firmware_.Flash().Find(FlashName(selector));
   const size_t count = std::min(asked, stored ? stored->size() / 2 : 0);
   Bytes answer;
@@ -37,7 +39,7 @@ void TdParameters::Read(const Frame& frame) {
 void TdParameters::Write(const Frame& frame) {
   const uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
   const size_t count = Read16(frame.payload, 4, firmware_.Order());
-  if (frame.payload.size() != 6 + 2 * count) return firmware_.Refuse(frame);
+  if (count > kMaxValues || frame.payload.size() != 6 + 2 * count) return firmware_.Refuse(frame);
   firmware_.Flash().Put(FlashName(selector), Bytes(frame.payload.begin() + 6, frame.payload.end()));
   Bytes answer(frame.payload.begin(), frame.payload.begin() + 6);
   answer.resize(8);
