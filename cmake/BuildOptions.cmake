@@ -14,6 +14,12 @@ if(MEROVANE_SANITIZE)
   endif()
 endif()
 
+# A fuzzer is led by what its input reaches, in the libraries too.
+if(MEROVANE_BUILD_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+  add_link_options(-fsanitize=fuzzer-no-link)
+endif()
+
 if(WIN32)
   add_compile_definitions(_WIN32_WINNT=0x0601 WINVER=0x0601 UNICODE NOMINMAX WIN32_LEAN_AND_MEAN)
   # Nothing but the product's own DLLs is shipped.
