@@ -1,112 +1,163 @@
-// The exported functions as a station calls them: that each passes its arguments on to the right
-// item in the right place.
+// The exported functions of the calibration data as a station calls them: each passes its arguments
+// on to the right item in the right place.
 #define MEROVANE_BUILD
-
 #include "api/library.h"
 #include "api/phone_object.h"
+#include "brimwell/brimwell.h"
 #include "calibration/calibration_fixture.h"
 #include "merovane/merovane.h"
 
 namespace merovane::test {
 namespace {
 
+enum Direction { kReads, kWrites };
+
+// Where a sample's caller keeps data: a pattern whose elements differ from their reverse.
+struct CallersData {
+  CallersData(std::size_t byteCount, bool filled) : bytes(byteCount) {
+    for (std::size_t at = 0; filled && at < bytes; ++at) {
+      buffer[at] = static_cast<std::uint8_t>(3 * at + 1);
+    }
+  }
+  operator std::uint16_t*() { return reinterpret_cast<std::uint16_t*>(buffer.Data()); }
+  operator std::uint32_t*() { return reinterpret_cast<std::uint32_t*>(buffer.Data()); }
+  Fields OnTheWire(Fields fields, unsigned width) {
+    for (std::size_t at = 0; at < bytes; at += width) {
+      if (width == 4) fields.U32(static_cast<std::uint32_t*>(*this)[at / 4]);
+      if (width == 2) fields.U16(static_cast<std::uint16_t*>(*this)[at / 2]);
+    }
+    return fields;
+  }
+
+  std::size_t bytes;
+  GuardedBuffer<std::uint8_t> buffer{bytes};
+};
+// The pattern's first element.
+constexpr std::uint16_t kWord = 0x0401;
+constexpr std::uint32_t kLong = 0x0A070401;
+
+struct Sample {
+  const char* logName;
+  std::uint32_t operation;
+  Direction direction;
+  unsigned width;
+  std::array<unsigned, 5> header;
+  std::int32_t (*call)(std::int32_t port, CallersData& data);
+};
+
+#define RUNS(...) \
+  [](std::int32_t port [[maybe_unused]], CallersData& data [[maybe_unused]]) { return __VA_ARGS__; }
+
+// One of each kind, in the words of the wire.
+// clang-format off
+const Sample kSamples[] = {
+    {"ReadData_Flash_ADC_Adc1:", 87, kReads, 4, {1, 0, 1, 1, 4},
+     RUNS(QV_ReadData_Flash_ADC_Adc1(data))},
+    {"WriteData_Ram_ADC_Battery0:", 78, kWrites, 4, {0, 0, 1, 2, 4},
+     RUNS(QV_WriteData_Ram_ADC_Battery0_MT(port, kLong))},
+    {"WriteData_Flash_ADC_Reserved7:", 243, kWrites, 4, {1, 0, 1, 11, 4},
+     RUNS(QV_WriteData_Flash_ADC_Reserved7(kLong))},
+    // Records no id, so that the one before stands.
+    {"WriteData_Flash_ADC:", 243, kWrites, 4, {1, 0, 1, 200, 4},
+     RUNS(QV_WriteData_Flash_ADC(200, kLong))},
+    {"ReadData_Flash_AFC_afc_center:", 89, kReads, 2, {1, 0, 2, 0, 2},
+     RUNS(QV_ReadData_Flash_AFC_afc_center(data))},
+    {"WriteData_Flash_AFC_afc_slope_hz_per_6bits:", 98, kWrites, 2, {1, 0, 3, 0, 2},
+     RUNS(QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(kWord))},
+    {"ReadData_Ram_AFC_slope_length:", 107, kReads, 2, {0, 0, 5, 0, 2},
+     RUNS(QV_ReadData_Ram_AFC_slope_length(data))},
+    {"ReadData_Ram_AFC_CDAC:", 107, kReads, 2, {0, 0, 6, 0, 2},
+     RUNS(QV_ReadData_Ram_AFC_CDAC(data))},
+    {"WriteData_Ram_AFC_slope_value_arr:", 119, kWrites, 2, {0, 0, 4, 0, 34},
+     RUNS(QV_WriteData_Ram_AFC_slope_value_arr(data))},
+    {"WriteData_Flash_APC_RF_ramppwr_step_factor:", 124, kWrites, 2, {1, 4, 21, 0, 160},
+     RUNS(QV_WriteData_Flash_APC_RF_ramppwr_step_factor(4, data))},
+    {"WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk:", 245, kWrites, 2, {0, 3, 36, 0, 2},
+     RUNS(QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk(3, kWord))},
+    {"WriteData_Ram_AGC_max_rf_gain_index:", 126, kWrites, 2, {0, 4, 24, 0, 2},
+     RUNS(QV_WriteData_Ram_AGC_max_rf_gain_index(4, kWord))},
+    {"ReadData_Ram_AGC_RX_compensate_value:", 127, kReads, 2, {0, 1, 18, 0, 14},
+     RUNS(QV_ReadData_Ram_AGC_RX_compensate_value_MT(port, 1, data, 7))},
+    {"ReadData_Flash_AGC_agc_ctrl_word:", 135, kReads, 2, {1, 0, 23, 0, 182},
+     RUNS(QV_ReadData_Flash_AGC_agc_ctrl_word(0, data))},
+    {"SetRampTable_Flash:", 142, kWrites, 2, {1, 3, 8, 100, 40},
+     RUNS(QV_SetRampTable_Flash(3, 5, data))},
+    {"ReadRampTableConstDown_Ram:", 153, kReads, 2, {0, 1, 10, 9, 2},
+     RUNS(QV_ReadRampTableConstDown_Ram(1, 9, data))},
+    {"ReadRampTableAllConstUp_Flash:", 157, kReads, 2, {1, 4, 9, 0, 32},
+     RUNS(QV_ReadRampTableAllConstUp_Flash(4, data))},
+    {"SetRampUpParamNum_Ram:", 156, kWrites, 2, {0, 0, 11, 0, 2},
+     RUNS(QV_SetRampUpParamNum_Ram(0, kWord))},
+    {"WriteData_Ram_Duration_8PSK:", 251, kWrites, 2, {0, 1, 39, 0x123, 2},
+     RUNS(QV_WriteData_Ram_Duration_8PSK(1, 0x123, kWord))},
+    {"ReadData_Flash_TxGain_8PSK:", 256, kReads, 2, {1, 4, 37, 2, 2},
+     RUNS(QV_ReadData_Flash_TxGain_8PSK_MT(port, 4, 2, data))},
+    {"GetRfScheme:", 170, kReads, 2, {0, 0, 33, 0, 12}, RUNS(QV_GetRfScheme(data))},
+    {"RW_RF_EDGE_DELTA_TIMING:", 170, kReads, 2, {1, 3, 58, 0, 2},
+     RUNS(QV_RW_RF_EDGE_DELTA_TIMING(1, 1, 3, data))},
+};
+// clang-format on
+
 struct Exports : CalibrationFixture {
   void SetUp() override {
-    auto object =
-        std::make_shared<api::PhoneObject>(api::TheLibrary().settings, clock, handset.Library());
+    LinkSettings& loaded = api::TheLibrary().settings;
+    loaded.usefulLog = true;
+    auto object = std::make_shared<api::PhoneObject>(loaded, clock, handset.Library());
     ASSERT_EQ(object->link.Open(port, 115200), Result::Success);
     api::TheLibrary().registry.Enter(port, object);
     api::TheLibrary().registry.MakeDefault(port);
+    static_cast<void>(Log());
   }
   void TearDown() override { EXPECT_EQ(QV_EndPhoneTest(), 0); }
 
-  void Write(const std::array<unsigned, 5>& header, const char* data) {
-    ExpectWrite(Header(header).Raw(data));
-  }
-  void Read(const std::array<unsigned, 5>& header, const char* data) {
-    ExpectRead(header).Answer(32, 1, ReadAnswer().Raw(data));
+  // The id under which the last result was reported.
+  std::uint32_t ReportedOperation() {
+    BRIMWELL_ERROR error{};
+    EXPECT_EQ(Spec_GetLastError(BRIMWELL_MODULE_PHONE_COMMAND, &error), 1);
+    return error.operation;
   }
 };
 
-TEST_F(Exports, WithoutABandTakeAValueOrAPointer) {
-  std::uint32_t adc = 0;
-  std::uint16_t afc = 0;
-  Write({0, 0, 1, 3, 4}, "01 02 03 04");
-  EXPECT_EQ(QV_WriteData_Ram_ADC_Battery1(0x01020304), 0);
-  Read({1, 0, 1, 5, 4}, "01 02 03 04");
-  EXPECT_EQ(QV_ReadData_Flash_ADC_Reserved1_MT(port, &adc), 0);
-  EXPECT_EQ(adc, 0x01020304U);
-  Write({1, 0, 1, 200, 4}, "00 00 00 09");
-  EXPECT_EQ(QV_WriteData_Flash_ADC(200, 9), 0);
-  Read({1, 0, 1, 11, 4}, "00 00 00 0A");
-  EXPECT_EQ(QV_ReadData_Flash_ADC_MT(port, 11, &adc), 0);
-  EXPECT_EQ(adc, 10U);
-  Write({1, 0, 3, 0, 2}, "12 34");
-  EXPECT_EQ(QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(0x1234), 0);
-  Read({0, 0, 7, 0, 2}, "56 78");
-  EXPECT_EQ(QV_ReadData_Ram_AFC_CAFC(&afc), 0);
-  EXPECT_EQ(afc, 0x5678);
-  EXPECT_EQ(QV_ReadData_Ram_AFC_CAFC(nullptr), 4);
-}
-
-TEST_F(Exports, OfABandPassItWithIndexAndCount) {
-  std::array<std::uint16_t, 91> values{1, 2, 3};
-  Write({0, 4, 24, 0, 2}, "00 07");
-  EXPECT_EQ(QV_WriteData_Ram_AGC_max_rf_gain_index(4, 7), 0);
-  Read({1, 3, 23, 0, 182}, "00 09");
-  EXPECT_EQ(QV_ReadData_Flash_AGC_agc_ctrl_word_MT(port, 3, values.data()), 0);
-  EXPECT_EQ(values[0], 9);
-  Write({1, 1, 18, 0, 6}, "00 09 00 02 00 03");
-  EXPECT_EQ(QV_WriteData_Flash_AGC_RX_compensate_value(1, values.data(), 3), 0);
-  Read({1, 0, 8, 40, 40}, "00 0B");
-  EXPECT_EQ(QV_ReadRampTable_Flash(0, 2, values.data()), 0);
-  EXPECT_EQ(values[0], 11);
-  Write({0, 0, 9, 15, 2}, "01 02");
-  EXPECT_EQ(QV_SetRampTableConstUp_Ram_MT(port, 0, 15, 0x0102), 0);
-  Write({1, 3, 11, 0, 2}, "00 10");
-  EXPECT_EQ(QV_SetRampUpParamNum_Flash(3, 16), 0);
-  Write({1, 4, 12, 3, 2}, "FF FE");
-  EXPECT_EQ(QV_WriteData_Flash_Delta_Timing(4, 3, 0xFFFE), 0);
-  Read({0, 0, 37, 7, 2}, "00 0C");
-  EXPECT_EQ(QV_ReadData_Ram_TxGain_8PSK(0, 7, values.data()), 0);
-  EXPECT_EQ(QV_WriteData_Flash_Delta_Timing(2, 3, 1), 4);
+TEST_F(Exports, TravelWithTheirHeaderInTheHandsetsByteOrder) {
+  for (const Sample& sample : kSamples) {
+    SCOPED_TRACE(sample.logName);
+    InBothByteOrders([&] {
+      Fields request = handset.Message();
+      for (const unsigned word : sample.header) request.U16(word);
+      CallersData pattern(sample.header[4], true);
+      const std::string bytes = pattern.buffer.Hex(pattern.bytes);
+      CallersData data(sample.header[4], sample.direction == kWrites);
+      if (sample.direction == kWrites) {
+        ExpectWrite(pattern.OnTheWire(request, sample.width));
+      } else {
+        ExpectRead(request, pattern.OnTheWire(ReadAnswer(), sample.width).Raw("EE EE EE EE"));
+      }
+      EXPECT_EQ(sample.call(port, data), 0);
+      EXPECT_EQ(data.buffer.Hex(data.bytes), bytes);
+      EXPECT_EQ(ReportedOperation(), sample.operation);
+      ExpectLogged(sample.logName);
+    });
+  }
 }
 
 TEST_F(Exports, OfOtherShapesPassTheirArguments) {
   std::array<char, 16> text{};
-  std::array<std::uint16_t, 16> values{};
-  std::array<std::uint16_t, 16> others{};
-  Read({1, 0, 35, 0, 8}, "4A 09 51 24 30 32 57 81");
+  std::array<std::uint16_t, 16> first{};
+  std::array<std::uint16_t, 16> second{};
+  ExpectRead(Header({1, 0, 35, 0, 8}), ReadAnswer().Raw("4A 09 51 24 30 32 57 81"));
   EXPECT_EQ(QV_ReadData_Flash_SecIMEI(text.data()), 0);
-  Write({1, 0, 30, 0, 8}, "4A 09 51 24 30 32 57 81");
+  ExpectWrite(Header({1, 0, 30, 0, 8}).Raw("4A 09 51 24 30 32 57 81"));
   EXPECT_EQ(QV_WriteData_Flash_IMEI_MT(port, text.data()), 0);
-  Write({1, 0, 32, 0, 0}, "");
+  ExpectWrite(Header({1, 0, 32, 0, 0}));
   EXPECT_EQ(QV_SaveToFlash(20000), 0);
-  Read({0, 0, 33, 0, 12}, "00 01 00 02 00 03 00 04 00 05 00 06");
-  EXPECT_EQ(QV_GetRfScheme(values.data()), 0);
-  EXPECT_EQ(values[5], 6);
-  Read({1, 3, 58, 0, 2}, "00 05");
-  EXPECT_EQ(QV_RW_RF_EDGE_DELTA_TIMING(1, 1, 3, values.data()), 0);
-  Read({0, 1, 8, 0, 32}, "00 01");
-  Read({0, 1, 10, 0, 32}, "00 02");
-  EXPECT_EQ(QV_ReadRamp_Ram_MChip(0, values.data(), others.data(), 1), 0);
-  EXPECT_EQ(values[0], 1);
-  EXPECT_EQ(others[0], 2);
+  ExpectRead(Header({0, 1, 8, 0, 32}), ReadAnswer().U16(1));
+  ExpectRead(Header({0, 1, 10, 0, 32}), ReadAnswer().U16(2));
+  EXPECT_EQ(QV_ReadRamp_Ram_MChip(0, first.data(), second.data(), 1), 0);
+  EXPECT_EQ(first[0], 1);
+  EXPECT_EQ(second[0], 2);
   const QV_POWER_STEP step{1, 2, 3, 4};
-  Write({0, 1, 37, 66, 2}, "00 03");
+  ExpectWrite(Header({0, 1, 37, 66, 2, 3}));
   EXPECT_EQ(QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(port, &step), 0);
-}
-
-TEST_F(Exports, ReachTheCommandsOfTheSameName) {
-  EXPECT_EQ(QV_SetTxParam(1, 2, 3, 4), 0);
-  EXPECT_EQ(QV_SetPhoneClassmark_MChip_MT(port, 4), 0);
-  Write({0, 4, 28, 0, 20}, "0000 0000 00000001 0000 00 00 0002 0003 0004 0000");
-  EXPECT_EQ(QV_TxOn_MChip(0, 0, 0), 0);
-  ExpectMessage(Message(0xA103, 20).U32(3));
-  EXPECT_EQ(QV_SetPhoneClassmark(3), 0);
-  QV_TD_TX_START start{};
-  ExpectMessage(Message(0xA129, 40).Zeros(24));
-  EXPECT_EQ(QV_TdStartTx_MT(port, &start), 0);
 }
 
 }  // namespace

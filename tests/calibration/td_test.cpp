@@ -8,59 +8,31 @@
 namespace merovane::test {
 namespace {
 
-struct Td : CalibrationFixture {};
+struct Td : CalibrationFixture {
+  // What all records begin with.
+  Fields TdMessage(unsigned id, unsigned length) const {
+    return Words(Message(id, length).U32(0x01020304), {5, 6});
+  }
+};
 
 TEST_F(Td, MessagesCarryTheirRecords) {
   InBothByteOrders([&] {
     const QV_TD_TX_SWEEP sweep{0x01020304, 5, 6, 2, {{0x0708, 9}, {10, 11}, {12, 13}}};
-    ExpectMessage(Message(0xA12A, 60)
-                      .U32(0x01020304)
-                      .U16(5)
-                      .U16(6)
-                      .U16(2)
-                      .U16(0x0708)
-                      .U16(9)
-                      .U16(10)
-                      .U16(11)
-                      .Zeros(26));
+    ExpectMessage(Words(TdMessage(0xA12A, 60), {2, 0x0708, 9, 10, 11}).Zeros(26));
     EXPECT_EQ(TDTxSweep(phone, &sweep), Result::Success);
 
     const QV_TD_TX_START start{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 14, 0x0F10}};
-    ExpectMessage(Message(0xA129, 40)
-                      .U32(0x01020304)
-                      .U16(5)
-                      .U16(6)
-                      .U32(0x0708090A)
-                      .U16(11)
-                      .U16(12)
-                      .U16(13)
-                      .U16(14)
-                      .U16(0x0F10)
-                      .Zeros(2));
+    ExpectMessage(Words(TdMessage(0xA129, 40).U32(0x0708090A), {11, 12, 13, 14, 0x0F10, 0}));
     EXPECT_EQ(TdStartTx(phone, &start), Result::Success);
 
     const QV_TD_POWER_SWEEP power{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 0x0F10}};
-    ExpectMessage(Message(0xA128, 36)
-                      .U32(0x01020304)
-                      .U16(5)
-                      .U16(6)
-                      .U32(0x0708090A)
-                      .U16(11)
-                      .U16(12)
-                      .U16(13)
-                      .U16(0x0F10));
+    ExpectMessage(Words(TdMessage(0xA128, 36).U32(0x0708090A), {11, 12, 13, 0x0F10}));
     EXPECT_EQ(PwrStepFactorSweepSet_TD(phone, &power), Result::Success);
 
     const QV_POWER_STEP step{0x01020304, 5, 6, 0x0708090A};
     for (const std::uint32_t continuous : {0U, 0x10000U}) {
       EXPECT_EQ(SetTDContTxRxMode(phone, continuous), Result::Success);
-      ExpectMessage(Message(0xA119, 32)
-                        .U32(0x01020304)
-                        .U16(5)
-                        .U16(6)
-                        .U32(0x0708090A)
-                        .U16(continuous ? 1 : 0)
-                        .Zeros(2));
+      ExpectMessage(Words(TdMessage(0xA119, 32).U32(0x0708090A), {continuous ? 1U : 0U, 0}));
       EXPECT_EQ(PwrStepFactorSet_TD(phone, &step), Result::Success);
     }
   });
@@ -72,13 +44,11 @@ TEST_F(Td, SweepTakesEightPointsAtMost) {
   for (auto& point : sweep.points) point[0] = point[1] = 0xFFFF;
   ExpectMessage(Message(0xA12A, 60).Zeros(8).U16(8).Raw(Bytes(32, 0xFF)).Zeros(2));
   EXPECT_EQ(TDTxSweep(phone, &sweep), Result::Success);
-  static_cast<void>(Log());
   sweep.count = 9;
-  ExpectRefused(TDTxSweep(phone, &sweep), 260);
-  ExpectRefused(TDTxSweep(phone, nullptr), 260);
-  ExpectRefused(TdStartTx(phone, nullptr), 222);
-  ExpectRefused(PwrStepFactorSweepSet_TD(phone, nullptr), 171);
-  ExpectRefused(PwrStepFactorSet_TD(phone, nullptr), 173);
+  ExpectRefused(260, CALL(TDTxSweep(phone, &sweep)), CALL(TDTxSweep(phone, nullptr)));
+  ExpectRefused(222, CALL(TdStartTx(phone, nullptr)));
+  ExpectRefused(171, CALL(PwrStepFactorSweepSet_TD(phone, nullptr)));
+  ExpectRefused(173, CALL(PwrStepFactorSet_TD(phone, nullptr)));
 }
 
 TEST_F(Td, ModeIsCutToTheBuffer) {
@@ -91,16 +61,14 @@ TEST_F(Td, ModeIsCutToTheBuffer) {
   EXPECT_EQ(mode.Hex(4), "11 12 13 14");
   handset.Expect(28, 1).Silent();
   EXPECT_EQ(ReadMode_TD(phone, mode.Data(), 4), Result::NoAnswer);
-  static_cast<void>(Log());
-  ExpectRefused(ReadMode_TD(phone, mode.Data(), 0), 176);
-  ExpectRefused(ReadMode_TD(phone, nullptr, 4), 176);
+  ExpectRefused(176, CALL(ReadMode_TD(phone, mode.Data(), 0)),
+                CALL(ReadMode_TD(phone, nullptr, 4)));
 }
 
 TEST_F(Td, StartModeIsAcknowledgedByTheNextFrame) {
   handset.Expect(254, 131).Answer(77, 0x91);
   EXPECT_EQ(SetPhoneStartMode_TD(phone, 3), Result::Success);
-  EXPECT_THAT(LogText(), ElementsAre("SetPhoneStartMode_TD:", "Clear Port Buffer",
-                                     ResultLine(Result::Success)));
+  ExpectLogged("SetPhoneStartMode_TD:");
   handset.Expect(254, 127).Answer(254, 127).Answer(254, 0x91);
   EXPECT_EQ(SetPhoneStartMode_TD(phone, 0xFFFF'FFFF), Result::EnterModeFailed);
   // Too short to have a subtype.
@@ -144,9 +112,8 @@ TEST_F(TdParameters, AreNotTakenFromAnAnswerThatLacksThem) {
   handset.ExpectAnyPayload(36, 0).Refuse();
   EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::Refused);
   EXPECT_EQ(memory.Hex(10), "04 03 02 01 02 00 A5 A5 A5 A5");
-  static_cast<void>(Log());
-  ExpectRefused(ReadTDCalParam(phone, nullptr), 180);
-  ExpectRefused(ReadTDCalParam(phone, Record(3074)), 180);
+  ExpectRefused(180, CALL(ReadTDCalParam(phone, nullptr)),
+                CALL(ReadTDCalParam(phone, Record(3074))));
 }
 
 TEST_F(TdParameters, AreWrittenAndCounted) {
@@ -167,12 +134,11 @@ TEST_F(TdParameters, AreWrittenAndCounted) {
     handset.ExpectAnyPayload(36, 1).Answer(36, 1, answer);
     EXPECT_EQ(WriteTDCalParam(phone, record.get()), expected);
   }
-  static_cast<void>(Log());
   for (const int count : {0, 3074, 65535}) {
     record->count = static_cast<std::uint16_t>(count);
-    ExpectRefused(WriteTDCalParam(phone, record.get()), 181);
+    ExpectRefused(181, CALL(WriteTDCalParam(phone, record.get())));
   }
-  ExpectRefused(WriteTDCalParam(phone, nullptr), 181);
+  ExpectRefused(181, CALL(WriteTDCalParam(phone, nullptr)));
 }
 
 }  // namespace
