@@ -46,6 +46,7 @@ int32_t instrument_ask(int32_t port, const char* command, long* numbers, int cou
   TRY(QV_SendAtCommand_MT(port, command, (uint32_t)strlen(command), 1, answer, sizeof answer - 1,
                           &length, 2000));
   answer[length] = '\0';
+  if (strstr(answer, "ERROR")) return PC_ERR_CAN_NOT_RECV_USEFUL_DATA;
   at = strchr(answer, ':');
   if (count > 0 && !at) return PC_ERR_CAN_NOT_RECV_USEFUL_DATA;
   for (i = 0; i < count; ++i) {
