@@ -39,7 +39,7 @@ class Session {
   // belong to the thread that holds readMutex_ while there are none to hand out.
   std::mutex readMutex_;
   std::mutex fetchedMutex_;
-  std::array<std::byte, 16 * 1024> fetched_;
+  std::array<std::byte, std::size_t{16} * 1024> fetched_;
   std::size_t fetchedBegin_ = 0;
   std::size_t fetchedEnd_ = 0;
 

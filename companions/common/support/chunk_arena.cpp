@@ -4,7 +4,7 @@ namespace companions {
 
 namespace {
 
-constexpr std::size_t kArenaBytes = 256 * 1024;
+constexpr std::size_t kArenaBytes = std::size_t{256} * 1024;
 // One chunk's room may be left unused at the end and one more is written ahead of the last commit.
 static_assert(kArenaBytes >= ChunkArena::kKeptBytes + 3 * ChunkArena::kMaxChunk);
 

@@ -10,8 +10,8 @@ namespace companions {
 // A circular arena: a chunk stays as it is until kKeptBytes more have been committed.
 class ChunkArena {
  public:
-  static constexpr std::size_t kMaxChunk = 16 * 1024;
-  static constexpr std::size_t kKeptBytes = 128 * 1024;
+  static constexpr std::size_t kMaxChunk = std::size_t{16} * 1024;
+  static constexpr std::size_t kKeptBytes = std::size_t{128} * 1024;
 
   ChunkArena();
 

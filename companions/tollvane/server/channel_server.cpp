@@ -10,7 +10,7 @@ namespace channel_server {
 
 namespace {
 
-constexpr std::size_t kMaxWaitingBytes = 16 * 1024 * 1024;
+constexpr std::size_t kMaxWaitingBytes = std::size_t{16} * 1024 * 1024;
 
 using Data = std::shared_ptr<const std::vector<std::byte>>;
 
@@ -77,7 +77,7 @@ class ChannelServer::Client : public std::enable_shared_from_this<Client> {
   const std::weak_ptr<Shared> shared_;  // which holds the clients
   asio::ip::tcp::socket socket_;
   const int number_;
-  std::array<std::byte, 16 * 1024> buffer_{};
+  std::array<std::byte, std::size_t{16} * 1024> buffer_{};
   std::deque<Data> waiting_;
   std::size_t waitingBytes_ = 0;
 };

@@ -101,7 +101,7 @@ void ReadTypedLines(asio::io_context& context, channel_server::ChannelServer& se
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv) try {
   CLI::App app{
       "Shows what stations forward from their handsets, and sends them what is typed:\n"
       "hex bytes (7e 00 7E00), or text:… with the escapes \\r \\n \\t \\0 \\\\ \\xHH."};
@@ -111,10 +111,8 @@ int main(int argc, char** argv) {
       ->capture_default_str();
   app.add_option("--log", logFile, "Append what is shown to this file");
   CLI11_PARSE(app, argc, argv);
-  try {
-    Run(port, logFile);
-  } catch (const std::exception& error) {
-    std::cerr << "channel-server: " << error.what() << std::endl;
-    return 1;
-  }
+  Run(port, logFile);
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "channel-server: %s\n", error.what());
+  return 1;
 }

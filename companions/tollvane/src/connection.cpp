@@ -9,7 +9,7 @@ namespace tollvane {
 
 namespace {
 
-constexpr std::size_t kBacklogBytes = 1024 * 1024;
+constexpr std::size_t kBacklogBytes = std::size_t{1024} * 1024;
 // Half of what an unloading library may be held up: for the server to take
 // the backlog, then for the thread to end without it.
 constexpr std::uint32_t kEndStepMs = 500;

@@ -28,7 +28,7 @@ typedef enum E_ERR_TYPE {
 typedef enum E_MODULE_TYPE {
   BRIMWELL_MODULE_NONE = 0,
   BRIMWELL_MODULE_PHONE_COMMAND = 1, /* a library that commands handsets */
-  BRIMWELL_MODULE_LARGEST = 0xFF /* a station numbers its own modules up to this */
+  BRIMWELL_MODULE_LARGEST = 0xFF     /* a station numbers its own modules up to this */
 } E_MODULE_TYPE;
 
 /* What was reported last for a module. */

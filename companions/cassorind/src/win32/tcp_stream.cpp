@@ -98,7 +98,7 @@ class TcpStream final : public ByteStream {
   }
 
  private:
-  static constexpr std::size_t kPiece = 64 * 1024;
+  static constexpr std::size_t kPiece = std::size_t{64} * 1024;
 
   HANDLE Handle() const { return reinterpret_cast<HANDLE>(socket_.Get()); }
 
