@@ -43,6 +43,14 @@ const char* station_result_name(int32_t result) {
       return "RSSI is zero";
     case PC_ERR_VERIFY_CRC:
       return "checksum mismatch";
+    case PC_ERR_BLUETOOTH_OPER_FAIL:
+      return "Bluetooth failed";
+    case PC_ERR_SEND_GPS_CMD_FAIL:
+      return "GPS failed";
+    case PC_ERR_DSP_DEBUG_OPERATION_FAIL:
+      return "DSP failed";
+    case PC_ERR_WIFI_OPER_FAIL:
+      return "WiFi failed";
     case QV_REFUSED:
       return "refused by the handset";
     default:
