@@ -168,15 +168,19 @@ Result ChannelPort::Read(std::span<std::uint8_t> buffer, std::uint32_t timeLimit
     AvoidSpinning(timeLimitMs);
     return Result::PortNotOpen;
   }
+  if (!cancel_) return ReadOnce(buffer, timeLimitMs, got);
   const platform::Deadline deadline(clock_, timeLimitMs);
   for (;;) {
     if (Cancelled()) return Result::NoData;
-    const std::uint32_t remaining = deadline.RemainingMs();
-    const std::uint32_t slice = cancel_ ? std::min(remaining, kCancelPollMs) : remaining;
-    const Result result =
-        reception_ ? ReadThreadRing(buffer, slice, got) : ReadChannel(buffer, slice, got);
-    if (result != Result::NoData || !cancel_ || deadline.Passed()) return result;
+    const Result result = ReadOnce(buffer, std::min(deadline.RemainingMs(), kCancelPollMs), got);
+    if (result != Result::NoData || deadline.Passed()) return result;
   }
+}
+
+Result ChannelPort::ReadOnce(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs,
+                             std::size_t& got) {
+  return reception_ ? ReadThreadRing(buffer, timeLimitMs, got)
+                    : ReadChannel(buffer, timeLimitMs, got);
 }
 
 Result ChannelPort::ReadThreadRing(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs,

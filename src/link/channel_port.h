@@ -65,6 +65,7 @@ class ChannelPort {
 
   bool StartReceiveThread();
   void StopReceiveThread();
+  Result ReadOnce(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs, std::size_t& got);
   Result ReadChannel(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs, std::size_t& got);
   Result ReadThreadRing(std::span<std::uint8_t> buffer, std::uint32_t timeLimitMs,
                         std::size_t& got);

@@ -134,12 +134,13 @@ Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& le
   bool readFirst = ring_.Count() < kMinFrameBytes;
   AnswerBuffer frame;
   std::size_t frameBytes = 0;
-  do {
+  for (bool timeLeft = true; timeLeft;) {
     if (readFirst) {
-      if (deadline.Passed()) break;
+      const std::uint32_t remainingMs = deadline.RemainingMs();
+      if (remainingMs == 0) break;
       std::array<std::uint8_t, kReadBytes> chunk;
       std::size_t got = 0;
-      const Result read = channel_.Read(chunk, deadline.RemainingMs(), got);
+      const Result read = channel_.Read(chunk, remainingMs, got);
       if (!Succeeded(read)) return read;
       ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     }
@@ -147,11 +148,12 @@ Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& le
     const FrameSearch::Outcome outcome = search_.Extract(frame);
     frameBytes = outcome.frameBytes;
     if (frameBytes > 0) break;
-    if (outcome.flagSeen && !extended && deadline.Passed()) {
+    timeLeft = !deadline.Passed();
+    if (!timeLeft && outcome.flagSeen && !extended) {
       deadline.ExtendFromNow(kStartedFrameExtensionMs);
-      extended = true;
+      timeLeft = extended = true;
     }
-  } while (!deadline.Passed());
+  }
   if (frameBytes == 0) return Result::NoFrame;
 
   AnswerBuffer decoded;
