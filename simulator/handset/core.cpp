@@ -18,7 +18,7 @@ constexpr uint8_t kRefusedSubtype = 2;
 constexpr size_t kUnsolicitedBacklogLimit = 65536;
 constexpr milliseconds kDrainPoll{5};
 constexpr milliseconds kDrainLimit{2000};
-// From the last byte of an answer to the handset's own fall.
+// From the last byte of an answer to the fall: a station must get the chance to read it.
 constexpr milliseconds kRestartDelay{100};
 constexpr milliseconds kPortRetry{100};
 constexpr size_t kTranscriptPayloadBytes = 64;
@@ -195,24 +195,25 @@ StatusMap Core::Status() const {
   return status;
 }
 
-void Core::Restart(std::optional<uint8_t> mode) {
+void Core::Restart(std::optional<uint8_t> mode, bool portVanishes) {
   ++boot_;
   SetPower(Power::Off);
   Note("restarts");
-  RestartWhenDrained(mode, Clock::now() + kDrainLimit);
+  RestartWhenDrained(mode, portVanishes, Clock::now() + kDrainLimit);
 }
 
-void Core::RestartWhenDrained(std::optional<uint8_t> mode, Clock::time_point limit) {
-  Later(kDrainPoll, [this, mode, limit, boot = boot_] {
+void Core::RestartWhenDrained(std::optional<uint8_t> mode, bool portVanishes,
+                              Clock::time_point limit) {
+  Later(kDrainPoll, [this, mode, portVanishes, limit, boot = boot_] {
     if (boot != boot_) return;
     bool drained = outbox_.Empty() && transport_->Drained();
-    if (!drained && Clock::now() < limit) return RestartWhenDrained(mode, limit);
-    Later(Scaled(kRestartDelay), [this, mode, boot] {
+    if (!drained && Clock::now() < limit) return RestartWhenDrained(mode, portVanishes, limit);
+    Later(kRestartDelay, [this, mode, portVanishes, boot] {
       if (boot != boot_) return;
       auto powerUp = [this, mode, boot] {
         if (boot == boot_) PowerUp(mode);
       };
-      if (!options_.portVanishes) return powerUp();
+      if (!portVanishes) return powerUp();
       VanishPort({});
       AppearAfter(options_.portAbsence, powerUp);
     });

@@ -65,7 +65,7 @@ class Core final : public Firmware {
   uint8_t Mode() const override { return mode_; }
   void EnterMode(uint8_t mode) override;
   void Sleep() override { SetPower(Power::Asleep); }
-  void Restart(std::optional<uint8_t> mode) override;
+  void Restart(std::optional<uint8_t> mode, bool portVanishes) override;
   void Note(const std::string& line) override;
 
  private:
@@ -80,7 +80,8 @@ class Core final : public Firmware {
   std::optional<Reply> ScriptedReply(const Frame& frame);
   void Send(const Frame& frame, milliseconds delay, bool unsolicited);
   void SaveFlash();
-  void RestartWhenDrained(std::optional<uint8_t> mode, std::chrono::steady_clock::time_point limit);
+  void RestartWhenDrained(std::optional<uint8_t> mode, bool portVanishes,
+                          std::chrono::steady_clock::time_point limit);
   void AppearAfter(milliseconds delay, std::function<void()> then);
   // A timer of the port's or the restart's own: After's tasks end with a restart.
   void Later(std::chrono::steady_clock::duration delay, std::function<void()> task);

@@ -50,8 +50,9 @@ class Firmware {
   virtual uint8_t Mode() const = 0;
   virtual void EnterMode(uint8_t mode) = 0;
   virtual void Sleep() = 0;
-  // Off and on again, after what was answered has left: into a mode, or booting without one.
-  virtual void Restart(std::optional<uint8_t> mode) = 0;
+  // Off and on again, after what was answered has left: into a mode, or booting without one. The
+  // port stays, or vanishes and comes back.
+  virtual void Restart(std::optional<uint8_t> mode, bool portVanishes) = 0;
 
   virtual void Note(const std::string& line) = 0;
 

@@ -132,7 +132,7 @@ void Handset::Assert(uint8_t kind) {
 }
 
 void Handset::Restart() {
-  OnOwnThread([&] { core_->Restart(core_->Options().startMode); });
+  OnOwnThread([&] { core_->Restart(core_->Options().startMode, core_->Options().portVanishes); });
 }
 
 void Handset::VanishPort(std::chrono::milliseconds absence) {

@@ -39,6 +39,8 @@ struct HandsetOptions {
 
   // What the port does at a restart or a mode change: stays, or vanishes and comes back.
   bool portVanishes = false;
+  // The same once a start mode was chosen: a handset on USB comes back as another device.
+  bool portVanishesAtStart = false;
   milliseconds portAbsence{500};
 
   // The handset's own times: added to each answer, between trace frames, and a factor on all.

@@ -76,6 +76,8 @@ void Declare(CLI::App& app, CommandLine& line) {
          },
          "At a restart or mode change the port vanishes for that long")
       ->type_name("MS");
+  app.add_flag("--vanish-at-start", o.portVanishesAtStart,
+               "The port also vanishes, and comes back, once a start mode was chosen");
   milliseconds("--latency-ms", o.latency, "Time before each answer");
   milliseconds("--trace-interval-ms", o.traceInterval, "Time between trace frames");
   app.add_option("--time-scale", o.timeScale, "Factor on all the handset's own times")

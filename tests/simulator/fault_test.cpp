@@ -218,6 +218,18 @@ TEST_F(Misbehaving, TheJournalKeepsWhatWasHeard) {
   EXPECT_EQ(phone.Rejected().size(), 1u);
   phone.ClearJournal();
   EXPECT_TRUE(phone.Received().empty());
+
+  HandsetOptions options = Options();
+  options.journalCapacity = 2;
+  Handset forgetful(options);
+  forgetful.Start();
+  Station other(forgetful.Address());
+  EXPECT_TRUE(other.Ask(28, 0));
+  EXPECT_TRUE(forgetful.NextFrame(28, 0));
+  for (uint8_t subtype = 50; subtype <= 52; ++subtype) EXPECT_TRUE(other.Ask(200, subtype));
+  EXPECT_EQ(forgetful.Received().size(), 2u);
+  EXPECT_TRUE(forgetful.NextFrame(200, 51));
+  EXPECT_TRUE(forgetful.NextFrame(200, 52));
 }
 
 }  // namespace

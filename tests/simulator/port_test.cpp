@@ -139,6 +139,25 @@ TEST(PtyPort, RestartWithAVanishingPortAnswersFirstAndComesBack) {
       [](const HandsetState& s) { return s.power == Power::Running && s.mode == 9; }, kPatience));
 }
 
+TEST(PtyPort, ComesBackAsAnotherDeviceOnceAStartModeIsChosen) {
+  HandsetOptions options = Running();
+  options.startMode.reset();
+  options.portVanishesAtStart = true;
+  options.portAbsence = 60min;
+  options.timeScale = 0.00002;  // The handset's hour is soon over.
+  Handset phone(options);
+  phone.Start();
+  Station line(phone.Address());
+  line.Send(0xFE, 128 + 10);
+  auto acknowledged = line.Receive();
+  while (acknowledged && acknowledged->subtype == 1) acknowledged = line.Receive();
+  ASSERT_TRUE(acknowledged);
+  EXPECT_EQ(acknowledged->subtype, 138);
+  EXPECT_TRUE(line.WaitForHangup());
+  EXPECT_TRUE(phone.WaitForState([](const HandsetState& s) { return s.mode == 10; }, kPatience));
+  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+}
+
 TEST(PtyPort, VanishesAndAppearsOnDemand) {
   Handset phone(Running());
   phone.Start();

@@ -25,7 +25,13 @@ class ModeModule final : public Module {
     registry.OnType(kStartType, [this](const Frame& frame) {
       NoteCampWord(frame);
       firmware_.Answer(frame);
-      firmware_.EnterMode(static_cast<uint8_t>(frame.subtype - kStartModeBase));
+      auto mode = static_cast<uint8_t>(frame.subtype - kStartModeBase);
+      bool booting = firmware_.PowerState() == Power::Booting;
+      if (booting && firmware_.Options().portVanishesAtStart) {
+        firmware_.Restart(mode, true);
+      } else {
+        firmware_.EnterMode(mode);
+      }
     });
     registry.OnType(kModeChangeType, [this](const Frame& frame) { ChangeMode(frame); });
     for (uint8_t subtype : {uint8_t{0}, uint8_t{1}}) {
@@ -63,11 +69,11 @@ class ModeModule final : public Module {
     bool stays = !firmware_.Options().portVanishes;
     firmware_.Answer(frame, stays ? Bytes{0, 0} : Bytes{});
     if (frame.subtype == kRestartMode) {
-      firmware_.Restart(firmware_.Options().startMode);
+      firmware_.Restart(firmware_.Options().startMode, !stays);
     } else if (stays) {
       firmware_.EnterMode(frame.subtype);
     } else {
-      firmware_.Restart(frame.subtype);
+      firmware_.Restart(frame.subtype, true);
     }
   }
 
