@@ -1,0 +1,86 @@
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <vector>
+
+#include "merovane/open_project.h"
+#include "merovane/project_tool.h"
+#include "platform/files.h"
+
+namespace merovane::tool {
+namespace {
+
+using nvproject::Item;
+
+void Dump(std::span<const std::uint8_t> image, std::ostream& out) {
+  constexpr std::size_t kBytesPerLine = 16;
+  std::array<char, 16> text;
+  for (std::size_t at = 0; at < image.size(); at += kBytesPerLine) {
+    std::snprintf(text.data(), text.size(), "%08zx: ", at);
+    out << text.data();
+    for (const std::uint8_t byte : image.subspan(at, std::min(kBytesPerLine, image.size() - at))) {
+      std::snprintf(text.data(), text.size(), "%02x ", byte);
+      out << text.data();
+    }
+    out << '\n';
+  }
+}
+
+// Offsets of top-level items' data are in the image; those of the others follow from them.
+void Map(nvproject::CFileParser& parser, std::ostream& out) {
+  const auto& items = parser.Items();
+  std::vector<std::uint32_t> begins(items.Items().Size(), 0);
+  for (const auto& top : parser.TopLevelItems()) begins[top.item] = top.offset;
+  std::array<char, 64> text;
+  out << "  offset  length     id  path\n";
+  for (const auto& module : items.Modules()) {
+    std::uint32_t base = 0;
+    std::uint32_t id = 0;
+    for (std::uint32_t position = 0; position < module.count; ++position) {
+      const Item& item = items[module.first + position];
+      std::uint32_t offset = base + item.offset;
+      if (item.IsTopLevel()) {
+        offset = base = begins[module.first + position];
+        id = item.id;
+      }
+      const std::uint32_t width = nvproject::ScalarWidth(item.type);
+      // A nested structure's own length counts from its top-level item's start.
+      const bool hasPlace = item.IsTopLevel() || width > 0;
+      if (!hasPlace) continue;
+      std::snprintf(text.data(), text.size(), "%8u%8u%7u  ", offset,
+                    width > 0 ? width : item.length, id);
+      out << text.data() << item.fullPath << '\n';
+    }
+  }
+}
+
+}  // namespace
+
+int Image(const std::string& project, const ImageOptions& options, std::ostream& out) {
+  const auto parser = OpenProject(project);
+  std::vector<std::uint8_t> image(nvproject::kImageCapacity);
+  std::uint32_t length = 0;
+  const nvproject::ImageContext context{
+      options.littleEndian ? nvproject::ByteOrder::Little : nvproject::ByteOrder::Big,
+      options.timeStamp};
+  if (!Succeeded(parser->GenerateImage(std::span<std::uint8_t, nvproject::kImageCapacity>(image),
+                                       length, context))) {
+    throw Trouble(project + ": its image would be larger than 65536 bytes");
+  }
+  image.resize(length);
+  if (options.map) {
+    Map(*parser, out);
+  } else if (!options.output) {
+    Dump(image, out);
+  }
+  if (options.output) {
+    const std::vector<char> bytes(image.begin(), image.end());
+    if (!platform::ReplaceFile(platform::PathFromText(*options.output), bytes)) {
+      throw Trouble(*options.output + ": cannot be written");
+    }
+    out << *options.output << ": " << length << " bytes\n";
+  }
+  return kOk;
+}
+
+}  // namespace merovane::tool
