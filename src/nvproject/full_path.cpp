@@ -1,8 +1,5 @@
 #include "nvproject/full_path.h"
 
-#include <algorithm>
-#include <cstring>
-
 namespace merovane::nvproject {
 namespace {
 
@@ -32,9 +29,7 @@ std::string_view FullPathBuilder::Build(const Item* parent, std::string_view nam
 }
 
 void FullPathBuilder::Append(std::string_view text) {
-  const std::size_t count = std::min(text.size(), buffer_.size() - length_);
-  std::memcpy(buffer_.data() + length_, text.data(), count);
-  length_ += count;
+  length_ += text.copy(buffer_.data() + length_, buffer_.size() - length_);
 }
 
 }  // namespace merovane::nvproject

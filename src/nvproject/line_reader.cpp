@@ -11,7 +11,7 @@
 namespace merovane::nvproject {
 namespace {
 
-constexpr std::size_t kBufferBytes = 64 * 1024;
+constexpr std::size_t kBufferBytes = 65536;
 
 }  // namespace
 

@@ -14,7 +14,7 @@ class TextArena {
   std::string_view Add(std::string_view text);
 
  private:
-  static constexpr std::size_t kBlockBytes = 32 * 1024;
+  static constexpr std::size_t kBlockBytes = 32768;
 
   std::vector<std::unique_ptr<char[]>> blocks_;
   std::size_t used_ = kBlockBytes;  // of the last block

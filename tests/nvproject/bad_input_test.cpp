@@ -83,6 +83,7 @@ TEST(BadInput, NumbersInFilesAreNotBelieved) {
 
 TEST(BadInput, DeepNestingIsLaidOut) {
   std::vector<TestItem> items;
+  items.reserve(10001);
   for (int i = 0; i < 10000; ++i) items.push_back({.name = "s", .type = kStruct, .parent = i - 1});
   items.push_back({.name = "m", .type = kShort, .parent = 9999, .content = "7"});
   const auto parser = Load({items});
@@ -94,6 +95,7 @@ TEST(BadInput, DeepNestingIsLaidOut) {
 TEST(BadInput, ManyItemsOfOnePathAreNoBurden) {
   // Every item has the same path and lands on the first one's place.
   std::vector<TestItem> items;
+  items.reserve(100000);
   for (int i = 0; i < 100000; ++i) items.push_back({.name = "same", .type = kShort, .index = 0});
   const auto parser = Load({items});
   for (int i = 0; i < 1000; ++i) {

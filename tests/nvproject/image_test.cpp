@@ -262,11 +262,9 @@ struct PlainProject {
     for (auto& list : modules) {
       for (std::size_t i = 0; i < list.size();) {
         std::uint32_t at = 0;
-        if (list[i].parent != -1) {
-          ++i;
-        } else if (list[i].type == ItemType::Struct) {
+        if (list[i].parent == -1 && list[i].type == ItemType::Struct) {
           i = Structure(list, i, at);
-        } else if (list[i].type == ItemType::Array) {
+        } else if (list[i].parent == -1 && list[i].type == ItemType::Array) {
           const std::size_t array = i;
           const std::uint32_t size = list[i].size;
           std::uint32_t last = 0;

@@ -65,6 +65,7 @@ TEST(FullPath, ParentIsTheFirstItemOfItsIndex) {
 
 TEST(FullPath, IsCutTo511Characters) {
   std::vector<TestItem> items;
+  items.reserve(20);
   for (int i = 0; i < 20; ++i) {
     items.push_back({.name = std::string(63, 'n'), .type = kStruct, .parent = i - 1});
   }

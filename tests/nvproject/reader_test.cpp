@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "nvproject/support.h"
 
 namespace merovane::nvproject::testing {
@@ -92,9 +94,12 @@ TEST(Reader, LongLinesAreReadInPieces) {
   const std::string filler = "ITEM_NAME = " + std::string(300, 'n');
   const std::string key(259, '#');
   for (const char* const lineEnd : {"\n", "\r\n"}) {
-    const auto parser =
-        LoadModuleText("BEGIN_ITEM\nITEM_PARENT = -1\n" + filler + lineEnd + key +
-                       "ITEM_LENGTH = 12" + lineEnd + key + lineEnd + "END_ITEM" + lineEnd);
+    std::string text = "BEGIN_ITEM\nITEM_PARENT = -1\n";
+    text.append(filler).append(lineEnd);
+    text.append(key).append("ITEM_LENGTH = 12").append(lineEnd);
+    text.append(key).append(lineEnd);
+    text.append("END_ITEM").append(lineEnd);
+    const auto parser = LoadModuleText(text);
     ASSERT_NE(parser, nullptr);
     EXPECT_EQ(OnlyItem(*parser).name, std::string(63, 'n'));
     EXPECT_EQ(OnlyItem(*parser).length, 12U);
@@ -102,13 +107,15 @@ TEST(Reader, LongLinesAreReadInPieces) {
 }
 
 TEST(Reader, PieceHoldsItsLineEndWhenThereIsRoom) {
-  const std::string start = "ITEM_DESC =";
+  constexpr std::string_view kStart = "ITEM_DESC =";
   for (const std::size_t total : {257U, 258U, 259U, 260U}) {
-    const std::string value(total - start.size(), 'd');
-    const auto parser =
-        LoadModuleText("BEGIN_ITEM\nITEM_PARENT = -1\n" + start + value + "\r\nEND_ITEM\n");
+    std::string line(kStart);
+    line.resize(total, 'd');
+    const auto parser = LoadModuleText(
+        std::string("BEGIN_ITEM\nITEM_PARENT = -1\n").append(line).append("\r\nEND_ITEM\n"));
     ASSERT_NE(parser, nullptr);
-    const std::string expected = total < 259 ? value + "\n" : value.substr(0, 259 - start.size());
+    std::string expected = line.substr(kStart.size()).append("\n");
+    expected.resize(std::min(expected.size(), 259 - kStart.size()));
     EXPECT_EQ(OnlyItem(*parser).description, expected) << total;
   }
 }

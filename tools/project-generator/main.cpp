@@ -6,7 +6,9 @@
 
 #include "project-generator/project_generator.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+int Run(int argc, char** argv) {
   using namespace merovane::projectgen;
   Options options;
   std::string directory;
@@ -21,14 +23,20 @@ int main(int argc, char** argv) {
                "name the AGC words [10] and so on instead of [0xa]");
   CLI11_PARSE(app, argc, argv);
   options.areoSpelling = !aero;
+  const Project project = Generate(options);
+  const auto path = Write(project, directory);
+  std::printf("%s: %zu items in %zu modules\n", path.string().c_str(), project.items.size(),
+              project.files.size() - 1);
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    const Project project = Generate(options);
-    const auto path = Write(project, directory);
-    std::printf("%s: %zu items in %zu modules\n", path.string().c_str(), project.items.size(),
-                project.files.size() - 1);
+    return Run(argc, argv);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 1;
   }
-  return 0;
 }
