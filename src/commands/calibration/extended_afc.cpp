@@ -1,5 +1,6 @@
 // The extended AFC run, whose report comes in blocks.
 #include <algorithm>
+#include <cstddef>
 #include <vector>
 
 #include "commands/calibration/calibration_message.h"
@@ -15,6 +16,8 @@ constexpr std::size_t kBlockHeaderBytes = 20;
 constexpr std::size_t kBlockCountOffset = 16;
 // A shorter answer may be followed by the block; one of this length is the last block.
 constexpr std::size_t kShortBlockBytes = 500;
+
+static_assert(offsetof(QV_EXTENDED_AFC, report) == 16 && sizeof(QV_EXTENDED_AFC::report) == 27648);
 
 class BlockCollector {
  public:

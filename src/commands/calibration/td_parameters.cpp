@@ -1,5 +1,6 @@
 // TD-SCDMA calibration parameters: a selector and as many values as it names.
 #include <array>
+#include <cstddef>
 #include <type_traits>
 #include <vector>
 
@@ -16,6 +17,8 @@ constexpr std::uint32_t kTransferTimeoutMs = 1000;
 constexpr std::size_t kTransferHeaderBytes = 6;
 constexpr std::size_t kTransferredOffset = 4;
 constexpr std::size_t kMaxValues = std::extent_v<decltype(QV_TD_PARAMETERS::values)>;
+
+static_assert(offsetof(QV_TD_PARAMETERS, values) == 6 && kMaxValues == 3073);
 
 }  // namespace
 
