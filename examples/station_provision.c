@@ -35,7 +35,7 @@ static void make_imei(char imei[16], unsigned long number) {
 }
 
 static void make_identity(IDENTITY* identity, unsigned long unit) {
-  size_t at;
+  unsigned at;
   memset(identity, 0, sizeof *identity);
   for (at = 0; at < IMEIS; ++at) make_imei(identity->imeis[at], unit * IMEIS + at);
   snprintf(identity->bluetooth_address, 16, "02B70000%04lX", unit & 0xFFFF);
