@@ -1,6 +1,5 @@
 #include "nvproject/commands.h"
 
-#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -26,8 +25,7 @@ Result GetNvValue(CFileParser* project, std::uint32_t module, const char* path, 
   if (project == nullptr) return Result::NvProjectNotOpen;
   std::string content;
   if (!project->GetItemContent(module, path, &content)) return Result::PathNotFound;
-  const std::size_t count = std::min<std::size_t>(content.size(), capacity);
-  std::memcpy(text, content.data(), count);
+  const std::size_t count = content.copy(text, capacity);
   std::memset(text + count, 0, capacity - count);
   return Result::Success;
 }
