@@ -1,8 +1,8 @@
 // What commands work on: a handset's link and what the commands keep between calls.
 #pragma once
 
-#include "commands/serial_number_layout.h"
 #include "commands/calibration/calibration_state.h"
+#include "commands/serial_number_layout.h"
 #include "commands/test/mode_process.h"
 #include "link/phone_link.h"
 #include "link/settings.h"

@@ -62,7 +62,7 @@ std::vector<Row> Rows(const Fields& message) {
   };
   const Bytes word = u32(0x01020304), ok = u32(0);
   const std::string gotWord = "04 03 02 01";
-  const auto gps = [&](Bytes head, const Bytes& data) {
+  const auto gps = [](const Bytes& head, const Bytes& data) {
     Bytes block = Joined(head, data);
     block.resize(264);
     return block;
