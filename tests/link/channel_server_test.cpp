@@ -1,5 +1,5 @@
-#include "companions/tcp_peer.h"
 #include "support/command_fixture.h"
+#include "support/tcp_server.h"
 
 namespace merovane::test {
 namespace {
@@ -23,7 +23,7 @@ struct ChannelServerTest : CommandFixture {
   Result Receive() { return link->ReceiveFrame(frame, length, kPatienceMs); }
   static std::string Text(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
 
-  peers::TcpPeer server;
+  TcpServer server;
   std::unique_ptr<LinkSettings> served;
   std::unique_ptr<PhoneLink> link;
   std::array<std::uint8_t, 9216> frame{};
