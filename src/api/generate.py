@@ -18,7 +18,7 @@ arguments; both run merovane::commands::X(Phone&, ...). Behind the kind, in brac
 operation's id; underscores in X do not count. Behind the kind, in brackets:
     as F            runs F instead
     image           F takes an ImageContext behind the arguments
-    holder          F takes what holds the project, and has no id
+    holder          F takes what holds the project, and is reported under id 0
 A line `family "module"` adds the rows that families/<module>.py makes of a table.
 
 Written: exports.cpp, Merovane.def, exports.map, exports-windows.txt, exports-linux.txt into --output;
@@ -89,8 +89,8 @@ class Api:
             project = "phone.project" if "holder" in flags else "phone.project.get()"
             context = ["api::ImageContextNow()"] if "image" in flags else []
             call = f"nvproject::{function}({', '.join([project] + names + context)})"
-            if "holder" not in flags:
-                call = f"api::RunProjectOperation(nvproject::operation::k{function}, [&] {{ return {call}; }})"
+            operation = "0" if "holder" in flags else f"nvproject::operation::k{function}"
+            call = f"api::RunProjectOperation({operation}, [&] {{ return {call}; }})"
         closure = "[&](auto& phone) { return " + call + "; }"
         export("", f"api::OnDefaultPhone({closure})", arguments, documentation, "decorated" in flags)
         if not {"plain", "decorated"} & flags:
