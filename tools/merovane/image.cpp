@@ -14,7 +14,7 @@ using nvproject::Item;
 
 void Dump(std::span<const std::uint8_t> image, std::ostream& out) {
   constexpr std::size_t kBytesPerLine = 16;
-  std::array<char, 16> text;
+  std::array<char, 32> text;
   for (std::size_t at = 0; at < image.size(); at += kBytesPerLine) {
     std::snprintf(text.data(), text.size(), "%08zx: ", at);
     out << text.data();
