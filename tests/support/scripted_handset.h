@@ -3,6 +3,7 @@
 // It has its own idea of frames: it shares no code with the library.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <deque>
 #include <list>
@@ -153,7 +154,7 @@ class ScriptedHandset final : private CassorindChannel {
   bool failCreate_ = false;
   bool failOpen_ = false;
   bool gone_ = false;
-  int channelsHeld_ = 0;
+  std::atomic<int> channelsHeld_{0};
   int clears_ = 0;
   std::uint32_t largestRead_ = 0;
 };

@@ -149,7 +149,8 @@ TEST_F(ModeProcessTest, MayOutliveEveryOtherOwnerOfItsPhone) {
   handset.Expect(0xFE, 0x83).Answer(0xFE, 0x83);
   handset.SayRaw(kStartFrame);
   EXPECT_TRUE(Caught());
-  while (!watched.expired()) std::this_thread::yield();
+  // The worker ends the phone, and with it the channel.
+  while (!watched.expired() || handset.ChannelsHeld() > 0) std::this_thread::yield();
 }
 
 struct ArrivingPort : ModeProcessTest {
