@@ -1,6 +1,7 @@
 /* Calling convention, linkage and the records that exported functions take.
  *
- * Records stand in the caller's memory, in this machine's byte order, without padding other than shown. */
+ * Records stand in the caller's memory, in this machine's byte order, without padding other than
+ * shown. */
 #ifndef MEROVANE_TYPES_H
 #define MEROVANE_TYPES_H
 
@@ -20,10 +21,10 @@
 #define MEROVANE_API __attribute__((visibility("default")))
 #endif
 
-/** An event of the caller's: a Win32 event handle on Windows, elsewhere an eventfd descriptor. 0 and,
- * elsewhere than on Windows, negative values count as null. */
+/** An event of the caller's: a Win32 event handle on Windows, elsewhere an eventfd descriptor. 0
+ * and, elsewhere than on Windows, negative values count as null. */
 #if defined(_WIN32)
-typedef void *QV_EVENT;
+typedef void* QV_EVENT;
 #else
 typedef intptr_t QV_EVENT;
 #endif
@@ -35,8 +36,9 @@ typedef struct QV_CELL_INFO {
 
 /* ---- Memory, identity and short-range radios ---- */
 
-/** The fixed-NV information: 168 bytes. A write takes the fields whose flag is not 0; a read fills every field and
- * leaves the flags. Texts need no terminating zero when written; when read they are terminated. */
+/** The fixed-NV information: 168 bytes. A write takes the fields whose flag is not 0; a read fills
+ * every field and leaves the flags. Texts need no terminating zero when written; when read they are
+ * terminated. */
 typedef struct QV_FIXED_NV_INFO {
   uint32_t write_imei1;
   uint32_t write_imei2;
@@ -79,8 +81,8 @@ typedef struct QV_WIFI_FACTOR {
 
 /* ---- Radio calibration. What a value means is the handset's where it is not said here. */
 
-/** Parameters of an AFC run. Sent in the order 1, 2, 0, 3. Multi-chip handsets take values[1] as channel, [2] as
- * power control level, [0] as CAFC centre or CDAC and [3] as CAFC. */
+/** Parameters of an AFC run. Sent in the order 1, 2, 0, 3. Multi-chip handsets take values[1] as
+ * channel, [2] as power control level, [0] as CAFC centre or CDAC and [3] as CAFC. */
 typedef struct QV_AFC_PARAMETERS {
   uint16_t values[4];
 } QV_AFC_PARAMETERS;
@@ -94,8 +96,8 @@ typedef struct QV_EXTENDED_AFC {
   uint16_t report[13824];
 } QV_EXTENDED_AFC;
 
-/** Parameters of a receive measurement, sent in this order. Multi-chip handsets take words[0] as channel, [1] and [2]
- * as receive parameters and [3] as power control level. */
+/** Parameters of a receive measurement, sent in this order. Multi-chip handsets take words[0] as
+ * channel, [1] and [2] as receive parameters and [3] as power control level. */
 typedef struct QV_AGC_PARAMETERS {
   uint32_t first;
   uint16_t words[4];
@@ -109,8 +111,9 @@ typedef struct QV_AGC_RESULT {
   uint16_t rssi;
 } QV_AGC_RESULT;
 
-/** A power step or PA setting. The multi-chip commands take `first` as band, `second` as power control level, `third`
- * as the value to write and `fourth` as the index of a table of 16 levels. */
+/** A power step or PA setting. The multi-chip commands take `first` as band, `second` as power
+ * control level, `third` as the value to write and `fourth` as the index of a table of 16 levels.
+ */
 typedef struct QV_POWER_STEP {
   uint32_t first;
   uint16_t second;
@@ -159,7 +162,8 @@ typedef struct QV_TD_POWER_SWEEP {
   uint16_t words[4];
 } QV_TD_POWER_SWEEP;
 
-/** TD-SCDMA calibration parameters. A caller's memory need not be larger than `count` values ask for. */
+/** TD-SCDMA calibration parameters. A caller's memory need not be larger than `count` values ask
+ * for. */
 typedef struct QV_TD_PARAMETERS {
   uint32_t selector;
   uint16_t count; /**< of values, at most 3073 */
