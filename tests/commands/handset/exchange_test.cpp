@@ -1,8 +1,7 @@
-// What all commands have in common: request, answer, log, operation, time limit, and answers that
-// are cut short.
+// What all commands have in common: arguments that are refused, request, answer, log, operation,
+// time limit, and answers that are cut short.
 #include <cstring>
 
-#include "commands/test/peripherals.h"
 #include "rows.h"
 
 namespace merovane::test {
@@ -40,7 +39,7 @@ struct HandsetCommands : CommandFixture {
 TEST_F(HandsetCommands, AskDeliverAndLog) {
   ForEachRow([&](const Row& row) {
     Expect(row).Answer(row.request.type, row.answer.subtype, row.answer.payload);
-    const Outcome outcome = row.run(phone);
+    const Outcome outcome = row.command.run(phone);
     EXPECT_EQ(outcome.result, Result::Success);
     EXPECT_EQ(outcome.delivered, row.delivered);
     EXPECT_EQ(OperationOf(outcome.result), row.operation);
@@ -53,7 +52,7 @@ TEST_F(HandsetCommands, WaitAsLongAsTheirLimitAndTheSettingSay) {
   ForEachRow([&](const Row& row) {
     Expect(row).Silent();
     const std::uint32_t before = clock.NowMs();
-    const Outcome outcome = row.run(phone);
+    const Outcome outcome = row.command.run(phone);
     EXPECT_EQ(clock.NowMs() - before, row.timeoutMs + 30);
     EXPECT_EQ(outcome.result, row.silence);
     ExpectLog(row, outcome.result, row.silence == Result::NoAnswer);
@@ -64,10 +63,10 @@ TEST_F(HandsetCommands, PassTheLinksCodesOn) {
   ForEachRow([&](const Row& row) {
     const bool own = row.silence != Result::NoAnswer;
     Expect(row).WriteFails();
-    EXPECT_EQ(row.run(phone).result, own ? row.silence : Result::WriteFailed);
+    EXPECT_EQ(row.command.run(phone).result, own ? row.silence : Result::WriteFailed);
     if (row.answer.subtype == 2) return;  // a refusal is the answer
     Expect(row).Answer(row.request.type, 2, "00 00 00 00");
-    EXPECT_EQ(row.run(phone).result, own ? row.silence : Result::Refused);
+    EXPECT_EQ(row.command.run(phone).result, own ? row.silence : Result::Refused);
   });
 }
 
@@ -86,7 +85,7 @@ TEST_F(HandsetCommands, TakeNothingFromBehindAnAnswer) {
                       row.answer.payload.begin() + static_cast<std::ptrdiff_t>(length));
       Expect(row).Answer(row.request.type, row.answer.subtype, cut);
       SoilStack();
-      const Outcome outcome = row.run(phone);
+      const Outcome outcome = row.command.run(phone);
       if (outcome.result != Result::Success) {
         EXPECT_THAT(row.shortResults, Contains(outcome.result));
       }
@@ -95,35 +94,103 @@ TEST_F(HandsetCommands, TakeNothingFromBehindAnAnswer) {
   });
 }
 
+TEST_F(HandsetCommands, RefuseNullPointersUnderTheirOperation) {
+  ForEachRow([&](const Row& row) {
+    if (!row.command.runWithNull) return;
+    EXPECT_EQ(row.command.runWithNull(phone), Result::InvalidParam);
+    EXPECT_EQ(OperationOf(Result::InvalidParam), row.operation);
+  });
+  EXPECT_THAT(Log(), ::testing::IsEmpty());
+}
+
+TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
+  using namespace commands;
+  std::uint8_t b[64] = {};
+  std::uint16_t w[10] = {};
+  std::uint32_t n = 77;
+  const std::uint32_t radioTest[4] = {0, 79, 0, 0};
+  QV_WIFI_FACTOR factor{};
+  char text[4];
+  // An address that cannot be written, and a capacity that runs over the end of memory.
+  auto* const constant = const_cast<std::uint8_t*>(reinterpret_cast<const std::uint8_t*>("x"));
+  const auto refused = [&](std::uint32_t operation, Result result,
+                           Result expected = Result::InvalidParam) {
+    EXPECT_EQ(result, expected) << operation;
+    EXPECT_EQ(OperationOf(result), operation);
+    settings.errors.BeginOperation(kOperationBefore);
+  };
+  refused(23, ReadFlash(phone, 1, b, 0, &n, 10));
+  refused(23, ReadFlash(phone, 1, b, -1, &n, 10));
+  refused(23, ReadFlash(phone, 1, b, 65536, &n, 10));
+  refused(23, ReadFlash(phone, 1, b, 4, nullptr, 10));
+  refused(24, WriteFlash(phone, 1, b, 0, 10));
+  refused(24, WriteFlash(phone, 1, b, 65536, 10));
+  refused(25, EraseFlash(phone, 0));
+  refused(220, ReadNv(phone, 1, b, 0, &n, 10));
+  refused(220, ReadNv(phone, 1, b, 4, nullptr, 10));
+  refused(47, ReadNvFromHandset(phone, 1, 0, 4, b, 0, &n));
+  refused(47, ReadNvFromHandset(phone, 1, 0, 4, b, 4, nullptr));
+  refused(29, ReadRegister(phone, 0, 0, b, 0));
+  refused(29, ReadRegister(phone, 2, 0, b, 0x40000001));  // 4 bytes in 32 bits
+  refused(30, WriteRegister(phone, 0, 0, b, 0));
+  refused(30, WriteRegister(phone, 1, 0, b, 32760));  // 65536 with its header
+  refused(42, GetLcdIcDriverID(phone, 0, b, 0, &n));
+  refused(42, GetLcdIcDriverID(phone, 0, b, -4, &n));
+  refused(42, GetLcdIcDriverID(phone, 0, b, 4, nullptr));
+  refused(22, GetMSVersion(phone, text, 0));
+  refused(218, Send7310KCommand(phone, 1, nullptr, w, 10));
+  refused(236, Recv7310KCommand(phone, 1, nullptr, 10));
+  refused(238, NvWriteDirect(phone, nullptr));
+  refused(238, FastWriteNvInfo(phone, nullptr));
+  refused(238, FastReadNvInfo(phone, nullptr));
+  refused(26, ReadSN(phone, nullptr, 24));
+  refused(26, ReadSN2(phone, b, 0));
+  refused(27, WriteSN(phone, nullptr, 4));
+  refused(27, WriteSN(phone, b, 0));
+  refused(27, WriteSN2(phone, b, 24));
+  refused(28, ReadGuid(phone, nullptr));
+  refused(238, FastReadProduct(phone, b, 0, &n));
+  refused(238, FastReadVerSion(phone, b, 4, nullptr));
+  refused(238, FastReadProduct(phone, constant, 1, &n));
+  refused(238, FastReadVerSion(phone, b, UINT32_MAX, &n));
+  refused(220, FastReaIMEICount(phone, nullptr));
+  refused(17, ADCCalibration(phone, 1, b, 0));
+  refused(34, StartBtRadioTest(phone, 1, radioTest));
+  refused(35, StartBtAFC(phone, 1, 79));
+  refused(36, SetBtDacValue(phone, 64));
+  refused(37, SaveBtDacValue(phone, 64));
+  refused(265, WIFI_SetDateRat(phone, 3));
+  refused(265, WIFI_SetDateRat(phone, 257));  // 1 in 8 bits
+  refused(266, WIFI_SetMode(phone, 7));
+  refused(267, WIFI_SetPCL(phone, 0));
+  refused(267, WIFI_SetPCL(phone, 6));
+  refused(270, WIFI_ReadRxValue(phone, &n, nullptr));
+  refused(271, WIFI_OperFactor(phone, 1, &factor), Result::WifiFailed);
+  factor.index = 6;
+  refused(271, WIFI_OperFactor(phone, 2, &factor), Result::WifiFailed);
+  factor.index = 1;
+  refused(271, WIFI_OperFactor(phone, 3, &factor), Result::WifiFailed);
+  refused(kOperationBefore, DspDebug_RdRegMemo(phone, 0, 3, 0, b, 1));
+  refused(kOperationBefore, DspDebug_RdRegMemo(phone, 0, 4, 0, b, 0));
+  refused(kOperationBefore, DspDebug_WrRegMemo(phone, 0, 0, 0, 1));
+  EXPECT_THAT(Log(), ::testing::IsEmpty());
+  EXPECT_EQ(n, 77u);
+}
+
 TEST_F(HandsetCommands, SwitchWithoutAwaitingAnAnswer) {
   using namespace commands;
-  const struct {
-    std::uint32_t operation;
-    const char* logName;
-    std::uint8_t subtype;
-    Result (*turn)(Phone&, std::uint32_t);
-    std::uint32_t on;
-  } cases[] = {
-      {19, "LedOn:", 3, LedOn, 1},
-      {19, "LedOff:", 0, LedOn, 0},
-      {20, "VibrationOn:", 4, VibrationOn, 5},
-      {20, "VibrationOff:", 0, VibrationOn, 0},
-      {44, "LcdOn:", 3, LcdOn, 1},
-      {44, "LcdOff:", 8, LcdOn, 0},
-      {45, "keyLightOn:", 16, keyLightOn, 1},
-      {45, "keyLightOff:", 17, keyLightOn, 0},
-      {46, "CameraOn:", 18, CameraOn, 1},
-      {46, "CameraOff:", 19, CameraOn, 0},
-  };
   const std::uint32_t before = clock.NowMs();
-  for (const auto& each : cases) {
-    handset.Expect(17, each.subtype);
-    const Result result = each.turn(phone, each.on);
-    EXPECT_EQ(result, Result::Success);
-    EXPECT_EQ(OperationOf(result), each.operation);
-    EXPECT_THAT(LogText(), ElementsAreArray({each.logName, "Clear Port Buffer",
-                                             "Error Code = 0 (PC_ERR_SUCCESS)"}));
-  }
+  const auto turns = [&](std::uint8_t subtype, Result (*turn)(Phone&, std::uint32_t),
+                         std::uint32_t on, const char* logName) {
+    handset.Expect(17, subtype);
+    EXPECT_EQ(turn(phone, on), Result::Success);
+    EXPECT_THAT(LogText(), ElementsAreArray(
+                               {logName, "Clear Port Buffer", "Error Code = 0 (PC_ERR_SUCCESS)"}));
+  };
+  turns(3, LedOn, 1, "LedOn:");
+  turns(0, LedOn, 0, "LedOff:");
+  turns(19, CameraOn, 0, "CameraOff:");
+  EXPECT_EQ(OperationOf(Result::Success), 46u);
   EXPECT_EQ(clock.NowMs(), before);
   handset.Expect(17, 3).WriteFails();
   EXPECT_EQ(LedOn(phone, 1), Result::WriteFailed);

@@ -1,38 +1,45 @@
 #include "rows.h"
 
-#include "commands/crc16.h"
-#include "commands/test/bluetooth.h"
-#include "commands/test/dsp_debug.h"
-#include "commands/test/fixed_nv.h"
-#include "commands/test/flash_nv.h"
-#include "commands/test/gps.h"
-#include "commands/test/identification.h"
-#include "commands/test/peripherals.h"
-#include "commands/test/production_block.h"
-#include "commands/test/registers.h"
-#include "commands/test/wifi.h"
+#include <type_traits>
 
 namespace merovane::test {
 namespace {
 
 using namespace commands;
-using Run = std::function<Outcome(Phone&)>;
+template <typename T>
+T Nulled(T value) {
+  if constexpr (std::is_pointer_v<T>) return nullptr;
+  return value;
+}
 
 // The caller is told nothing but the code.
 template <typename... Parameters, typename... Values>
-Run Does(Result (*command)(Phone&, Parameters...), Values... values) {
-  return [=](Phone& phone) {
+Command Does(Result (*command)(Phone&, Parameters...), Values... values) {
+  Command does{[=](Phone& phone) {
     return Outcome{command(phone, static_cast<Parameters>(values)...), ""};
-  };
+  }};
+  if constexpr ((std::is_pointer_v<Values> || ...)) {
+    does.runWithNull = [=](Phone& phone) {
+      return command(phone, Nulled(static_cast<Parameters>(values))...);
+    };
+  }
+  return does;
 }
 
-template <typename T = std::uint8_t, typename Command>
-Run Gets(std::size_t count, Command command) {
-  return [count, command](Phone& phone) {
-    GuardedBuffer<T> out(count);
-    const Result result = command(phone, out.Data());
-    return Outcome{result, out.Hex(count)};
-  };
+template <typename T = std::uint8_t, typename Function>
+Command Gets(std::size_t count, Function command) {
+  return {[count, command](Phone& phone) {
+            GuardedBuffer<T> out(count);
+            const Result result = command(phone, out.Data());
+            return Outcome{result, out.Hex(count)};
+          },
+          [command](Phone& phone) { return command(phone, static_cast<T*>(nullptr)); }};
+}
+
+Command Writes(std::uint32_t operation, QV_WIFI_FACTOR factor) {
+  return {[=](Phone& phone) mutable {
+    return Outcome{WIFI_OperFactor(phone, operation, &factor), ""};
+  }};
 }
 
 Bytes Counting(std::size_t count) {
@@ -124,7 +131,7 @@ std::vector<Row> Rows(const Fields& message) {
        Gets(2, [](Phone& p, auto* out) { return ADCCalibration(p, 3, out, 60); })},
       {"ReadAdcValue:", 17, 1000, {15, 255, {}}, {0, u16(0x0102).Raw("03 04").Get()}, "02 01 03 04",
        Gets(4, [](Phone& p, auto* out) {
-         return ReadAdcValue(p, 255, reinterpret_cast<std::uint16_t*>(out), out + 2, out + 3, 0);
+         return ReadAdcValue(p, 255, reinterpret_cast<std::uint16_t*>(out), out ? out + 2 : out, out ? out + 3 : out, 0);
        })},
       {"ReadPhoneVolt:", 18, 1000, {30, 0, {}}, {0, word}, gotWord, Gets<std::uint32_t>(1, ReadPhoneVolt)},
       {"PressKeyboard:", 39, 1000, {1, 0, u16(0xA001, 8).U32(0x01020304).Get()}, {0, {}}, "",
@@ -160,8 +167,6 @@ std::vector<Row> Rows(const Fields& message) {
       {"SetWifiChannel:", 264, 3000, {54, 3, u32(6)}, {3, ok}, "", Does(WIFI_SetChannel, 14)},
       {"SetWifiChannel:", 264, 3000, {54, 3, u32(6)}, {3, ok}, "", Does(WIFI_SetChannel, 0)},
       {"SetWifiDataRate:", 265, 3000, {54, 4, u32(54)}, {4, ok}, "", Does(WIFI_SetDateRat, 54)},
-      {"SetWifiModulationMode:", 266, 3000, {54, 5, u32(6)}, {5, ok}, "", Does(WIFI_SetMode, 6)},
-      {"SetWifiPowerControlLevel:", 267, 3000, {54, 6, u32(5)}, {6, ok}, "", Does(WIFI_SetPCL, 5)},
       {"EnableWifiTx:", 268, 3000, {54, 7, Hex("00 00 00 01 00 00 01 02")}, {7, ok}, "",
        Does(WIFI_SetTxStatus, 3, 0x0102)},
       {"DisableWifiTx:", 268, 3000, {54, 7, Bytes(8)}, {7, ok}, "", Does(WIFI_SetTxStatus, 0, 0)},
@@ -169,13 +174,13 @@ std::vector<Row> Rows(const Fields& message) {
       {"EnableWifiRx:", 269, 1000, {54, 8, u32(1)}, {8, ok}, "", Does(WIFI_SetRxStatus, 1)},
       {"ClearWifiRxValue:", 269, 1000, {54, 8, u32(2)}, {8, ok}, "", Does(WIFI_SetRxStatus, 77)},
       {"ReadRecPackage:", 270, 1000, {54, 9, {}}, {9, u32(0, 1, 2)}, "01 00 00 00 02 00 00 00",
-       Gets<std::uint32_t>(2, [](Phone& p, auto* out) { return WIFI_ReadRxValue(p, out, out + 1); })},
+       Gets<std::uint32_t>(2, [](Phone& p, auto* out) { return WIFI_ReadRxValue(p, out, out ? out + 1 : out); })},
       {"ReadWifiFactor:", 271, 1000, {54, 10, {}}, {10, u32(0, 4, 1)}, "00 00 00 00 04 00 00 00 01 00 00 00",
        Gets<QV_WIFI_FACTOR>(1, [](Phone& p, auto* factor) { return WIFI_OperFactor(p, 0, factor); })},
       {"WriteWifiFactor:", 271, 8000, {54, 11, Hex("00 00 00 00 00 00 00 05 01 02 03 04")}, {11, ok}, "",
-       [](Phone& p) { QV_WIFI_FACTOR factor{7, 5, 0x01020304}; return Outcome{WIFI_OperFactor(p, 1, &factor), ""}; }},
+       Writes(1, {7, 5, 0x01020304})},
       {"SetWifiFactor:", 271, 8000, {54, 12, Hex("00 00 00 00 00 00 00 01 00 00 00 00")}, {12, ok}, "",
-       [](Phone& p) { QV_WIFI_FACTOR factor{7, 1, 0}; return Outcome{WIFI_OperFactor(p, 2, &factor), ""}; }},
+       Writes(2, {7, 1, 0})},
       {"SetCrystalCap:", 272, 3000, {54, 13, Hex("01 02")}, {13, ok}, "", Does(WIFI_SetCrystalCap, kData.data())},
       // DSP.
       {"DspDebug Reset RF param:", kOperationBefore, 4000, {50, 0, {}}, {0, ok}, "", Does(DspDebug_ResetRFparam)},

@@ -6,6 +6,18 @@
 #include <string>
 #include <vector>
 
+#include "commands/crc16.h"
+#include "commands/test/bluetooth.h"
+#include "commands/test/dsp_debug.h"
+#include "commands/test/fixed_nv.h"
+#include "commands/test/flash_nv.h"
+#include "commands/test/gps.h"
+#include "commands/test/identification.h"
+#include "commands/test/peripherals.h"
+#include "commands/test/production_block.h"
+#include "commands/test/registers.h"
+#include "commands/test/serial_number.h"
+#include "commands/test/wifi.h"
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -14,6 +26,12 @@ namespace merovane::test {
 struct Outcome {
   Result result;
   std::string delivered;
+};
+
+struct Command {
+  std::function<Outcome(Phone&)> run;
+  // The same without its data; empty when it takes none.
+  std::function<Result(Phone&)> runWithNull = {};
 };
 
 struct Row {
@@ -29,7 +47,7 @@ struct Row {
     Bytes payload;
   } answer;
   std::string delivered;
-  std::function<Outcome(Phone&)> run;
+  Command command;
   // The codes that answers cut short may give, besides success.
   std::vector<Result> shortResults = {};
   // A failure that is not the link's own, and not logged.

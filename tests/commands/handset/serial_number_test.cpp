@@ -31,84 +31,85 @@ Bytes With(Bytes storage, std::size_t offset, const Bytes& number) {
 }
 
 struct SerialNumber : CommandFixture {
+  using ReadFunction = Result(Phone&, std::uint8_t*, std::uint32_t);
+  using WriteFunction = Result(Phone&, const std::uint8_t*, std::uint32_t);
+
   Exchange& ExpectRead(unsigned bytes) {
     return handset.Expect(13, 2, handset.Message().U16(0).U16(bytes));
   }
   Bytes ItemAnswer(const Bytes& stored, unsigned bytes) {
-    return handset.Message()
-        .U16(0)
-        .U16(bytes)
-        .Raw(Bytes(stored.begin(), stored.begin() + bytes))
-        .Get();
+    const Bytes begin(stored.begin(), stored.begin() + bytes);
+    return handset.Message().U16(0).U16(bytes).Raw(begin).Get();
   }
+  // Its magic, and as much of the item as is asked for then.
   void GiveItem(const Bytes& stored, unsigned bytes) {
-    ExpectRead(bytes).Answer(13, 0, ItemAnswer(stored, bytes));
+    for (const unsigned asked : {4U, bytes}) {
+      ExpectRead(asked).Answer(13, 0, ItemAnswer(stored, asked));
+    }
   }
-  void GiveBlock(const Bytes& stored) {
-    handset.Expect(95, 0x81, "00 00").Answer(95, 1, WithChecksum(stored));
+  // Flash item 0 of a handset that keeps its numbers in the block holds the magic and nothing else.
+  Exchange& ExpectBlockRead() {
+    ExpectRead(4).Answer(13, 0, ItemAnswer(Hex(kBlockMagic), 4));
+    return handset.Expect(95, 0x81, "00 00");
   }
+  void GiveBlock(const Bytes& stored) { ExpectBlockRead().Answer(95, 1, WithChecksum(stored)); }
   Exchange& ExpectItem(const Bytes& stored) {
     return handset.Expect(13, 3, handset.Message().U16(0).U16(kItemBytes).Raw(stored));
   }
-  Exchange& ExpectBlock(const Bytes& stored) { return handset.Expect(95, 1, WithChecksum(stored)); }
+  void TakeItem(const Bytes& stored) { ExpectItem(stored).Answer(13, 0); }
+  void TakeBlock(const Bytes& stored) { handset.Expect(95, 1, WithChecksum(stored)).Answer(95, 1); }
+  void ReadsField(ReadFunction& read, const Bytes& storage, std::size_t offset) {
+    EXPECT_EQ(read(phone, out.Data(), 24), Result::Success);
+    EXPECT_EQ(out.Hex(24), ToHex(std::span(storage).subspan(offset, 24)));
+  }
+  Result Write(WriteFunction& write, const Bytes& text) {
+    return write(phone, text.data(), static_cast<std::uint32_t>(text.size()));
+  }
+  Result Write() { return Write(WriteSN, number); }
 
   const Bytes number = Text("SN-0123456789-ABCDEFGHI");  // 23 bytes
   const Bytes shortNumber = Text("S1");
   const Bytes item = Storage(kItemBytes, Hex(kItemMagic));
   const Bytes block = Storage(256, Hex(kBlockMagic));
   const Bytes blank = Bytes(kItemBytes);
-  // Flash item 0 of a handset that keeps its numbers in the block: the magic, nothing else.
-  const Bytes pointer = With(blank, 0, Hex(kBlockMagic));
   GuardedBuffer<std::uint8_t> out{24};
 };
 
 TEST_F(SerialNumber, IsReadFromEitherLayout) {
   InBothByteOrders([&] {
     for (const Bytes& storage : {item, blank}) {
-      GiveItem(storage, 4);
       GiveItem(storage, 216);
-      EXPECT_EQ(ReadSN(phone, out.Data(), 24), Result::Success);
-      EXPECT_EQ(out.Hex(24), ToHex(std::span(storage).subspan(8, 24)));
+      ReadsField(ReadSN, storage, 8);
     }
-    GiveItem(item, 4);
     GiveItem(item, 216);
-    EXPECT_EQ(ReadSN2(phone, out.Data(), 24), Result::Success);
-    EXPECT_EQ(out.Hex(24), ToHex(std::span(item).subspan(168, 24)));
-    GiveItem(pointer, 4);
+    ReadsField(ReadSN2, item, 168);
     GiveBlock(block);
-    EXPECT_EQ(ReadSN(phone, out.Data(), 24), Result::Success);
-    EXPECT_EQ(out.Hex(24), ToHex(std::span(block).subspan(4, 24)));
-    GiveItem(pointer, 4);
+    ReadsField(ReadSN, block, 4);
     GiveBlock(block);
-    EXPECT_EQ(ReadSN2(phone, out.Data(), 24), Result::Success);
-    EXPECT_EQ(out.Hex(24), ToHex(std::span(block).subspan(28, 24)));
+    ReadsField(ReadSN2, block, 28);
   });
 }
 
 TEST_F(SerialNumber, IsCutToTheCapacity) {
   GuardedBuffer<std::uint8_t> small(10);
-  GiveItem(item, 4);
   GiveItem(item, 216);
   EXPECT_EQ(ReadSN(phone, small.Data(), 10), Result::BufferTooSmall);
   EXPECT_EQ(small.Hex(10), ToHex(std::span(item).subspan(8, 10)));
-  GiveItem(pointer, 4);
   GiveBlock(Bytes(257));
   EXPECT_EQ(ReadSN(phone, out.Data(), 24), Result::BufferTooSmall) << "the block itself";
   EXPECT_TRUE(out.Untouched());
 }
 
 TEST_F(SerialNumber, LogsItsStepsAndNoResultOfItsOwn) {
-  GiveItem(item, 4);
   GiveItem(item, 216);
-  const Result result = ReadSN2(phone, out.Data(), 24);
-  EXPECT_EQ(OperationOf(result), 23u) << "that of the last step";
+  EXPECT_EQ(ReadSN2(phone, out.Data(), 24), Result::Success);
+  EXPECT_EQ(OperationOf(Result::Success), 23u) << "that of the last step";
   const std::string done = ResultLine(Result::Success);
   EXPECT_THAT(LogText(), ElementsAre("ReadSN2:", "ReadFlash:", "Clear Port Buffer", done,
                                      "ReadFlash:", "Clear Port Buffer", done));
-  GiveItem(pointer, 4);
   GiveBlock(block);
-  ExpectBlock(With(block, 4, shortNumber)).Answer(95, 1);
-  EXPECT_EQ(WriteSN(phone, shortNumber.data(), 2), Result::Success);
+  TakeBlock(With(block, 4, shortNumber));
+  EXPECT_EQ(Write(WriteSN, shortNumber), Result::Success);
   EXPECT_THAT(LogText(), ElementsAre("WriteSN:", "ReadFlash:", "Clear Port Buffer", done,
                                      "Read Product Info", "Clear Port Buffer", done,
                                      "Fast Write Production Info:", "Clear Port Buffer", done));
@@ -116,33 +117,30 @@ TEST_F(SerialNumber, LogsItsStepsAndNoResultOfItsOwn) {
 
 TEST_F(SerialNumber, IsWrittenWithAllElseAsItWasRead) {
   InBothByteOrders([&] {
-    GiveItem(item, 4);
     GiveItem(item, kItemBytes);
-    ExpectItem(With(item, 8, number)).Answer(13, 0);
-    EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::Success);
-    GiveItem(item, 4);
+    TakeItem(With(item, 8, number));
+    EXPECT_EQ(Write(), Result::Success);
     GiveItem(item, kItemBytes);
-    ExpectItem(With(item, 168, shortNumber)).Answer(13, 0);
-    EXPECT_EQ(WriteSN2(phone, shortNumber.data(), 2), Result::Success);
-    GiveItem(pointer, 4);
+    TakeItem(With(item, 168, shortNumber));
+    EXPECT_EQ(Write(WriteSN2, shortNumber), Result::Success);
     GiveBlock(block);
-    ExpectBlock(With(block, 28, number)).Answer(95, 1);
-    EXPECT_EQ(WriteSN2(phone, number.data(), 23), Result::Success);
+    TakeBlock(With(block, 28, number));
+    EXPECT_EQ(Write(WriteSN2, number), Result::Success);
     // A block of another magic, shorter than it could be, is whole all the same.
-    GiveItem(pointer, 4);
     GiveBlock(Bytes(40, 0x77));
     Bytes grown = With(Bytes(40, 0x77), 4, number);
     grown.resize(256);
     std::copy_n(Hex(kBlockMagic).begin(), 4, grown.begin());
-    ExpectBlock(grown).Answer(95, 1);
-    EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::Success);
+    TakeBlock(grown);
+    EXPECT_EQ(Write(), Result::Success);
   });
 }
 
 TEST_F(SerialNumber, OfABlankHandsetMakesTheLayoutOfTheSetting) {
-  GiveItem(blank, 4);
-  ExpectItem(With(With(blank, 0, Hex(kItemMagic)), 8, number)).Answer(13, 0);
-  EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::Success);
+  const auto giveMagic = [&] { ExpectRead(4).Answer(13, 0, ItemAnswer(blank, 4)); };
+  giveMagic();
+  TakeItem(With(With(blank, 0, Hex(kItemMagic)), 8, number));
+  EXPECT_EQ(Write(), Result::Success);
 
   const auto layoutFor = [&](std::string_view value) {
     directory.Write("Merovane.ini",
@@ -152,90 +150,80 @@ TEST_F(SerialNumber, OfABlankHandsetMakesTheLayoutOfTheSetting) {
   };
   EXPECT_EQ(layoutFor("qv09"), SerialNumberLayout::ProductionBlock);
   EXPECT_EQ(layoutFor("QV091"), SerialNumberLayout::FlashItem);
-  EXPECT_EQ(layoutFor("nonsense"), SerialNumberLayout::FlashItem);
   SetByteOrder(true);
 
   phone.newSerialNumberLayout = SerialNumberLayout::ProductionBlock;
-  GiveItem(blank, 4);
-  ExpectBlock(With(With(Bytes(256), 0, Hex(kBlockMagic)), 4, number)).Answer(95, 1);
-  EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::Success);
+  giveMagic();
+  TakeBlock(With(With(Bytes(256), 0, Hex(kBlockMagic)), 4, number));
+  EXPECT_EQ(Write(), Result::Success);
   // The handset's own layout comes before the setting.
-  GiveItem(item, 4);
   GiveItem(item, kItemBytes);
-  ExpectItem(With(item, 8, number)).Answer(13, 0);
-  EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::Success);
+  TakeItem(With(item, 8, number));
+  EXPECT_EQ(Write(), Result::Success);
 }
 
 // Every step in turn fails or comes short: no write must follow, as it would lose what the handset
 // holds. A request that is not expected fails the test.
 TEST_F(SerialNumber, IsNotWrittenAfterAReadThatFailedOrCameShort) {
-  const auto write = [&] { return WriteSN(phone, number.data(), 23); };
+  const auto expectWholeRead = [&]() -> Exchange& {
+    ExpectRead(4).Answer(13, 0, ItemAnswer(item, 4));
+    return ExpectRead(kItemBytes);
+  };
   ExpectRead(4).Silent();
-  EXPECT_EQ(write(), Result::NoAnswer);
+  EXPECT_EQ(Write(), Result::NoAnswer);
   for (unsigned bytes = 0; bytes < 4; ++bytes) {
     ExpectRead(4).Answer(13, 0, ItemAnswer(item, bytes));
-    EXPECT_EQ(write(), Result::WrongDataLength);
+    EXPECT_EQ(Write(), Result::WrongDataLength);
   }
-  GiveItem(item, 4);
-  ExpectRead(kItemBytes).Refuse();
-  EXPECT_EQ(write(), Result::Refused);
+  expectWholeRead().Refuse();
+  EXPECT_EQ(Write(), Result::Refused);
   settings.usefulLog = false;
   for (unsigned bytes = 0; bytes < kItemBytes; bytes += 13) {
-    GiveItem(item, 4);
-    ExpectRead(kItemBytes).Answer(13, 0, ItemAnswer(item, bytes));
-    EXPECT_EQ(write(), Result::WrongDataLength);
+    expectWholeRead().Answer(13, 0, ItemAnswer(item, bytes));
+    EXPECT_EQ(Write(), Result::WrongDataLength);
   }
-  GiveItem(item, 4);
-  ExpectRead(kItemBytes).Answer(13, 0, Joined(ItemAnswer(item, kItemBytes), Hex("00")));
-  EXPECT_EQ(write(), Result::BufferTooSmall);
+  expectWholeRead().Answer(13, 0, Joined(ItemAnswer(item, kItemBytes), Hex("00")));
+  EXPECT_EQ(Write(), Result::BufferTooSmall);
 
-  GiveItem(pointer, 4);
   Bytes cut = WithChecksum(block);
   cut.pop_back();
-  handset.Expect(95, 0x81, "00 00").Answer(95, 1, cut);
-  EXPECT_EQ(write(), Result::ChecksumMismatch);
-  GiveItem(pointer, 4);
+  ExpectBlockRead().Answer(95, 1, cut);
+  EXPECT_EQ(Write(), Result::ChecksumMismatch);
   GiveBlock(Bytes(257));
-  EXPECT_EQ(write(), Result::BufferTooSmall);
-  GiveItem(pointer, 4);
-  handset.Expect(95, 0x81, "00 00").Silent();
-  EXPECT_EQ(write(), Result::NoAnswer);
+  EXPECT_EQ(Write(), Result::BufferTooSmall);
+  ExpectBlockRead().Silent();
+  EXPECT_EQ(Write(), Result::NoAnswer);
 }
 
-TEST_F(SerialNumber, PassesTheWritesCodeOn) {
-  GiveItem(item, 4);
+TEST_F(SerialNumber, WaitsAsLongAsEachStepIsGiven) {
+  std::uint32_t before = clock.NowMs();
+  const auto waited = [&](Result result, std::uint32_t ms) {
+    EXPECT_EQ(result, Result::NoAnswer);
+    EXPECT_EQ(clock.NowMs() - before, ms);
+    before = clock.NowMs();
+  };
+  ExpectRead(4).Silent();
+  waited(ReadSN(phone, out.Data(), 24), 4000);
+  ExpectRead(4).Answer(13, 0, ItemAnswer(item, 4));
+  ExpectRead(kItemBytes).Silent();
+  waited(Write(), 8000);
   GiveItem(item, kItemBytes);
   ExpectItem(With(item, 8, number)).Silent();
-  const std::uint32_t before = clock.NowMs();
-  EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::NoAnswer);
-  EXPECT_EQ(clock.NowMs() - before, 3000u);
-}
-
-TEST_F(SerialNumber, ReadsWaitAsLongAsEachIsGiven) {
-  GiveItem(item, 4);
+  waited(Write(), 3000);
   ExpectRead(kItemBytes).Silent();
-  const std::uint32_t before = clock.NowMs();
-  EXPECT_EQ(WriteSN(phone, number.data(), 23), Result::NoAnswer);
-  EXPECT_EQ(clock.NowMs() - before, 8000u);
-  ExpectRead(4).Silent();
-  EXPECT_EQ(ReadSN(phone, out.Data(), 24), Result::NoAnswer);
-  ExpectRead(kItemBytes).Silent();
-  EXPECT_EQ(ReadGuid(phone, out.Data()), Result::NoAnswer);
-  EXPECT_EQ(clock.NowMs() - before, 16000u);
+  waited(ReadGuid(phone, out.Data()), 4000);
   EXPECT_TRUE(out.Untouched());
 }
 
 TEST_F(SerialNumber, StandsBesideTheGuid) {
-  GiveItem(item, kItemBytes);
+  ExpectRead(kItemBytes).Answer(13, 0, ItemAnswer(item, kItemBytes));
   EXPECT_EQ(ReadGuid(phone, out.Data()), Result::Success);
   EXPECT_EQ(out.Hex(16), ToHex(std::span(item).subspan(152, 16)));
   EXPECT_TRUE(out.UntouchedFrom(16));
   EXPECT_EQ(LogText().front(), "ReadGuid:");
   ExpectRead(kItemBytes).Answer(13, 0, ItemAnswer(item, 154));
   EXPECT_EQ(ReadGuid(phone, out.Data()), Result::Success);
-  EXPECT_EQ(out.Hex(16), ToHex(std::span(item).subspan(152, 2)) +
-                             " 00 00 00 00 00 00 00 00 00 00"
-                             " 00 00 00 00");
+  EXPECT_EQ(out.Hex(16), ToHex(Joined({item[152], item[153]}, Bytes(14))));
 }
 
 }  // namespace

@@ -14,12 +14,16 @@ struct AtCommand : CommandFixture {
   Exchange& ExpectAt(std::string_view command) {
     return handset.Expect(104, 0, Text(command)).Answer(213, 0, "00");
   }
-  Result SendCollected(std::uint32_t capacity = 64, std::uint32_t timeoutMs = 500) {
-    return commands::SendAtCommand(phone, "AT+X", 0, 1, answer.Data(), capacity, &length,
-                                   timeoutMs);
+  // Answers the request with these frames.
+  void Give(std::string_view command, std::initializer_list<std::string_view> frames) {
+    Exchange& exchange = ExpectAt(command);
+    for (const std::string_view frame : frames) exchange.Answer(156, 0, Text(frame));
   }
-  Result SendFiltered(std::uint32_t capacity = 64, std::uint32_t timeoutMs = 500) {
-    return commands::SendAT(phone, "AT+X\r", 5, answer.Data(), capacity, &length, timeoutMs);
+  Result SendCollected(std::uint32_t capacity = 64) {
+    return commands::SendAtCommand(phone, "AT+X", 0, 1, answer.Data(), capacity, &length, 500);
+  }
+  Result SendFiltered(std::uint32_t capacity = 64) {
+    return commands::SendAT(phone, "AT+X\r", 5, answer.Data(), capacity, &length, 500);
   }
   std::string Answered() { return {answer.Data(), length}; }
 
@@ -49,9 +53,8 @@ TEST_F(AtCommand, RefusesArgumentsWithNothingSentOrLogged) {
     EXPECT_EQ(result, Result::InvalidParam);
     EXPECT_EQ(OperationOf(result), 219u);
   }
-  const Result noRecord = commands::GetCurrCellInfo(phone, nullptr);
-  EXPECT_EQ(noRecord, Result::InvalidParam);
-  EXPECT_EQ(OperationOf(noRecord), 16u);
+  EXPECT_EQ(commands::GetCurrCellInfo(phone, nullptr), Result::InvalidParam);
+  EXPECT_EQ(OperationOf(Result::InvalidParam), 16u);
   EXPECT_THAT(Log(), ElementsAre());
 }
 
@@ -59,55 +62,41 @@ TEST_F(AtCommand, CollectsFramesUntilTheFinalOk) {
   ExpectAt("AT+X\r\n")
       .Answer(156, 0, Text("\r\n+X: OK\r\n1\r\n"))
       .Answer(9, 9)
+      .Answer(156, 2)  // a failed wait does not end the collecting
       .After(400)
+      .Answer(156, 0, Text("a"))
+      .After(450)  // a further frame may take the whole limit
       .Answer(156, 0, Text("\r\nOK\r\n"));
-  const Result result = SendCollected();
-  EXPECT_EQ(result, Result::Success);
-  EXPECT_EQ(OperationOf(result), 15u);
-  EXPECT_EQ(Answered(), "\r\n+X: OK\r\n1\r\n\r\nOK\r\n");
+  EXPECT_EQ(SendCollected(), Result::Success);
+  EXPECT_EQ(OperationOf(Result::Success), 15u);
+  EXPECT_EQ(Answered(), "\r\n+X: OK\r\n1\r\na\r\nOK\r\n");
   EXPECT_TRUE(answer.UntouchedFrom(length));
   EXPECT_THAT(LogText(),
               ElementsAre("SendAtCommand:", "Clear Port Buffer", ResultLine(Result::Success)));
 }
 
 TEST_F(AtCommand, TheEndIsSoughtWithoutTestingAMismatchAgain) {
-  struct Case {
-    const char* text;
-    bool ends;
-  };
-  for (const Case& each : {Case{"\r\nOK\r\n", true}, Case{"OOK\r\n", false}, Case{"OK\r\nx", false},
-                           Case{"OK\r\nOK\r\n", false}, Case{"xOK\r\n", true}, Case{"", false}}) {
-    SCOPED_TRACE(each.text);
-    ExpectAt("AT+X\r\n").Answer(156, 0, Text(each.text));
+  for (const auto& [text, ends] : {std::pair{"\r\nOK\r\n", true},
+                                   {"OOK\r\n", false},
+                                   {"OK\r\nx", false},
+                                   {"OK\r\nOK\r\n", false},
+                                   {"xOK\r\n", true},
+                                   {"", false}}) {
+    SCOPED_TRACE(text);
+    Give("AT+X\r\n", {text});
     const std::uint32_t before = clock.NowMs();
     EXPECT_EQ(SendCollected(), Result::Success);
-    EXPECT_EQ(Answered(), each.text);
-    EXPECT_EQ(clock.NowMs() - before < 500, each.ends);
+    EXPECT_EQ(Answered(), text);
+    EXPECT_EQ(clock.NowMs() - before < 500, ends);
   }
 }
 
-TEST_F(AtCommand, OneFurtherFrameMayTakeTheWholeLimit) {
-  ExpectAt("AT+X\r\n")
-      .After(400)
-      .Answer(156, 0, Text("a"))
-      .After(450)
-      .Answer(156, 0, Text("OK\r\n"));
-  EXPECT_EQ(SendCollected(), Result::Success);
-  EXPECT_EQ(Answered(), "aOK\r\n");
-}
-
-TEST_F(AtCommand, AFailedWaitDoesNotEndTheCollecting) {
-  ExpectAt("AT+X\r\n").Answer(156, 2).Answer(156, 0, Text("OK\r\n"));
-  EXPECT_EQ(SendCollected(), Result::Success);
-  EXPECT_EQ(Answered(), "OK\r\n");
-}
-
 TEST_F(AtCommand, AnAnswerThatDoesNotFitGivesWhatFitted) {
-  ExpectAt("AT+X\r\n").Answer(156, 0, Text("1234")).Answer(156, 0, Text("5678"));
+  Give("AT+X\r\n", {"1234", "5678"});
   EXPECT_EQ(SendCollected(7), Result::BufferTooSmall);
   EXPECT_EQ(Answered(), "1234");
   EXPECT_TRUE(answer.UntouchedFrom(4));
-  ExpectAt("AT+X\r").Answer(156, 0, Text("1234\r\n")).Answer(156, 0, Text("5678\r\n"));
+  Give("AT+X\r", {"1234\r\n", "5678\r\n"});
   EXPECT_EQ(SendFiltered(7), Result::BufferTooSmall);
   EXPECT_EQ(Answered(), "1234");
   EXPECT_TRUE(answer.UntouchedFrom(4));
@@ -146,39 +135,30 @@ TEST_F(AtCommand, OnlyTheAcknowledgementIsAwaitedWhenNothingElseIsAskedFor) {
 }
 
 TEST_F(AtCommand, TheFilteredAnswerHasNoLineEndsAndNoFinalFrame) {
-  ExpectAt("AT+X\r")
-      .Answer(156, 0, Text("\r\n+X: 1\r\n"))
-      .Answer(156, 0, Text(std::string_view("2\0three", 7)))
-      .Answer(156, 0, Text("rest\r\nOK\r\n"));
-  const Result result = SendFiltered();
-  EXPECT_EQ(result, Result::Success);
-  EXPECT_EQ(OperationOf(result), 219u);
+  using namespace std::string_view_literals;
+  Give("AT+X\r", {"\r\n+X: 1\r\n", "2\0three"sv, "rest\r\nOK\r\n"});
+  EXPECT_EQ(SendFiltered(), Result::Success);
+  EXPECT_EQ(OperationOf(Result::Success), 219u);
   EXPECT_EQ(Answered(), "+X: 12");
   EXPECT_TRUE(answer.UntouchedFrom(length));
   EXPECT_THAT(LogText(), ElementsAre("SendAT:", "Clear Port Buffer", ResultLine(Result::Success)));
-}
-
-TEST_F(AtCommand, APromptEndsTheFilteredAnswer) {
-  ExpectAt("AT+X\r").Answer(156, 0, Text(">"));
+  // A prompt ends it too.
+  Give("AT+X\r", {">"});
   EXPECT_EQ(SendFiltered(), Result::Success);
   EXPECT_EQ(length, 0u);
 }
 
 TEST_F(AtCommand, TheServingCellReadsAsManyNumbersAsThereAre) {
   GuardedBuffer<QV_CELL_INFO> cell;
-  ExpectAt("AT+CCED=0,1\r\n").Answer(156, 0, Text("\r\n+CCED:1,-2,3\r\nOK\r\n"));
-  const Result result = commands::GetCurrCellInfo(phone, cell.Data());
-  EXPECT_EQ(result, Result::Success);
+  Give("AT+CCED=0,1\r\n", {"ERROR\r\nOK\r\n"});
+  EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::NoUsefulData);
+  EXPECT_TRUE(cell.Untouched());
+  static_cast<void>(Log());
+  Give("AT+CCED=0,1\r\n", {"\r\n+CCED:1,-2,3\r\nOK\r\n"});
+  EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::Success);
   EXPECT_THAT(cell[0].values, ElementsAre(1, -2, 3, 0, 0, 0, 0, 0));
   EXPECT_THAT(LogText(),
               ElementsAre("SendAtCommand:", "Clear Port Buffer", ResultLine(Result::Success)));
-}
-
-TEST_F(AtCommand, AnAnswerWithoutTheServingCellGivesThirtyOne) {
-  GuardedBuffer<QV_CELL_INFO> cell;
-  ExpectAt("AT+CCED=0,1\r\n").Answer(156, 0, Text("ERROR\r\nOK\r\n"));
-  EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::NoUsefulData);
-  EXPECT_TRUE(cell.Untouched());
 }
 
 }  // namespace
