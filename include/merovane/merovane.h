@@ -140,7 +140,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
  * @param data        the frame's 8-byte header, as received
  * @param capacity    bytes at `data`, above 0
  * @param length      bytes stored, at most 8
- * @param timeout_ms  above 0
+ * @param timeout_ms  0: nothing is read
  * @return 0; 4; 31 when no start frame came in time */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
     uint8_t *data, uint32_t capacity, uint32_t *length, uint32_t timeout_ms);
@@ -153,7 +153,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_t mode);
 
 /** QV_RecvPhoneStartData, then QV_SetPhoneStartMode.
- * @param timeout_ms  of the wait for the start frame, above 0
+ * @param timeout_ms  of the wait for the start frame
  * @return as those two */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx(uint32_t mode, uint32_t timeout_ms);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx_MT(

@@ -57,7 +57,7 @@ std::uint32_t CampWord(std::uint32_t first, std::uint32_t second) {
 Result RecvPhoneStartData(Phone& phone, std::uint8_t* data, std::uint32_t capacity,
                           std::uint32_t* length, std::uint32_t timeoutMs) {
   Operation operation(phone, 5);
-  if (!data || capacity == 0 || !length || timeoutMs == 0) return Result::InvalidParam;
+  if (!data || capacity == 0 || !length) return Result::InvalidParam;
   operation.Log("RecvPhoneStartData:");
 
   PhoneLink& link = phone.link;
@@ -96,7 +96,6 @@ Result SetPhoneStartMode(Phone& phone, std::uint32_t mode) {
 
 Result SetPhoneStartModeEx(Phone& phone, std::uint32_t mode, std::uint32_t timeoutMs) {
   Operation operation(phone, 7);
-  if (timeoutMs == 0) return Result::InvalidParam;
   operation.Log("SetPhoneStartModeEx:");
   AnswerBuffer header;
   std::uint32_t length = 0;

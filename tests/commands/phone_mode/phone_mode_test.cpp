@@ -12,8 +12,8 @@ constexpr const char* kBigEndianStart = "7E 00 00 00 00 00 08 FE 01 7E";
 constexpr const char* kLittleEndianStart = "7E 00 00 00 00 08 00 FE 01 7E";
 
 struct StartData : CommandFixture {
-  Result Receive(std::uint32_t capacity = 64) {
-    return RecvPhoneStartData(phone, data.Data(), capacity, &length, 300);
+  Result Receive(std::uint32_t capacity = 64, std::uint32_t timeoutMs = 300) {
+    return RecvPhoneStartData(phone, data.Data(), capacity, &length, timeoutMs);
   }
   GuardedBuffer<std::uint8_t> data{64};
   std::uint32_t length = 77;
@@ -50,7 +50,13 @@ TEST_F(StartData, ThatDoesNotComeEndsByTheLimit) {
     EXPECT_EQ(clock.NowMs() - before, 300u);
   };
   receivesNone();
-  EXPECT_THAT(Log(), ElementsAre("RecvPhoneStartData:", ResultLine(Result::NoUsefulData)));
+  const std::string noneCame = ResultLine(Result::NoUsefulData);
+  EXPECT_THAT(Log(), ElementsAre("RecvPhoneStartData:", noneCame));
+  // A limit of 0 is over at once.
+  EXPECT_EQ(Receive(64, 0), Result::NoUsefulData);
+  EXPECT_EQ(SetPhoneStartModeEx(phone, 1, 0), Result::NoUsefulData);
+  EXPECT_THAT(Log(), ElementsAre("RecvPhoneStartData:", noneCame, "SetPhoneStartModeEx:",
+                                 "RecvPhoneStartData:", noneCame, noneCame));
   handset.SayRaw(kLittleEndianStart);
   receivesNone();
   SetByteOrder(false);
@@ -92,8 +98,6 @@ TEST_F(PhoneMode, RefusedArgumentsAreReportedUnderTheirCommandAndSendNothing) {
   refused(5, RecvPhoneStartData(phone, nullptr, 8, &length, 10));
   refused(5, RecvPhoneStartData(phone, buffer, 0, &length, 10));
   refused(5, RecvPhoneStartData(phone, buffer, 8, nullptr, 10));
-  refused(5, RecvPhoneStartData(phone, buffer, 8, &length, 0));
-  refused(7, SetPhoneStartModeEx(phone, 1, 0));
   refused(10, UsbChangePhoneMode(phone, 1, nullptr));
   refused(10, UsbChangeModeAndSetCampParam(phone, 1, 0x1F, 0x5A3, nullptr));
   refused(11, RestartPhone(phone, 0));
