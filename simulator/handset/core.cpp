@@ -21,6 +21,8 @@ constexpr milliseconds kDrainLimit{2000};
 // From the last byte of an answer to the fall: a station must get the chance to read it.
 constexpr milliseconds kRestartDelay{100};
 constexpr milliseconds kPortRetry{100};
+// A handset without time of its own still leaves some to the machine.
+constexpr milliseconds kShortestTask{1};
 constexpr size_t kTranscriptPayloadBytes = 64;
 
 std::string Describe(const char* direction, const Frame& frame) {
@@ -78,48 +80,37 @@ void Core::SetUp() {
   portPresent_ = true;
   address_ = transport_->Address();
   PowerUp(options_.startMode);
-  running_ = true;
 }
 
 void Core::Start() {
   std::lock_guard lock(lifecycle_);
+  if (std::exchange(startedOnce_, true)) throw std::logic_error("a handset starts only once");
   SetUp();
   thread_ = std::thread([this] {
     ownThread_ = std::this_thread::get_id();
     auto work = asio::make_work_guard(io_);
     io_.run();
   });
-}
-
-void Core::Run() {
-  {
-    std::lock_guard lock(lifecycle_);
-    SetUp();
-    ownThread_ = std::this_thread::get_id();
-  }
-  auto work = asio::make_work_guard(io_);
-  io_.run();
-  ownThread_ = std::thread::id();
-  transport_.reset();
+  running_ = true;
 }
 
 void Core::Stop() {
   std::lock_guard lock(lifecycle_);
   if (!std::exchange(running_, false)) return;
   io_.stop();
-  if (!thread_.joinable()) return;
   thread_.join();
   ownThread_ = std::thread::id();
   transport_.reset();
 }
 
-void Core::Invoke(const std::function<void()>& function) {
+void Core::Invoke(const std::function<void()>& function, WhenStopped whenStopped) {
   if (ownThread_ == std::this_thread::get_id()) {
     function();
     return;
   }
   std::lock_guard lock(lifecycle_);
   if (!running_) {
+    if (whenStopped == WhenStopped::Throw) throw std::logic_error("not running");
     function();
     return;
   }
@@ -361,7 +352,8 @@ void Core::Send(const Frame& frame, milliseconds delay, bool unsolicited) {
 // --- time and notes
 
 void Core::After(milliseconds delay, std::function<void()> task) {
-  Later(Scaled(delay), [this, task = std::move(task), boot = boot_] {
+  Clock::duration scaled = std::max<Clock::duration>(Scaled(delay), kShortestTask);
+  Later(scaled, [this, task = std::move(task), boot = boot_] {
     if (boot != boot_) return;
     task();
     SaveFlash();

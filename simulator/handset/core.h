@@ -31,10 +31,11 @@ class Core final : public Firmware {
   ~Core();
 
   void Start();
-  void Run();
   void Stop();
-  // On the handset's thread, waiting for it; directly when it does not run or is the caller.
-  void Invoke(const std::function<void()>& function);
+  // On the handset's thread, waiting for it; directly when that is the caller. A handset that
+  // does not run calls it directly too, or throws std::logic_error.
+  enum class WhenStopped { Call, Throw };
+  void Invoke(const std::function<void()>& function, WhenStopped whenStopped);
 
   const std::string& Address() const { return address_; }
   HandsetState State() const;
@@ -117,6 +118,7 @@ class Core final : public Firmware {
   HandsetState state_;
 
   std::mutex lifecycle_;
+  bool startedOnce_ = false;
   bool running_ = false;
   std::atomic<std::thread::id> ownThread_{};
   std::thread thread_;

@@ -23,16 +23,20 @@ Handset::~Handset() = default;
 template <typename Function>
 auto Handset::OnOwnThread(Function function) const {
   if constexpr (std::is_void_v<decltype(function())>) {
-    core_->Invoke(function);
+    core_->Invoke(function, Core::WhenStopped::Call);
   } else {
     decltype(function()) result{};
-    core_->Invoke([&] { result = function(); });
+    core_->Invoke([&] { result = function(); }, Core::WhenStopped::Call);
     return result;
   }
 }
 
+template <typename Function>
+void Handset::WhileRunning(Function function) const {
+  core_->Invoke(function, Core::WhenStopped::Throw);
+}
+
 void Handset::Start() { core_->Start(); }
-void Handset::Run() { core_->Run(); }
 void Handset::Stop() { core_->Stop(); }
 
 std::string Handset::DevicePath() const {
@@ -115,11 +119,11 @@ void Handset::ClearScripts() {
 }
 
 void Handset::SendFrame(uint8_t type, uint8_t subtype, Bytes payload) {
-  OnOwnThread([&] { core_->Play(Reply::Answer(type, subtype, std::move(payload))); });
+  WhileRunning([&] { core_->Play(Reply::Answer(type, subtype, std::move(payload))); });
 }
 
 void Handset::SendRaw(Bytes bytes, size_t pieceBytes, std::chrono::milliseconds gap) {
-  OnOwnThread([&] { core_->Play(Reply::Raw(std::move(bytes)).InPieces(pieceBytes, gap)); });
+  WhileRunning([&] { core_->Play(Reply::Raw(std::move(bytes)).InPieces(pieceBytes, gap)); });
 }
 
 void Handset::SetFault(const std::string& text) {
@@ -128,27 +132,27 @@ void Handset::SetFault(const std::string& text) {
 
 void Handset::Assert(uint8_t kind) {
   if (kind > kLastAssertKind) throw std::invalid_argument("assert kinds are 0 to 2");
-  OnOwnThread([&] { core_->Report(kAssertType, kind, ToBytes("assert in layer1.c line 271")); });
+  WhileRunning([&] { core_->Report(kAssertType, kind, ToBytes("assert in layer1.c line 271")); });
 }
 
 void Handset::Restart() {
-  OnOwnThread([&] { core_->Restart(core_->Options().startMode, core_->Options().portVanishes); });
+  WhileRunning([&] { core_->Restart(core_->Options().startMode, core_->Options().portVanishes); });
 }
 
 void Handset::VanishPort(std::chrono::milliseconds absence) {
-  OnOwnThread([&] { core_->VanishPort(absence); });
+  WhileRunning([&] { core_->VanishPort(absence); });
 }
 
 void Handset::UnplugPort() {
-  OnOwnThread([&] { core_->VanishPort({}); });
+  WhileRunning([&] { core_->VanishPort({}); });
 }
 
 void Handset::PlugPort() {
-  OnOwnThread([&] { core_->PlugPort(); });
+  WhileRunning([&] { core_->PlugPort(); });
 }
 
 void Handset::Disconnect() {
-  OnOwnThread([&] { core_->CutConnection(); });
+  WhileRunning([&] { core_->CutConnection(); });
 }
 
 }  // namespace handset

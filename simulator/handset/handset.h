@@ -28,8 +28,9 @@ struct HandsetState {
 //   Handset phone({.startMode = 1});
 //   phone.Start();
 //   setenv("CASSORIND_COM5", phone.DevicePath().c_str(), 1);
-// Everything but Start, Run and Stop may be called from any thread at any time, also from within
-// a scripted answer.
+// Everything but Start and Stop may be called from any thread at any time, also from within a
+// scripted answer. What needs a handset that is on (SendFrame, SendRaw, Assert, Restart and all
+// that is done to the port) throws std::logic_error before Start and after Stop.
 class Handset {
  public:
   explicit Handset(HandsetOptions options);
@@ -38,10 +39,8 @@ class Handset {
   ~Handset();
 
   // Switches the handset on, on a thread of its own; the port is there when this returns. Throws
-  // std::runtime_error when it cannot be.
+  // std::runtime_error when it cannot be. A handset starts only once: std::logic_error afterwards.
   void Start();
-  // The same on the calling thread, until another one calls Stop.
-  void Run();
   void Stop();
 
   // What a station opens: a device path, or "socket://host:port". Stays the same when the port
@@ -105,6 +104,8 @@ class Handset {
  private:
   template <typename Function>
   auto OnOwnThread(Function function) const;
+  template <typename Function>
+  void WhileRunning(Function function) const;
 
   std::unique_ptr<Core> core_;
 };

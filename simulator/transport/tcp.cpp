@@ -32,6 +32,9 @@ class TcpPort final : public Transport {
       acceptor_.bind(endpoint);
       acceptor_.listen();
     } catch (const std::system_error& error) {
+      // An acceptor that is open already could not be tried again.
+      asio::error_code ignored;
+      acceptor_.close(ignored);
       throw std::runtime_error("cannot listen on " + Address() + ": " + error.what());
     }
     port_ = acceptor_.local_endpoint().port();

@@ -23,6 +23,7 @@ using asio::posix::stream_descriptor;
 
 // The system tells when a station lets go of a pseudo-terminal, but not when one takes it.
 constexpr std::chrono::milliseconds kLookForStation{5};
+constexpr std::chrono::milliseconds kRetry{100};
 
 [[noreturn]] void Fail(const char* step) {
   throw std::runtime_error(std::string("cannot make a pseudo-terminal: ") + step + ": " +
@@ -65,7 +66,7 @@ class StationEnd {
 class PtyPort final : public Transport {
  public:
   PtyPort(asio::io_context& io, const HandsetOptions& options, TransportEvents events)
-      : io_(io), look_(io), link_(options.link), events_(std::move(events)) {}
+      : io_(io), timer_(io), link_(options.link), events_(std::move(events)) {}
 
   ~PtyPort() override {
     if (pump_) pump_->Close();
@@ -79,17 +80,18 @@ class PtyPort final : public Transport {
     char name[64];
     if (ptsname_r(fd, name, sizeof name) != 0) Fail("name");
     if (!StationEnd(name).MakeRaw()) Fail("set raw");
+    link_.PointTo(name);
     device_ = name;
     pump_ = std::make_shared<StreamPump<stream_descriptor>>(
         std::move(master), [this](auto bytes) { events_.received(bytes); },
         [this] { StationLeft(); });
-    link_.PointTo(device_);
     LookForStation();
   }
 
   void Vanish() override {
     link_.Remove();
-    look_.cancel();
+    timer_.cancel();
+    lost_ = false;
     if (pump_) std::exchange(pump_, nullptr)->Close();
     SetConnected(false);
   }
@@ -118,8 +120,8 @@ class PtyPort final : public Transport {
       pump_->Read();
       return;
     }
-    look_.expires_after(kLookForStation);
-    look_.async_wait([this](const asio::error_code& error) {
+    timer_.expires_after(kLookForStation);
+    timer_.async_wait([this](const asio::error_code& error) {
       if (!error && pump_) LookForStation();
     });
   }
@@ -127,16 +129,36 @@ class PtyPort final : public Transport {
   void StationLeft() {
     SetConnected(false);
     pump_->DropBacklog();
-    StationEnd end(device_);
-    if (!end.IsOpen()) {
-      // A station that died with the device in exclusive mode leaves it locked for good.
-      std::exchange(pump_, nullptr)->Close();
-      Appear();
+    if (DropUnread()) {
+      LookForStation();
       return;
     }
-    // What nobody read must not greet the next station.
+    // A station that died with the device in exclusive mode leaves it locked for good.
+    std::exchange(pump_, nullptr)->Close();
+    lost_ = true;
+    Replace();
+  }
+
+  // What nobody read must not greet the next station. The end is let go of before anyone looks
+  // for that one.
+  bool DropUnread() const {
+    const StationEnd end(device_);
     end.DropUnread();
-    LookForStation();
+    return end.IsOpen();
+  }
+
+  // Another device under the same link, as soon as the system has one.
+  void Replace() {
+    try {
+      Appear();
+      lost_ = false;
+    } catch (const std::runtime_error&) {
+      link_.Remove();
+      timer_.expires_after(kRetry);
+      timer_.async_wait([this](const asio::error_code& error) {
+        if (!error && lost_) Replace();
+      });
+    }
   }
 
   void SetConnected(bool connected) {
@@ -144,12 +166,13 @@ class PtyPort final : public Transport {
   }
 
   asio::io_context& io_;
-  asio::steady_timer look_;
+  asio::steady_timer timer_;
   LinkFile link_;
   TransportEvents events_;
   std::string device_;
   std::shared_ptr<StreamPump<stream_descriptor>> pump_;
   bool connected_ = false;
+  bool lost_ = false;  // the device is to be replaced
 };
 
 }  // namespace

@@ -1,0 +1,81 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <functional>
+#include <stdexcept>
+#include <string>
+
+#include "handset/handset.h"
+#include "simulator/station.h"
+
+namespace {
+
+using handset::Handset;
+using handset::HandsetOptions;
+using handset::HandsetState;
+using handset::TransportKind;
+using station::kPatience;
+using station::Station;
+
+HandsetOptions Running(TransportKind transport = TransportKind::Pty, uint16_t tcpPort = 0) {
+  HandsetOptions options;
+  options.transport = transport;
+  options.tcpPort = tcpPort;
+  options.startMode = 1;
+  return options;
+}
+
+TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
+  std::atomic<int> came{0};
+  std::atomic<int> gone{0};
+  HandsetOptions options = Running();
+  options.transcript = [&](const std::string& line) {
+    came += line.ends_with("station connected");
+    gone += line.ends_with("station gone");
+  };
+  Handset phone(options);
+  phone.Start();
+  for (int stations = 1; stations <= 2; ++stations) {
+    EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+    ASSERT_TRUE(
+        phone.WaitForState([](const HandsetState& s) { return !s.stationConnected; }, kPatience));
+    phone.State();  // Behind whatever the departure set off.
+    EXPECT_EQ(came, stations);
+    EXPECT_EQ(gone, stations);
+  }
+}
+
+TEST(HandsetLifecycle, ATcpPortThatWasTakenMeanwhileComesBackOnceItIsFree) {
+  Handset phone(Running(TransportKind::Tcp));
+  phone.Start();
+  auto number = static_cast<uint16_t>(std::stoi(phone.Address().substr(10)));
+  phone.UnplugPort();
+  Handset other(Running(TransportKind::Tcp, number));
+  other.Start();
+  EXPECT_THROW(phone.PlugPort(), std::runtime_error);
+  other.Stop();
+  phone.PlugPort();
+  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+}
+
+TEST(HandsetLifecycle, OneThatIsNotRunningRefusesWhatNeedsItsPort) {
+  Handset phone(Running());
+  const std::function<void()> calls[] = {
+      [&] { phone.SendFrame(28, 0); }, [&] { phone.SendRaw({1, 2}, 1); },
+      [&] { phone.Assert(0); },        [&] { phone.Restart(); },
+      [&] { phone.UnplugPort(); },     [&] { phone.PlugPort(); },
+      [&] { phone.Disconnect(); },     [&] { phone.VanishPort(std::chrono::milliseconds(1)); }};
+  for (const auto& call : calls) EXPECT_THROW(call(), std::logic_error);
+
+  phone.Store("item", {1});
+  EXPECT_EQ(phone.Status("power"), "off");
+  phone.Start();
+  EXPECT_THROW(phone.Start(), std::logic_error);
+  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0)) << "the second start changed nothing";
+  phone.Stop();
+  for (const auto& call : calls) EXPECT_THROW(call(), std::logic_error);
+  EXPECT_THROW(phone.Start(), std::logic_error);
+  EXPECT_EQ(phone.Stored("item"), handset::Bytes{1});
+}
+
+}  // namespace
