@@ -138,7 +138,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
 
 /** Waits for the frame that a handset sends while it boots.
  * @param data        the frame's 8-byte header, as received
- * @param capacity    bytes at `data`, above 0
+ * @param capacity    bytes at `data`, 1 to 2147483647
  * @param length      bytes stored, at most 8
  * @param timeout_ms  0: nothing is read
  * @return 0; 4; 31 when no start frame came in time */
@@ -147,7 +147,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
     int32_t port, uint8_t *data, uint32_t capacity, uint32_t *length, uint32_t timeout_ms);
 
-/** Puts a handset that has sent its start frame into a mode; waits 4000 ms for its acknowledgement.
+/** Puts a handset that has sent its start frame into a mode; waits 4000 ms for its acknowledgement,
+ * not lengthened by the setting.
  * @param mode  0 to 127; 128 is added, and the sum sent in 8 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_t mode);
@@ -202,13 +203,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone_MT(int32_t port, uint32_t tim
 /** Reads the handset's mode; 1000 ms.
  * @param data      the answer's payload, cut to `capacity`. Byte 3, where there is one, is
  *   turned into a start mode code (0x80 to 0x8F)
- * @param capacity  bytes at `data`, above 0 */
+ * @param capacity  bytes at `data`, 1 to 2147483647 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode(uint8_t *data, uint32_t capacity);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(int32_t port, uint8_t *data, uint32_t capacity);
 
 /** Takes the next whole frame of any type, unescaped, header included.
  * @param data    the frame, cut to the capacity
- * @param length  in: bytes at `data`; out: bytes stored
+ * @param length  in: bytes at `data`, 1 to 2147483647; out: bytes stored
  * @return 0; 4; 5 when the frame was cut; 9 when no whole frame came in time */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read(uint8_t *data, uint32_t *length, uint32_t timeout_ms);
 MEROVANE_API int32_t MEROVANE_CALL QV_Read_MT(
@@ -225,9 +226,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Write_MT(int32_t port, const uint8_t *data
  * @param command_length  not used
  * @param wait            0: only the acknowledgement (1000 ms) is awaited, and the next three may be null
  * @param answer          the answer's text, without a terminating zero
- * @param capacity        bytes at `answer`
+ * @param capacity        bytes at `answer`, 1 to 2147483647
  * @param answer_length   bytes stored
- * @param timeout_ms      of the answer, above 0; one further frame is waited for as long
+ * @param timeout_ms      of the answer, above 0, not lengthened by the setting; one further frame is waited for as long
  * @return 0, also when time ran out behind part of an answer; 4; 5 when the answer does not fit (what fitted is
  *   there); 6 when none came */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand(
@@ -240,8 +241,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
 /** Sends AT command bytes as they are and collects the lines before "OK", line ends removed; a prompt ">" ends it too.
  * @param length         of the command, 1 to 9216
  * @param answer         text before the frame with the "OK", without a terminating zero; null: only the
- *   acknowledgement is awaited
+ *   acknowledgement (1000 ms) is awaited
+ * @param capacity       bytes at `answer`, 1 to 2147483647 unless `answer` or `answer_length` is null
  * @param answer_length  bytes stored; null as `answer`
+ * @param timeout_ms     of the answer, above 0, not lengthened by the setting; one further frame is waited for as long
  * @return 0; 4; 5 when the answer does not fit; 6 when no "OK" came */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
     const char *command, uint32_t length, char *answer, uint32_t capacity, uint32_t *answer_length,
@@ -276,7 +279,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash_MT(
     uint32_t timeout_ms);
 
 /** Writes a production flash item from its start.
- * @param length      bytes at `data`, 1 to 65535
+ * @param length      bytes at `data`, 1 to 65523
  * @param timeout_ms  of the acknowledgement; 0: 4000
  * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
@@ -293,7 +296,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash_MT(int32_t port, uint32_t timeo
 /** Reads an NV item.
  * @param item         the item's id
  * @param data         the item's bytes, as the handset holds them
- * @param capacity     bytes at `data`, above 0
+ * @param capacity     bytes at `data`, 1 to 2147483647
  * @param data_length  bytes stored; not written when the exchange failed
  * @param timeout_ms   of the answer
  * @return 0; 4; 5 when the item is longer than `capacity` (its start is there). An answer without an item id
@@ -305,8 +308,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv_MT(
     uint32_t timeout_ms);
 
 /** Writes an NV item; 1000 ms.
- * @param length  bytes at `data`
- * @return 0; 4 when `data` is null */
+ * @param length  bytes at `data`, 0 to 65525
+ * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(uint16_t item, const uint8_t *data, uint32_t length);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
     int32_t port, uint16_t item, const uint8_t *data, uint32_t length);
@@ -314,7 +317,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
 /** Reads a part of an NV item; 2000 ms. Nothing but the frames goes to the Useful log.
  * @param offset       of the part in the item
  * @param length       of the part; cut to `capacity` without an error
- * @param capacity     bytes at `data`, above 0
+ * @param capacity     bytes at `data`, 1 to 2147483647
  * @param data_length  bytes stored; written on success only
  * @return 0; 4 for a null pointer or no capacity, and, behind the exchange, for a part that ends more than 2 bytes
  *   behind the item. Bytes behind the item read as 0 */
@@ -334,7 +337,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister_MT(
     int32_t port, uint32_t access_width, uint32_t address, uint8_t *data, uint32_t count);
 
 /** Writes registers; 1000 ms. Arguments as QV_ReadRegister.
- * @param data  `count` units, in the handset's byte order
+ * @param data   `count` units, in the handset's byte order
+ * @param count  of units, above 0; at most 65511 bytes
  * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister(
     uint32_t access_width, uint32_t address, const uint8_t *data, uint32_t count);
@@ -372,7 +376,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(int32_t port, QV_FLASH_INF
 
 /** Reads the software version's text; 1000 ms.
  * @param version   as it arrived: terminated by a zero only when the handset sends one, so clear it before
- * @param capacity  bytes at `version`, above 0; a longer text is cut without an error
+ * @param capacity  bytes at `version`, 1 to 2147483647; a longer text is cut without an error
  * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(char *version, uint32_t capacity);
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
@@ -437,7 +441,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(int32_t port, QV_FIXED_N
  * item begins with the block's magic. 4000 ms for each of two reads (3000 for the block), whose lines and
  * operation ids are those of QV_ReadFlash and QV_FastReadProduct.
  * @param serial_number  24 bytes, padded with zeros
- * @param capacity       bytes at `serial_number`, above 0
+ * @param capacity       bytes at `serial_number`, 1 to 2147483647
  * @return 0; 4; 5 when it was cut to `capacity`, or when the production block has more than 256 bytes (then nothing
  *   is stored); else the code of the read that failed */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(uint8_t *serial_number, uint32_t capacity);
@@ -472,16 +476,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(uint8_t *guid);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(int32_t port, uint8_t *guid);
 
 /** Writes the production block and its checksum; 3000 ms.
- * @param length  bytes at `block`, 256 in handsets that keep their serial numbers there
- * @return 0; 4 when `block` is null */
+ * @param length  bytes at `block`, at most 65525; 256 in handsets that keep their serial numbers there
+ * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(const uint8_t *block, uint32_t length);
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct_MT(
     int32_t port, const uint8_t *block, uint32_t length);
 
 /** Reads the production block; 3000 ms.
  * @param block     as the handset holds it, without its checksum
- * @param capacity  bytes at `block`, above 0 and all writable
- * @param length    of the whole block, also when it was cut; 0 on failure
+ * @param capacity  bytes at `block`, 1 to 2147483647 and all writable
+ * @param length    of the whole block, also when it was cut; as it was with code 4, 0 with all other failures
  * @return 0; 4; 5 when it was cut to `capacity`; 13 for an answer below 2 bytes; 34 when its checksum does not match,
  *   as that of a block above 998 bytes does not */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(

@@ -49,7 +49,7 @@ Result SendAtCommand(Phone& phone, const char* command, std::uint32_t, std::uint
                      std::uint32_t timeoutMs) {
   Operation operation(phone, 15);
   if (!command || timeoutMs == 0) return Result::InvalidParam;
-  if (wait && (!answer || capacity == 0 || !answerLength)) return Result::InvalidParam;
+  if (wait && (!answer || !IsCapacity(capacity) || !answerLength)) return Result::InvalidParam;
   const std::size_t commandBytes = ::strnlen(command, kMaxCommandBytes);
   if (commandBytes + 2 > kMaxCommandBytes) return Result::InvalidParam;
   operation.Log("SendAtCommand:");
@@ -84,10 +84,12 @@ Result SendAT(Phone& phone, const char* command, std::uint32_t length, char* ans
   Operation operation(phone, 219);
   if (!command || length == 0 || length > kMaxCommandBytes || timeoutMs == 0)
     return Result::InvalidParam;
+  const bool wantsAnswer = answer && answerLength;
+  if (wantsAnswer && !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("SendAT:");
 
   Result result = SendCommand(phone, {command, length});
-  if (!answer || !answerLength || !Succeeded(result)) return operation.Finish(result);
+  if (!wantsAnswer || !Succeeded(result)) return operation.Finish(result);
 
   result = Result::NoData;
   std::size_t collected = 0;

@@ -24,6 +24,9 @@ constexpr std::size_t kFlashHeaderBytes = 4;
 constexpr std::size_t kNvHeaderBytes = 2;
 // The header's length field has 16 bits; a longer request would ask for something else.
 constexpr std::uint32_t kMaxFlashBytes = 0xFFFF;
+// What fits into one frame with the header.
+constexpr std::size_t kMaxFlashWriteBytes = kMaxPayloadBytes - kFlashHeaderBytes;
+constexpr std::size_t kMaxNvWriteBytes = kMaxPayloadBytes - kNvHeaderBytes;
 
 std::array<std::uint8_t, kFlashHeaderBytes> FlashHeader(std::uint16_t item, std::uint32_t length) {
   std::array<std::uint8_t, kFlashHeaderBytes> header;
@@ -75,7 +78,7 @@ Result ReadFlash(Phone& phone, std::uint16_t item, std::uint8_t* data, std::int3
 Result WriteFlash(Phone& phone, std::uint16_t item, const std::uint8_t* data, std::uint32_t length,
                   std::uint32_t timeoutMs) {
   Operation operation(phone, 24);
-  if (!data || length == 0 || length > kMaxFlashBytes) return Result::InvalidParam;
+  if (!data || length == 0 || length > kMaxFlashWriteBytes) return Result::InvalidParam;
   operation.Log("WriteFlash:");
   const auto request = Joined(FlashHeader(item, length), data, length);
   const std::uint32_t limitMs = timeoutMs == 0 ? 4000 : timeoutMs;
@@ -92,7 +95,7 @@ Result EraseFlash(Phone& phone, std::uint32_t timeoutMs) {
 Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_t capacity,
               std::uint32_t* dataLength, std::uint32_t timeoutMs) {
   Operation operation(phone, 220);
-  if (!data || capacity == 0 || !dataLength) return Result::InvalidParam;
+  if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
   operation.Log("ReadNv:");
 
   const Answer answer(phone.link, kReadNv, kAnswer, NvHeader(item), timeoutMs);
@@ -107,7 +110,7 @@ Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_
 
 Result WriteNv(Phone& phone, std::uint16_t item, const std::uint8_t* data, std::uint32_t length) {
   Operation operation(phone, 221);
-  if (!data) return Result::InvalidParam;
+  if (!data || length > kMaxNvWriteBytes) return Result::InvalidParam;
   operation.Log("WriteNv:");
   const auto request = Joined(NvHeader(item), data, length);
   return operation.Finish(Answer(phone.link, kWriteNv, kAnswer, request, 1000).result);
@@ -118,7 +121,7 @@ Result ReadNvFromHandset(Phone& phone, std::uint16_t item, std::uint32_t offset,
                          std::uint32_t* dataLength) {
   // A step of larger work: neither its name nor its result is logged.
   const Operation operation(phone, 47);
-  if (!data || capacity == 0 || !dataLength) return Result::InvalidParam;
+  if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
 
   const Answer answer(phone.link, kReadNv, kAnswer, NvHeader(item), 2000);
   if (!answer) return answer.result;

@@ -83,7 +83,7 @@ Result GetFlashInfo(Phone& phone, QV_FLASH_INFO* info) {
 
 Result GetMSVersion(Phone& phone, char* version, std::uint32_t capacity) {
   Operation operation(phone, 22);
-  if (!version || capacity == 0) return Result::InvalidParam;
+  if (!version || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("GetMSVersion:");
   const Answer answer(phone.link, {0, 0}, {}, 1000);
   const auto text = answer.Payload();

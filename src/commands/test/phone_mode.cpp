@@ -57,7 +57,7 @@ std::uint32_t CampWord(std::uint32_t first, std::uint32_t second) {
 Result RecvPhoneStartData(Phone& phone, std::uint8_t* data, std::uint32_t capacity,
                           std::uint32_t* length, std::uint32_t timeoutMs) {
   Operation operation(phone, 5);
-  if (!data || capacity == 0 || !length) return Result::InvalidParam;
+  if (!data || !IsCapacity(capacity) || !length) return Result::InvalidParam;
   operation.Log("RecvPhoneStartData:");
 
   PhoneLink& link = phone.link;
@@ -156,7 +156,7 @@ Result RestartPhone(Phone& phone, std::uint32_t timeoutMs) {
 
 Result ReadMode(Phone& phone, std::uint8_t* data, std::uint32_t capacity) {
   Operation operation(phone, 12);
-  if (!data || capacity == 0) return Result::InvalidParam;
+  if (!data || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("ReadMode:");
   std::uint32_t length = 0;
   const Result result =
@@ -176,7 +176,7 @@ Result EnterDeepSleepMode(Phone& phone) {
 
 Result Read(Phone& phone, std::uint8_t* data, std::uint32_t* length, std::uint32_t timeoutMs) {
   Operation operation(phone, 13);
-  if (!data || !length || *length == 0 || timeoutMs == 0) return Result::InvalidParam;
+  if (!data || !length || !IsCapacity(*length) || timeoutMs == 0) return Result::InvalidParam;
   std::uint32_t received = 0;
   const Result result = phone.link.ReceiveFrame({data, *length}, received, timeoutMs);
   *length = received;

@@ -24,7 +24,7 @@ constexpr std::size_t kMaxAnswerBytes = 1000;
 Result ReadBlock(Phone& phone, std::uint8_t type, std::uint8_t* block, std::uint32_t capacity,
                  std::uint32_t* length) {
   Operation operation(phone, 238);
-  if (!block || capacity == 0 || !length || !platform::IsWritable(block, capacity))
+  if (!block || !IsCapacity(capacity) || !length || !platform::IsWritable(block, capacity))
     return Result::InvalidParam;
   *length = 0;
   // The version block is logged under this name as well.
@@ -47,7 +47,7 @@ Result ReadBlock(Phone& phone, std::uint8_t type, std::uint8_t* block, std::uint
 
 Result FastWriteProduct(Phone& phone, const std::uint8_t* block, std::uint32_t length) {
   Operation operation(phone, 238);
-  if (!block) return Result::InvalidParam;
+  if (!block || length > kMaxPayloadBytes - kChecksumBytes) return Result::InvalidParam;
   operation.Log("Fast Write Production Info:");
   return operation.Finish(phone.link.SendAndWaitSame({kProductType, kAnswerSubtype},
                                                      WithChecksum({block, length}), kTimeoutMs));

@@ -17,6 +17,8 @@ constexpr std::uint16_t kWrite = 0xA004;
 constexpr std::size_t kRequestHeaderBytes = 16;
 // The header's length field counts header and data in 16 bits.
 constexpr std::uint64_t kMaxDataBytes = 0xFFFF - kRequestHeaderBytes;
+// The frame's counts the frame's header as well.
+constexpr std::uint64_t kMaxWriteBytes = kMaxPayloadBytes - kRequestHeaderBytes;
 
 std::uint64_t DataBytes(std::uint32_t accessWidth, std::uint32_t count) {
   const std::uint64_t unitBytes = accessWidth == 0 ? 1 : accessWidth == 1 ? 2 : 4;
@@ -54,7 +56,7 @@ Result WriteRegister(Phone& phone, std::uint32_t accessWidth, std::uint32_t addr
                      const std::uint8_t* data, std::uint32_t count) {
   Operation operation(phone, 30);
   const std::uint64_t bytes = DataBytes(accessWidth, count);
-  if (!data || count == 0 || bytes > kMaxDataBytes) return Result::InvalidParam;
+  if (!data || count == 0 || bytes > kMaxWriteBytes) return Result::InvalidParam;
   operation.Log("WriteRegister:");
   std::vector<std::uint8_t> request(kRequestHeaderBytes + static_cast<std::size_t>(bytes));
   PutHeader(request, kWrite, accessWidth, address, count);

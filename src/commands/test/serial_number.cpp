@@ -60,7 +60,7 @@ Result DeliverField(std::span<const std::uint8_t, kFieldBytes> field, std::uint8
 Result ReadNumber(Phone& phone, std::string_view logName, SerialNumberField field,
                   std::uint8_t* out, std::uint32_t capacity) {
   Operation operation(phone, 26);
-  if (!out || capacity == 0) return Result::InvalidParam;
+  if (!out || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log(logName);
 
   Magic magic;

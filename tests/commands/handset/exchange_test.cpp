@@ -119,25 +119,46 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
     EXPECT_EQ(OperationOf(result), operation);
     settings.errors.BeginOperation(kOperationBefore);
   };
+  std::uint32_t zero = 0;
+  refused(5, RecvPhoneStartData(phone, nullptr, 8, &n, 10));
+  refused(5, RecvPhoneStartData(phone, b, 0, &n, 10));
+  refused(5, RecvPhoneStartData(phone, b, 8, nullptr, 10));
+  refused(5, RecvPhoneStartData(phone, b, 8, &n, 0));
+  refused(7, SetPhoneStartModeEx(phone, 1, 0));
+  refused(10, UsbChangeModeAndSetCampParam(phone, 1, 0x1F, 0x5A3, nullptr));
+  refused(11, RestartPhone(phone, 0));
+  refused(12, ReadMode(phone, b, 0));
+  refused(13, Read(phone, nullptr, &n, 10));
+  refused(13, Read(phone, b, nullptr, 10));
+  refused(13, Read(phone, b, &zero, 10));
+  refused(13, Read(phone, b, &n, 0));
+  refused(14, Write(phone, nullptr, 1));
+  refused(14, Write(phone, b, 0));
+  refused(14, Write(phone, b, -1));
   refused(23, ReadFlash(phone, 1, b, 0, &n, 10));
   refused(23, ReadFlash(phone, 1, b, -1, &n, 10));
   refused(23, ReadFlash(phone, 1, b, 65536, &n, 10));
   refused(23, ReadFlash(phone, 1, b, 4, nullptr, 10));
   refused(24, WriteFlash(phone, 1, b, 0, 10));
-  refused(24, WriteFlash(phone, 1, b, 65536, 10));
+  // One byte more than a frame's length field can tell.
+  refused(24, WriteFlash(phone, 1, b, 65524, 10));
+  refused(221, WriteNv(phone, 1, b, 65526));
+  refused(238, FastWriteProduct(phone, b, 65526));
   refused(25, EraseFlash(phone, 0));
   refused(220, ReadNv(phone, 1, b, 0, &n, 10));
+  refused(220, ReadNv(phone, 1, b, UINT32_MAX, &n, 10));  // -1
   refused(220, ReadNv(phone, 1, b, 4, nullptr, 10));
   refused(47, ReadNvFromHandset(phone, 1, 0, 4, b, 0, &n));
   refused(47, ReadNvFromHandset(phone, 1, 0, 4, b, 4, nullptr));
   refused(29, ReadRegister(phone, 0, 0, b, 0));
   refused(29, ReadRegister(phone, 2, 0, b, 0x40000001));  // 4 bytes in 32 bits
   refused(30, WriteRegister(phone, 0, 0, b, 0));
-  refused(30, WriteRegister(phone, 1, 0, b, 32760));  // 65536 with its header
+  refused(30, WriteRegister(phone, 1, 0, b, 32756));
   refused(42, GetLcdIcDriverID(phone, 0, b, 0, &n));
   refused(42, GetLcdIcDriverID(phone, 0, b, -4, &n));
   refused(42, GetLcdIcDriverID(phone, 0, b, 4, nullptr));
   refused(22, GetMSVersion(phone, text, 0));
+  refused(22, GetMSVersion(phone, text, UINT32_MAX));
   refused(218, Send7310KCommand(phone, 1, nullptr, w, 10));
   refused(236, Recv7310KCommand(phone, 1, nullptr, 10));
   refused(238, NvWriteDirect(phone, nullptr));
@@ -145,6 +166,7 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
   refused(238, FastReadNvInfo(phone, nullptr));
   refused(26, ReadSN(phone, nullptr, 24));
   refused(26, ReadSN2(phone, b, 0));
+  refused(26, ReadSN(phone, b, UINT32_MAX));
   refused(27, WriteSN(phone, nullptr, 4));
   refused(27, WriteSN(phone, b, 0));
   refused(27, WriteSN2(phone, b, 24));
@@ -180,20 +202,28 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
 TEST_F(HandsetCommands, SwitchWithoutAwaitingAnAnswer) {
   using namespace commands;
   const std::uint32_t before = clock.NowMs();
-  const auto turns = [&](std::uint8_t subtype, Result (*turn)(Phone&, std::uint32_t),
-                         std::uint32_t on, const char* logName) {
-    handset.Expect(17, subtype);
-    EXPECT_EQ(turn(phone, on), Result::Success);
+  const auto sends = [&](std::uint8_t type, std::uint8_t subtype, const char* logName,
+                         Result (*command)(Phone&, std::uint32_t), std::uint32_t on) {
+    handset.Expect(type, subtype);
+    EXPECT_EQ(command(phone, on), Result::Success);
     EXPECT_THAT(LogText(), ElementsAreArray(
                                {logName, "Clear Port Buffer", "Error Code = 0 (PC_ERR_SUCCESS)"}));
+    handset.Expect(type, subtype).WriteFails();
+    EXPECT_EQ(command(phone, on), Result::WriteFailed);
+    static_cast<void>(Log());
   };
-  turns(3, LedOn, 1, "LedOn:");
-  turns(0, LedOn, 0, "LedOff:");
-  turns(19, CameraOn, 0, "CameraOff:");
+  sends(17, 3, "LedOn:", LedOn, 1);
+  sends(17, 0, "LedOff:", LedOn, 0);
+  sends(17, 19, "CameraOff:", CameraOn, 0);
   EXPECT_EQ(OperationOf(Result::Success), 46u);
+  sends(2, 4, "EnableArmLog:", EnableArmLog, 1);
+  sends(2, 5, "DisableArmLog:", EnableArmLog, 0);
+  EXPECT_EQ(OperationOf(Result::Success), 8u);
+  sends(
+      17, 2, "EnterDeepSleepMode:", [](Phone& p, std::uint32_t) { return EnterDeepSleepMode(p); },
+      1);
+  EXPECT_EQ(OperationOf(Result::Success), 21u);
   EXPECT_EQ(clock.NowMs(), before);
-  handset.Expect(17, 3).WriteFails();
-  EXPECT_EQ(LedOn(phone, 1), Result::WriteFailed);
 }
 
 }  // namespace

@@ -46,10 +46,11 @@ TEST_F(AtCommand, RefusesArgumentsWithNothingSentOrLogged) {
     EXPECT_EQ(result, Result::InvalidParam);
     EXPECT_EQ(OperationOf(result), 15u);
   }
-  for (const Result result : {SendAT(phone, nullptr, 2, out, 64, &length, 10),
-                              SendAT(phone, "AT", 0, out, 64, &length, 10),
-                              SendAT(phone, "AT", 9217, out, 64, &length, 10),
-                              SendAT(phone, "AT", 2, out, 64, &length, 0)}) {
+  for (const Result result :
+       {SendAT(phone, nullptr, 2, out, 64, &length, 10),
+        SendAT(phone, "AT", 0, out, 64, &length, 10),
+        SendAT(phone, "AT", 9217, out, 64, &length, 10),
+        SendAT(phone, "AT", 2, out, 0, &length, 10), SendAT(phone, "AT", 2, out, 64, &length, 0)}) {
     EXPECT_EQ(result, Result::InvalidParam);
     EXPECT_EQ(OperationOf(result), 219u);
   }
@@ -127,7 +128,7 @@ TEST_F(AtCommand, OnlyTheAcknowledgementIsAwaitedWhenNothingElseIsAskedFor) {
   ExpectAt("AT\r\n");
   EXPECT_EQ(commands::SendAtCommand(phone, "AT", 99, 0, nullptr, 0, nullptr, 10), Result::Success);
   ExpectAt("AT");
-  EXPECT_EQ(commands::SendAT(phone, "AT", 2, nullptr, 64, &length, 10), Result::Success);
+  EXPECT_EQ(commands::SendAT(phone, "AT", 2, nullptr, 0, &length, 10), Result::Success);
   ExpectAt("AT");
   EXPECT_EQ(commands::SendAT(phone, "AT", 2, answer.Data(), 64, nullptr, 10), Result::Success);
   EXPECT_TRUE(answer.Untouched());
