@@ -359,10 +359,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(int32_t port, uint32_t *typ
 
 /** Reads the identification of an LCD's controller; 1000 ms.
  * @param second_lcd  0: the first LCD's; otherwise the second's
- * @param id          as it arrived
+ * @param id          as it arrived, its first 100 bytes at most
  * @param capacity    bytes at `id`, above 0
  * @param length      of the whole identification, also when it was cut
- * @return 0; 4; 5 when it was cut to `capacity` */
+ * @return 0; 4; 5 when it was cut to `capacity` or 100 bytes */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
     uint32_t second_lcd, uint8_t *id, int32_t capacity, uint32_t *length);
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(

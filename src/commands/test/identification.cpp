@@ -14,6 +14,8 @@ namespace {
 
 constexpr std::uint8_t kIdentificationType = 93;
 constexpr std::uint8_t k7310KType = 37;
+// Of an LCD controller's identification; a longer one is cut.
+constexpr std::size_t kMaxLcdIdBytes = 100;
 constexpr std::size_t k7310KWords = 10;
 constexpr std::size_t kShort7310KWords = 3;
 constexpr std::uint32_t kDefault7310KMs = 1000;
@@ -59,7 +61,8 @@ Result GetLcdIcDriverID(Phone& phone, std::uint32_t secondLcd, std::uint8_t* id,
   if (!id || capacity <= 0 || !length) return Result::InvalidParam;
   operation.Log("GetLcdIcDriverID:");
   const FrameId request{kIdentificationType, static_cast<std::uint8_t>(secondLcd ? 3 : 2)};
-  const std::span<std::uint8_t> out(id, static_cast<std::size_t>(capacity));
+  const std::span<std::uint8_t> out(id,
+                                    std::min(static_cast<std::size_t>(capacity), kMaxLcdIdBytes));
   const Result result = phone.link.SendAndWait(request, request, {}, out, length, 1000);
   if (Succeeded(result) && *length > out.size()) return operation.Finish(Result::BufferTooSmall);
   return operation.Finish(result);

@@ -77,6 +77,10 @@ TEST_F(HandsetAnswers, ThatAreTooLongFillTheBufferAndNoMore) {
   EXPECT_EQ(GetLcdIcDriverID(phone, 1, out.Data(), 4, &length), Result::BufferTooSmall);
   EXPECT_EQ(length, 101u);
   ExpectOut("22 22 22 22");
+  GuardedBuffer<std::uint8_t> large(101);
+  Answered(93, 3, 3, Bytes(101, 0x22));
+  EXPECT_EQ(GetLcdIcDriverID(phone, 1, large.Data(), 101, &length), Result::BufferTooSmall);
+  EXPECT_TRUE(large.UntouchedFrom(100));
   Answered(0, 0, 0, Bytes(101, 0x33));
   EXPECT_EQ(GetMSVersion(phone, reinterpret_cast<char*>(out.Data()), 5), Result::Success);
   ExpectOut("33 33 33 33 33");
