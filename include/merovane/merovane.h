@@ -10,7 +10,8 @@
  * Results are the codes of result_codes.h, 0 for success. Besides those named with a command, each
  * that sends can return: 1 the port is not open; 3 the request was not written; 11 no answer in time;
  * 39 the handset refuses the command.
- * Time limits are milliseconds; the setting "Inc Recv Timeout" is added where a command sends first.
+ * Time limits are milliseconds; the setting "Inc Recv Timeout" is added where a command sends first,
+ * except where a function says otherwise.
  * Numbers in buffers are in this machine's byte order unless a function says otherwise; the
  * library converts to the handset's.
  *
@@ -554,7 +555,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
     uint32_t timeout_ms);
 
 /** Measures the battery; 1000 ms.
- * @param voltage  in the handset's unit, commonly millivolts; 0 is stored when the exchange failed
+ * @param voltage  in the handset's unit; 0 is stored when the exchange failed
  * @return 0; 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(uint32_t *voltage);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt_MT(int32_t port, uint32_t *voltage);
@@ -568,7 +569,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t ke
 /* ---- GPS ----------------------------------------------------------------------------- */
 
 /** Opens (non-zero) or closes the receiver; 1000 ms.
- * @return 0; 30 when the answer does not repeat the command. Answers below 264 bytes are not looked at, here and in the
+ * @return 0; 30 when the answer does not repeat the command. Answers below 264 bytes are not tested, here and in the
  *   next two */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);

@@ -1,11 +1,10 @@
 /* Calling convention, linkage and the records that exported functions take.
  *
- * Records stand in the caller's memory, in this machine's byte order, without padding other than
- * shown. */
+ * Records stand in the caller's memory, in this machine's byte order, without padding between their
+ * fields other than shown. */
 #ifndef MEROVANE_TYPES_H
 #define MEROVANE_TYPES_H
 
-#include <stddef.h>
 #include <stdint.h>
 
 #if defined(_WIN32)
