@@ -16,12 +16,14 @@ arguments; both run merovane::commands::X(Phone&, ...). Behind the kind, in brac
 `session X` gives QV_X alone, which runs merovane::api::X(...); [void] when it returns nothing.
 `project X` is as `command X`, and runs merovane::nvproject::X(CFileParser*, ...) on the object's NV project, under that
 operation's id; underscores in X do not count. Behind the kind, in brackets:
+    plain           no _MT twin
     as F            runs F instead
     image           F takes an ImageContext behind the arguments
     holder          F takes what holds the project, and is reported under id 0
 A line `family "module"` adds the rows that families/<module>.py makes of a table.
 
-Written: exports.cpp, Merovane.def, exports.map, exports-windows.txt, exports-linux.txt into --output;
+Written: exports.cpp, Merovane-x86.def and Merovane-x64.def for the module, Merovane-import-x86.def and
+Merovane-import-x64.def for its import library, exports.map, exports-windows.txt, exports-linux.txt into --output;
 with --headers, merovane.h and result_codes.h there; with --check nothing, but it fails when the headers
 there are not what would be written.
 """
@@ -34,6 +36,9 @@ from dataclasses import dataclass, field
 
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent
+# What may stand in brackets behind each kind, beside a project's "as F".
+FLAGS = {"command": {"plain", "decorated", "twin-decorated"}, "session": {"void"},
+         "project": {"plain", "image", "holder"}}
 
 
 @dataclass
@@ -136,7 +141,10 @@ def read_api():
                                      statement)
                 if not match:
                     sys.exit(f"{where}: cannot read '{statement}'")
-                flags = {flag.strip() for flag in (match[2] or "").split(",")}
+                flags = {flag.strip() for flag in match[2].split(",")} if match[2] else set()
+                if unknown := {flag for flag in flags - FLAGS[match[1]]
+                               if match[1] != "project" or not re.fullmatch(r"as \w+", flag)}:
+                    sys.exit(f"{where}: a {match[1]} takes no '{unknown.pop()}'")
                 api.add(match[1], flags, match[3], parse_arguments(match[4], where), documentation)
                 documentation, statement = [], ""
         if statement:
