@@ -10,20 +10,20 @@ namespace merovane::nvproject {
 namespace {
 
 constexpr std::uint16_t kDspCodeId = 4;
-constexpr std::size_t kDspCodeBytes = 49152;
 
 void StoreTimeStamp(std::span<std::uint8_t> image, const ImageContext& context) {
-  StoreValue(image.first(4), context.tickCountMs, context.order);
+  StoreValue(image.first(kImageStart), context.tickCountMs, context.order);
 }
 
 // The record of the DSP code, whose 16-bit words are little-endian in its file. A
 // shorter file leaves the rest zero.
 void StoreDspCode(std::span<std::uint8_t> image, std::istream& code, ByteOrder order) {
-  StoreValue(image.subspan(4, 2), kDspCodeId, order);
-  StoreValue(image.subspan(6, 2), kDspCodeBytes, order);
+  StoreValue(image.subspan(kImageStart, 2), kDspCodeId, order);
+  StoreValue(image.subspan(kImageStart + 2, 2), kDspCodeBytes, order);
   std::vector<char> words(kDspCodeBytes);
   code.read(words.data(), static_cast<std::streamsize>(words.size()));
-  const std::span<std::uint8_t> place = image.subspan(8, kDspCodeBytes);
+  const std::span<std::uint8_t> place =
+      image.subspan(kImageStart + kRecordHeaderBytes, kDspCodeBytes);
   std::ranges::copy(words, place.begin());
   if (order == ByteOrder::Little) return;
   for (std::size_t at = 0; at < place.size(); at += 2) std::swap(place[at], place[at + 1]);

@@ -29,7 +29,7 @@ void Layout::Run(ItemStore& items, std::uint32_t start) {
       Placed placed{position + 1, item.length};
       if (item.type == ItemType::Struct) placed = PlaceStructure(items, module, position);
       if (item.type == ItemType::Array) placed = PlaceArray(items, module, position);
-      const std::uint64_t offset = RoundUp(running, 4) + 4;
+      const std::uint64_t offset = RoundUp(running, 4) + kRecordHeaderBytes;
       topLevel_.push_back(
           {module.first + position, number, static_cast<std::uint32_t>(offset), placed.length});
       running = offset + placed.length;

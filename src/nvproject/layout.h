@@ -10,14 +10,22 @@
 
 namespace merovane::nvproject {
 
-// The image begins with its time stamp; in the alternative form the DSP code comes between.
+// Every record of the image begins with the item's id and length, 16 bits each.
+inline constexpr std::uint32_t kRecordHeaderBytes = 4;
+inline constexpr std::uint32_t kDspCodeBytes = 49152;
+
+// The image begins with its time stamp; in the alternative form the DSP code's record comes
+// between.
 inline constexpr std::uint32_t kImageStart = 4;
-inline constexpr std::uint32_t kAlternativeImageStart = 49160;
+inline constexpr std::uint32_t kAlternativeImageStart =
+    kImageStart + kRecordHeaderBytes + kDspCodeBytes;
 
 struct TopLevelItem {
   std::uint32_t item = kNoItem;
   std::uint32_t module = 0;
-  std::uint32_t offset = 0;  // of its data in the image
+  // Of its data, each item's record behind the one before. The image is the same up to an item
+  // without data: there the next record takes its place (see RecordPlaces in nv_image.h).
+  std::uint32_t offset = 0;
   std::uint32_t length = 0;  // of its data
 };
 

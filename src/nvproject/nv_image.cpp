@@ -5,15 +5,6 @@
 #include "nvproject/text_rules.h"
 
 namespace merovane::nvproject {
-namespace {
-
-// Where the next record starts behind a top-level item's.
-std::uint64_t Behind(std::uint64_t record, std::uint32_t length) {
-  if (length == 0) return record;
-  return (record + length + 4 + 3) / 4 * 4;
-}
-
-}  // namespace
 
 void StoreValue(std::span<std::uint8_t> bytes, std::uint64_t value, ByteOrder order) {
   for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -45,20 +36,19 @@ bool NvImage::BuildAll(const ItemStore& items) {
   valueAt_.assign(items.Items().Size(), 0);
   written_ = 0;
   overlaps_ = false;
+  RecordPlaces places(start_);
   std::uint64_t record = start_;
-  std::uint32_t lastLength = 0;
   for (std::uint32_t position = 0; position < items.Items().Size(); ++position) {
     const Item& item = items[position];
-    std::uint64_t valueAt = record + 4 + item.offset;
+    std::uint64_t valueAt = record + kRecordHeaderBytes + item.offset;
     if (item.IsTopLevel()) {
-      record = Behind(record, lastLength);
-      lastLength = item.length;
-      valueAt = record + 4;
+      record = places.Next(item.length);
+      valueAt = record + kRecordHeaderBytes;
       if (!AddHeader(item, record)) return false;
     }
     if (ScalarWidth(item.type) > 0 && !AddValue(item, position, valueAt)) return false;
   }
-  const std::uint64_t end = Behind(record, lastLength);
+  const std::uint64_t end = places.End();
   if (end > kImageCapacity) return false;
   length_ = static_cast<std::size_t>(end);
   written_ = std::max(written_, length_);
@@ -76,7 +66,7 @@ bool NvImage::AddHeader(const Item& item, std::uint64_t at) {
   const bool hasData =
       ScalarWidth(item.type) > 0 || item.type == ItemType::Array || item.type == ItemType::Struct;
   if (!hasData) return true;
-  const std::span<std::uint8_t> header = Reserve(at, 4);
+  const std::span<std::uint8_t> header = Reserve(at, kRecordHeaderBytes);
   if (header.empty()) return false;
   StoreValue(header.first(2), item.id, order_);
   StoreValue(header.last(2), item.length, order_);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "nvproject/item_store.h"
+#include "nvproject/layout.h"
 
 namespace merovane::nvproject {
 
@@ -16,6 +17,28 @@ inline constexpr std::size_t kImageCapacity = 65536;
 
 // Stores the value's low bytes, as many as `bytes` has.
 void StoreValue(std::span<std::uint8_t> bytes, std::uint64_t value, ByteOrder order);
+
+// Where the records of the top-level items stand, in their order.
+class RecordPlaces {
+ public:
+  explicit RecordPlaces(std::uint32_t start) : record_(start) {}
+
+  // The place of the next record, whose data has that length.
+  std::uint64_t Next(std::uint32_t length) {
+    record_ = End();
+    length_ = length;
+    return record_;
+  }
+  // The place behind the last record. One without data takes no room: the next is written over it.
+  std::uint64_t End() const {
+    if (length_ == 0) return record_;
+    return (record_ + kRecordHeaderBytes + length_ + 3) / 4 * 4;
+  }
+
+ private:
+  std::uint64_t record_;
+  std::uint32_t length_ = 0;  // of the data
+};
 
 // Keeps the last image: where nothing but contents has changed since, only
 // these are converted again.

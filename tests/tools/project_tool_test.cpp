@@ -127,6 +127,19 @@ TEST_F(ProjectTool, ImagesHaveMapsAndDifferences) {
   EXPECT_THROW(Diff(before, write("little.bin", true), true, unused), Trouble);
 }
 
+TEST_F(ProjectTool, MapTellsWhereTheImageHasWhatFollowsAnItemWithoutData) {
+  const std::string own =
+      WriteProject(Item("before", 2, 0, -1, "    ITEM_ID = 4\r\n    ITEM_LENGTH = 2\r\n") +
+                   Item("empty", 6, 1, -1, "    ITEM_ID = 5\r\n    ITEM_LENGTH = 0\r\n") +
+                   Item("next", 4, 2, -1, "    ITEM_ID = 6\r\n    ITEM_CONTENT = 0x12345678\r\n"));
+  ImageOptions options;
+  EXPECT_EQ(Run([&](auto& out) { return Image(own, options, out); }), kOk);
+  EXPECT_THAT(output_, HasSubstr("00000010: 12 34 56 78 \n"));
+  options.map = true;
+  EXPECT_EQ(Run([&](auto& out) { return Image(own, options, out); }), kOk);
+  EXPECT_THAT(output_, HasSubstr("      16       4      6  next\n"));
+}
+
 TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
   EXPECT_EQ(RunCheck(project_), kOk);
 

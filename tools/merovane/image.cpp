@@ -27,28 +27,26 @@ void Dump(std::span<const std::uint8_t> image, std::ostream& out) {
 }
 
 // Offsets of top-level items' data are in the image; those of the others follow from them.
-void Map(nvproject::CFileParser& parser, std::ostream& out) {
-  const auto& items = parser.Items();
-  std::vector<std::uint32_t> begins(items.Items().Size(), 0);
-  for (const auto& top : parser.TopLevelItems()) begins[top.item] = top.offset;
+void Map(const nvproject::ItemStore& items, std::ostream& out) {
+  nvproject::RecordPlaces places(nvproject::kImageStart);
   std::array<char, 64> text;
   out << "  offset  length     id  path\n";
+  std::uint64_t base = nvproject::kImageStart + nvproject::kRecordHeaderBytes;
+  std::uint32_t id = 0;
   for (const auto& module : items.Modules()) {
-    std::uint32_t base = 0;
-    std::uint32_t id = 0;
     for (std::uint32_t position = 0; position < module.count; ++position) {
       const Item& item = items[module.first + position];
-      std::uint32_t offset = base + item.offset;
+      std::uint64_t offset = base + item.offset;
       if (item.IsTopLevel()) {
-        offset = base = begins[module.first + position];
+        offset = base = places.Next(item.length) + nvproject::kRecordHeaderBytes;
         id = item.id;
       }
       const std::uint32_t width = nvproject::ScalarWidth(item.type);
       // A nested structure's own length counts from its top-level item's start.
       const bool hasPlace = item.IsTopLevel() || width > 0;
       if (!hasPlace) continue;
-      std::snprintf(text.data(), text.size(), "%8u%8u%7u  ", offset,
-                    width > 0 ? width : item.length, id);
+      std::snprintf(text.data(), text.size(), "%8llu%8u%7u  ",
+                    static_cast<unsigned long long>(offset), width > 0 ? width : item.length, id);
       out << text.data() << item.fullPath << '\n';
     }
   }
@@ -69,7 +67,7 @@ int Image(const std::string& project, const ImageOptions& options, std::ostream&
   }
   image.resize(length);
   if (options.map) {
-    Map(*parser, out);
+    Map(parser->Items(), out);
   } else if (!options.output) {
     Dump(image, out);
   }
