@@ -1,8 +1,8 @@
 // The typed commands: arguments and bands in, cached parameters out.
-#include <algorithm>
 #include <array>
 #include <cstring>
 #include <optional>
+#include <utility>
 
 #include "nvproject/commands.h"
 
@@ -27,15 +27,25 @@ void Deliver(std::span<const std::int16_t> values, std::uint16_t* out) {
   std::memcpy(out, values.data(), values.size_bytes());
 }
 
-// As many values as the parameter has.
-template <std::size_t count>
-std::array<std::int16_t, count> Take(const std::uint16_t* in) {
-  std::array<std::int16_t, count> values;
+void Deliver(std::uint32_t value, std::uint16_t* out) { *out = static_cast<std::uint16_t>(value); }
+
+// Takes as many values as the parameter has.
+template <auto parameter>
+auto Take(const std::uint16_t* in) {
+  std::array<std::int16_t, ArrayOf(parameter).count> values;
   std::memcpy(values.data(), in, sizeof(values));
   return values;
 }
 
-void Deliver(std::uint32_t value, std::uint16_t* out) { *out = static_cast<std::uint16_t>(value); }
+template <BandArray parameter>
+void Write(CalibrationParameters& parameters, Band band, const std::uint16_t* in) {
+  parameters.Write(band, parameter, Take<parameter>(in));
+}
+
+template <CommonArray parameter>
+void Write(CalibrationParameters& parameters, const std::uint16_t* in) {
+  parameters.Write(parameter, Take<parameter>(in));
+}
 
 }  // namespace
 
@@ -56,8 +66,8 @@ Result SetNvValueAgc(CFileParser* project, const std::uint16_t* agcWords, std::u
   const Result check = Check(project, AnyNull(agcWords, rxCompensation), band);
   if (!Succeeded(check)) return check;
   CalibrationParameters& parameters = project->Calibration();
-  parameters.Write(kBands[band], BandArray::AgcControlWord, Take<91>(agcWords));
-  parameters.Write(kBands[band], BandArray::RxCompensation, Take<5>(rxCompensation));
+  Write<BandArray::AgcControlWord>(parameters, kBands[band], agcWords);
+  Write<BandArray::RxCompensation>(parameters, kBands[band], rxCompensation);
   parameters.WriteGainIndex(kBands[band], gainIndex);
   return Result::Success;
 }
@@ -87,7 +97,7 @@ Result GetNvValueApc(CFileParser* project, std::uint16_t* rampUpStage0, std::uin
 Result SetNvValueApc(CFileParser* project, const std::uint16_t* stepFactor, std::uint32_t band) {
   const Result check = Check(project, AnyNull(stepFactor), band);
   if (!Succeeded(check)) return check;
-  project->Calibration().Write(kBands[band], BandArray::StepFactor, Take<80>(stepFactor));
+  Write<BandArray::StepFactor>(project->Calibration(), kBands[band], stepFactor);
   return Result::Success;
 }
 
@@ -149,7 +159,7 @@ Result GetNvValueAdc2(CFileParser* project, std::uint16_t* voltageTable) {
 Result SetNvValueAdc2(CFileParser* project, const std::uint16_t* voltageTable) {
   const Result check = Check(project, AnyNull(voltageTable));
   if (!Succeeded(check)) return check;
-  project->Calibration().Write(CommonArray::AdcVoltage, Take<16>(voltageTable));
+  Write<CommonArray::AdcVoltage>(project->Calibration(), voltageTable);
   return Result::Success;
 }
 
@@ -197,9 +207,9 @@ Result SetNvValueAfc2(CFileParser* project, std::uint16_t slopeLength, std::uint
   parameters.Write(CommonValue::SlopeLength, slopeLength);
   parameters.Write(CommonValue::Cdac, cdac);
   parameters.Write(CommonValue::Cafc, cafc);
-  parameters.Write(CommonArray::AfcRange, Take<16>(afcRange));
-  parameters.Write(CommonArray::SlopeValue, Take<16>(slopeValue));
-  parameters.Write(CommonArray::SlopeReciprocal, Take<16>(slopeReciprocal));
+  Write<CommonArray::AfcRange>(parameters, afcRange);
+  Write<CommonArray::SlopeValue>(parameters, slopeValue);
+  Write<CommonArray::SlopeReciprocal>(parameters, slopeReciprocal);
   return Result::Success;
 }
 

@@ -15,16 +15,22 @@ constexpr std::size_t Number(Enum value) {
 }
 
 std::string RootPath(Root root, bool areoSpelling) {
-  std::string path(kRoots[Number(root)]);
-  if (root == Root::AfcStructure) path += areoSpelling ? kAfcStructureAreo : kAfcStructureAero;
-  return path;
+  const Structure& structure = kStructures[Number(root)];
+  const bool areo = root == Root::AfcStructure && areoSpelling;
+  std::string path = structure.outer ? RootPath(*structure.outer, areoSpelling) : std::string();
+  return path.append(areo ? kAfcStructureAreo : structure.name);
 }
 
 std::string BandPath(Band band) {
-  return std::string(kDspUse).append(kBandStructures[Number(band)]).append(".");
+  return RootPath(Root::DspUse, false).append(kBandStructures[Number(band)]);
 }
 
 }  // namespace
+
+bool HasAreoSpelling(ItemStore& items) {
+  const ValueParameter& probe = kCommonValues[Number(CommonValue::SlopeLength)];
+  return items.Find(RootPath(probe.root, true).append(probe.path)) != kNoItem;
+}
 
 CalibrationParameters::CalibrationParameters(ItemStore& items, bool areoSpelling) : items_(&items) {
   for (const Band band : kAllBands) {

@@ -15,6 +15,9 @@
 
 namespace merovane::nvproject {
 
+// Which of the two spellings of the AFC structure's name the items have.
+bool HasAreoSpelling(ItemStore& items);
+
 // Parameters that the project does not have read as 0 (elements of an array as the one before) and
 // are not written; nobody is told.
 class CalibrationParameters {

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "nvproject/hex_text.h"
@@ -14,11 +15,30 @@ namespace merovane::nvproject {
 enum class Band { Gsm, Dcs, Pcs, Gsm850 };
 inline constexpr std::size_t kBandCount = 4;
 
-inline constexpr std::string_view kDspUse = "calibration_param_T.rf_param_dsp_use.";
+// The structures that the parameters are in.
+enum class Root { Calibration, DspUse, RfCommon, AfcStructure, Charging };
 
+struct Structure {
+  std::optional<Root> outer;
+  std::string_view name;
+};
+
+// Projects spell the AFC structure's name in one of two ways.
+inline constexpr std::string_view kAfcStructureAreo = "areo2_RF_AFC_STRUCT.";
+inline constexpr std::string_view kAfcStructureAero = "aero2_RF_AFC_STRUCT.";
+
+inline constexpr std::array kStructures = {
+    Structure{{}, "calibration_param_T."},
+    Structure{Root::Calibration, "rf_param_dsp_use."},
+    Structure{Root::DspUse, "rf_common_param_dsp_use."},
+    Structure{Root::RfCommon, kAfcStructureAero},
+    Structure{{}, "production_param_T.CHR_PARAM_T."},
+};
+
+// In the structure of the DSP's parameters.
 inline constexpr std::array<std::string_view, kBandCount> kBandStructures = {
-    "rf_gsm_param_dsp_use", "rf_dcs_param_dsp_use", "rf_pcs_param_dsp_use",
-    "rf_gsm850_param_dsp_use"};
+    "rf_gsm_param_dsp_use.", "rf_dcs_param_dsp_use.", "rf_pcs_param_dsp_use.",
+    "rf_gsm850_param_dsp_use."};
 
 // Arrays that every band has, below its structure.
 enum class BandArray {
@@ -54,21 +74,6 @@ inline constexpr std::array kBandArrays = {
 // A band's gain index, always read as hexadecimal.
 inline constexpr std::string_view kMaxGainIndex = "max_rf_gain_index";
 
-// The structures that the parameters without a band are in.
-enum class Root { Calibration, RfCommon, AfcStructure, Charging };
-
-inline constexpr std::array<std::string_view, 4> kRoots = {
-    "calibration_param_T.", "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.",
-    "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.",
-    "production_param_T.CHR_PARAM_T."};
-
-// Projects spell the AFC structure's name in one of two ways; this item tells the first of them.
-inline constexpr std::string_view kAfcStructureAreo = "areo2_RF_AFC_STRUCT.";
-inline constexpr std::string_view kAfcStructureAero = "aero2_RF_AFC_STRUCT.";
-inline constexpr std::string_view kAreoProbe =
-    "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.areo2_RF_AFC_STRUCT."
-    "slope_length";
-
 enum class CommonArray { AfcRange, SlopeValue, SlopeReciprocal, AdcVoltage };
 
 struct CommonArrayParameter {
@@ -82,6 +87,13 @@ inline constexpr std::array kCommonArrays = {
     CommonArrayParameter{Root::AfcStructure, {"slope_struct.slope_value_reciprocal_arr", 16}},
     CommonArrayParameter{Root::Charging, {"adc_voltage_table", 16}},
 };
+
+constexpr const ArrayParameter& ArrayOf(BandArray parameter) {
+  return kBandArrays[static_cast<std::size_t>(parameter)];
+}
+constexpr const ArrayParameter& ArrayOf(CommonArray parameter) {
+  return kCommonArrays[static_cast<std::size_t>(parameter)].array;
+}
 
 enum class CommonValue {
   CalParamVersion,

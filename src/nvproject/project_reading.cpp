@@ -33,7 +33,7 @@ bool CFileParser::LoadProject(std::string_view path) {
   if (reading == Reading::Failed) return false;
   savedRevision_ = items_.ContentRevision();
   if (modules_.empty()) return false;
-  areoSpelling_ = items_.Find(kAreoProbe) != kNoItem;
+  areoSpelling_ = nvproject::HasAreoSpelling(items_);
   calibration_ = CalibrationParameters(items_, areoSpelling_);
   return true;
 }
