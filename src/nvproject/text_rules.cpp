@@ -2,19 +2,14 @@
 
 #include <cstring>
 
+#include "platform/ascii.h"
+
 namespace merovane::nvproject {
 namespace {
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
-constexpr char Fold(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
-
-// The digit's value, or a value that no base has.
-constexpr unsigned DigitValue(char c) {
-  if (IsDigit(c)) return static_cast<unsigned>(c - '0');
-  c = Fold(c);
-  return c >= 'a' && c <= 'f' ? static_cast<unsigned>(c - 'a') + 10 : 255;
-}
+using platform::DigitValue;
+using platform::IsDigit;
+using platform::ToLower;
 
 // Takes a sign off the text; true for a minus.
 bool TakeSign(std::string_view& text) {
@@ -41,7 +36,7 @@ std::optional<std::uint32_t> ScanDecimal(std::string_view text) {
 std::uint64_t ParseNumber(std::string_view text, unsigned base) {
   text = SkipSpace(text);
   const bool negative = TakeSign(text);
-  if (base == 16 && text.size() > 1 && text[0] == '0' && Fold(text[1]) == 'x') {
+  if (base == 16 && text.size() > 1 && text[0] == '0' && ToLower(text[1]) == 'x') {
     text.remove_prefix(2);
   }
   std::uint64_t value = 0;
@@ -62,7 +57,7 @@ bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   if (a.size() != b.size()) return false;
   if (a == b) return true;
   for (std::size_t i = 0; i < a.size(); ++i) {
-    if (Fold(a[i]) != Fold(b[i])) return false;
+    if (ToLower(a[i]) != ToLower(b[i])) return false;
   }
   return true;
 }

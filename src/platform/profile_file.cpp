@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/ascii.h"
 #include "platform/text.h"
 
 namespace merovane::platform {
@@ -25,10 +26,8 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
 bool SameName(std::string_view a, std::string_view b) {
-  return std::ranges::equal(a, b, {}, Lower, Lower);
+  return std::ranges::equal(a, b, {}, ToLower, ToLower);
 }
 
 std::string_view Unquoted(std::string_view value) {
@@ -67,13 +66,6 @@ std::optional<std::string_view> Find(std::string_view text, std::string_view sec
     }
   }
   return std::nullopt;
-}
-
-std::uint32_t DigitValue(char c) {
-  if (c >= '0' && c <= '9') return static_cast<std::uint32_t>(c - '0');
-  const char lower = Lower(c);
-  if (lower >= 'a' && lower <= 'f') return static_cast<std::uint32_t>(lower - 'a') + 10;
-  return UINT32_MAX;
 }
 
 // Takes "0x", "0o" or "0b" off; small letters only, as Windows takes them.

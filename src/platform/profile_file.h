@@ -20,9 +20,9 @@ class ProfileFile {
 
   // The key's value; `fallback` when section or key is missing.
   std::string Text(std::string_view section, std::string_view key, std::string_view fallback) const;
-  // The value read as far as its decimal digits go (a sign may lead; "0x" leads
-  // hexadecimal ones), in 32 bits; 0 for a value without digits, `fallback` when the key is missing
-  // or empty.
+  // The value read as far as its decimal digits go (a sign may lead; "0x" leads hexadecimal
+  // digits, "0o" octal and "0b" binary ones, in small letters only), in 32 bits; 0 for a value
+  // without digits, `fallback` when the key is missing or empty.
   std::uint32_t Integer(std::string_view section, std::string_view key,
                         std::uint32_t fallback) const;
 

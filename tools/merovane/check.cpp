@@ -7,6 +7,7 @@
 #include "merovane/project_tool.h"
 #include "nvproject/key_line.h"
 #include "nvproject/line_reader.h"
+#include "platform/ascii.h"
 
 namespace merovane::tool {
 namespace {
@@ -109,9 +110,7 @@ void CheckItems(const nvproject::ItemStore& items, const nvproject::ItemStore::M
       findings.Add(path, line, name + ": its full path is cut");
     }
     std::string folded(item.fullPath);
-    std::ranges::transform(folded, folded.begin(), [](char c) {
-      return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
-    });
+    std::ranges::transform(folded, folded.begin(), platform::ToLower);
     const auto [known, isNew] = paths.emplace(folded, path + ":" + std::to_string(line));
     if (!isNew) {
       findings.Add(path, line,
