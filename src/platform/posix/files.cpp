@@ -30,15 +30,6 @@ std::filesystem::path PathFromText(std::string_view text) {
 
 std::string TextFromPath(const std::filesystem::path& path) { return path.string(); }
 
-AppendFile::~AppendFile() { Close(); }
-
-AppendFile::AppendFile(AppendFile&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
-
-AppendFile& AppendFile::operator=(AppendFile&& other) noexcept {
-  std::swap(handle_, other.handle_);
-  return *this;
-}
-
 bool AppendFile::Open(const std::filesystem::path& path) {
   Close();
   std::error_code error;

@@ -29,15 +29,6 @@ HANDLE AsHandle(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle);
 
 }  // namespace
 
-AppendFile::~AppendFile() { Close(); }
-
-AppendFile::AppendFile(AppendFile&& other) noexcept : handle_(std::exchange(other.handle_, -1)) {}
-
-AppendFile& AppendFile::operator=(AppendFile&& other) noexcept {
-  std::swap(handle_, other.handle_);
-  return *this;
-}
-
 bool AppendFile::Open(const std::filesystem::path& path) {
   Close();
   std::error_code error;
