@@ -37,8 +37,9 @@ std::filesystem::path ModulePath(HMODULE module) {
   constexpr std::size_t kLongestPath = 32768;
   for (std::wstring path(MAX_PATH, L'\0');; path.resize(path.size() * 2)) {
     const DWORD length = GetModuleFileNameW(module, path.data(), static_cast<DWORD>(path.size()));
-    if (length == 0 || path.size() > kLongestPath) return {};
+    if (length == 0) return {};
     if (length < path.size()) return path.substr(0, length);
+    if (path.size() > kLongestPath) return {};
   }
 }
 
