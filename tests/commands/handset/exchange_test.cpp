@@ -123,8 +123,6 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
   refused(5, RecvPhoneStartData(phone, nullptr, 8, &n, 10));
   refused(5, RecvPhoneStartData(phone, b, 0, &n, 10));
   refused(5, RecvPhoneStartData(phone, b, 8, nullptr, 10));
-  refused(5, RecvPhoneStartData(phone, b, 8, &n, 0));
-  refused(7, SetPhoneStartModeEx(phone, 1, 0));
   refused(10, UsbChangeModeAndSetCampParam(phone, 1, 0x1F, 0x5A3, nullptr));
   refused(11, RestartPhone(phone, 0));
   refused(12, ReadMode(phone, b, 0));
