@@ -2,14 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+
 #include "platform/files.h"
-#include "platform/system.h"
+#include "support/temp_directory.h"
 
 namespace merovane::platform {
 namespace {
 
 TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
-  const test::ScratchDirectory elsewhere;
+  const merovane::test::TempDirectory elsewhere;
   const auto before = std::filesystem::current_path();
   std::filesystem::current_path(elsewhere.Path());
   Module module;
@@ -45,13 +47,11 @@ TEST(Module, IsNotLoadedWhenItIsMissingOrNoLibrary) {
   EXPECT_FALSE(module.IsLoaded()) << "the one before is let go";
   EXPECT_FALSE(module.Load(""));
 
-  for (const char* name : {"libPlatformGarbage.so", "PlatformGarbage.dll"}) {
-    test::WriteContent(ExecutableDirectory() / name, "no library");
-  }
+  const std::filesystem::path garbage[] = {ExecutableDirectory() / "libPlatformGarbage.so",
+                                           ExecutableDirectory() / "PlatformGarbage.dll"};
+  for (const auto& path : garbage) std::ofstream(path) << "no library";
   EXPECT_FALSE(module.Load("PlatformGarbage"));
-  for (const char* name : {"libPlatformGarbage.so", "PlatformGarbage.dll"}) {
-    std::filesystem::remove(ExecutableDirectory() / name);
-  }
+  for (const auto& path : garbage) std::filesystem::remove(path);
 }
 
 }  // namespace

@@ -3,43 +3,37 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <string>
+#include <vector>
 
-#include "platform/files.h"
-#include "platform/system.h"
+#include "support/temp_directory.h"
 
 namespace merovane::platform {
 namespace {
 
-using test::ScratchDirectory;
-using test::WriteContent;
-
-std::uint32_t Value(const std::string& value) {
-  return ProfileFile::Parse("[S]\r\nK=" + value + "\r\n").Integer("S", "K", 7);
-}
+using merovane::test::TempDirectory;
 
 TEST(ProfileFile, ReadsIntegersAsFarAsTheirDigitsGo) {
-  EXPECT_EQ(Value("12"), 12U);
-  EXPECT_EQ(Value(" \t 12abc"), 12U);
-  EXPECT_EQ(Value("012"), 12U);
-  EXPECT_EQ(Value("1 2"), 1U);
-  EXPECT_EQ(Value("3;4"), 3U);
-  EXPECT_EQ(Value("+5"), 5U);
-  EXPECT_EQ(Value("-5"), 0U - 5U);
-  EXPECT_EQ(Value("- 5"), 0U);
-  EXPECT_EQ(Value("0x1Fg"), 31U);
-  EXPECT_EQ(Value("-0x10"), 0U - 16U);
-  EXPECT_EQ(Value("0o17"), 15U);
-  EXPECT_EQ(Value("0b101"), 5U);
-  EXPECT_EQ(Value("0X10"), 0U);
-  EXPECT_EQ(Value("0x"), 0U);
-  EXPECT_EQ(Value("abc"), 0U);
-  EXPECT_EQ(Value("4294967295"), UINT32_MAX);
-  EXPECT_EQ(Value("4294967301"), 5U);
-  EXPECT_EQ(Value("99999999999999999999"), 1'661'992'959U);
-  EXPECT_EQ(Value("\" 36667\""), 36'667U);
-  EXPECT_EQ(Value("'1'"), 1U);
-  EXPECT_EQ(Value(""), 7U);
-  EXPECT_EQ(Value("\"\""), 7U);
+  const std::pair<std::uint32_t, std::vector<const char*>> values[] = {
+      {0, {"- 5", "0X10", "0x", "abc"}},
+      {1, {"1 2", "'1'"}},
+      {3, {"3;4"}},
+      {5, {"+5", "0b101", "4294967301"}},
+      {0U - 5U, {"-5"}},
+      {7, {"", "\"\""}},
+      {12, {"12", " \t 12abc", "012"}},
+      {15, {"0o17"}},
+      {0U - 16U, {"-0x10"}},
+      {31, {"0x1Fg"}},
+      {36'667, {"\" 36667\""}},
+      {1'661'992'959, {"99999999999999999999"}},
+      {UINT32_MAX, {"4294967295"}}};
+  for (const auto& [value, texts] : values) {
+    for (const std::string text : texts) {
+      const auto profile = ProfileFile::Parse("[S]\r\nK=" + text + "\r\n");
+      EXPECT_EQ(profile.Integer("S", "K", 7), value) << text;
+    }
+  }
 }
 
 TEST(ProfileFile, FindsNamesWithoutRegardToCaseAndBlanks) {
@@ -113,21 +107,21 @@ TEST(ProfileFile, SurvivesTextThatIsNoSettingsFile) {
 }
 
 TEST(ProfileFile, LoadsWhatCanBeReadAndTreatsTheRestAsEmpty) {
-  const ScratchDirectory directory;
-  WriteContent(directory / "a.ini", "[S]\r\nK=5\r\n");
+  const TempDirectory directory;
+  directory.Write("a.ini", "[S]\r\nK=5\r\n");
   EXPECT_EQ(ProfileFile::Load(directory / "a.ini").Integer("S", "K", 1), 5U);
-  WriteContent(directory / "empty.ini", "");
+  directory.Write("empty.ini", "");
   for (const char* name : {"empty.ini", "missing.ini", ".", "missing/a.ini", "a.ini/b"}) {
     EXPECT_EQ(ProfileFile::Load(directory / name).Integer("S", "K", 1), 1U) << name;
   }
 }
 
 TEST(ProfileFile, ReadsAHugeFileToItsLastWholeLineWithinTheLimit) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   std::string text = "[S]\nFirst=1\n";
   text.resize((1U << 20) - 7, ' ');
   text += "\nCut=12345\nLate=1\n";  // the limit falls after "Cut=12"
-  WriteContent(directory / "huge.ini", text);
+  directory.Write("huge.ini", text);
   const auto profile = ProfileFile::Load(directory / "huge.ini");
   EXPECT_EQ(profile.Integer("S", "First", 0), 1U);
   EXPECT_EQ(profile.Integer("S", "Cut", 0), 0U);

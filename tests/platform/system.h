@@ -41,22 +41,4 @@ class ScratchPort {
   std::filesystem::path name_;
 };
 
-// An empty directory for the running test.
-class ScratchDirectory {
- public:
-  ScratchDirectory();
-  ~ScratchDirectory();
-  ScratchDirectory(const ScratchDirectory&) = delete;
-  ScratchDirectory& operator=(const ScratchDirectory&) = delete;
-
-  std::filesystem::path operator/(const std::filesystem::path& name) const { return path_ / name; }
-  const std::filesystem::path& Path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
-
-std::string Content(const std::filesystem::path& path);
-void WriteContent(const std::filesystem::path& path, const std::string& content);
-
 }  // namespace merovane::platform::test

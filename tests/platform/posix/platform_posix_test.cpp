@@ -7,27 +7,27 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
 #include <climits>
 
 #include "platform/console.h"
 #include "platform/device_monitor.h"
 #include "platform/event.h"
 #include "platform/files.h"
-#include "platform/message_queue.h"
 #include "platform/profile_file.h"
 #include "platform/serial_ports.h"
 #include "platform/system.h"
 #include "platform/text.h"
 #include "platform/thread.h"
+#include "support/temp_directory.h"
 
 namespace merovane::platform {
 namespace {
 
-using test::Content;
-using test::ScratchDirectory;
+using merovane::test::FileText;
+using merovane::test::TempDirectory;
 using test::SetVariable;
-using test::WriteContent;
+
+constexpr std::string_view kNew = "new";
 
 mode_t ModeOf(const std::filesystem::path& path) {
   struct stat status {};
@@ -35,87 +35,80 @@ mode_t ModeOf(const std::filesystem::path& path) {
   return status.st_mode & 07777;
 }
 
-TEST(PosixFiles, KeepTheOtherModeBitsWhenTheyBecomeReadOnly) {
-  const ScratchDirectory directory;
-  const auto path = directory / "a";
-  WriteContent(path, "x");
-  chmod(path.c_str(), 0775);
-  EXPECT_TRUE(SetReadOnly(path, true));
-  EXPECT_EQ(ModeOf(path), 0555U);
-  EXPECT_TRUE(SetReadOnly(path, false));
-  EXPECT_EQ(ModeOf(path), 0755U);
-}
+TEST(PosixFiles, KeepModeAndLinkWhateverIsDoneToThem) {
+  const TempDirectory directory;
+  const auto real = directory / "real";
+  directory.Write("real", "old");
+  chmod(real.c_str(), 0775);
+  EXPECT_TRUE(SetReadOnly(real, true));
+  EXPECT_EQ(ModeOf(real), 0555U);
+  EXPECT_TRUE(SetReadOnly(real, false));
+  EXPECT_EQ(ModeOf(real), 0755U);
 
-TEST(PosixFiles, KeepModeAndLinkWhenTheirContentIsReplaced) {
-  const ScratchDirectory directory;
-  WriteContent(directory / "real", "old");
-  chmod((directory / "real").c_str(), 0640);
+  chmod(real.c_str(), 0640);
   std::filesystem::create_symlink("real", directory / "link");
-  ASSERT_TRUE(ReplaceFile(directory / "link", std::string_view("new")));
+  ASSERT_TRUE(ReplaceFile(directory / "link", kNew));
   EXPECT_TRUE(std::filesystem::is_symlink(directory / "link"));
-  EXPECT_EQ(Content(directory / "real"), "new");
-  EXPECT_EQ(ModeOf(directory / "real"), 0640U);
+  EXPECT_EQ(FileText(real), kNew);
+  EXPECT_EQ(ModeOf(real), 0640U);
 
   const auto longest = directory / std::string(NAME_MAX, 'n');
-  EXPECT_TRUE(ReplaceFile(longest, std::string_view("x")));
-  EXPECT_EQ(Content(longest), "x");
-  EXPECT_TRUE(ReplaceFile("/dev/null", std::string_view("x")));
-  EXPECT_FALSE(ReplaceFile("/dev/full", std::string_view("x")));
+  EXPECT_TRUE(ReplaceFile(longest, kNew));
+  EXPECT_EQ(FileText(longest), kNew);
+  EXPECT_TRUE(ReplaceFile("/dev/null", kNew));
+  EXPECT_FALSE(ReplaceFile("/dev/full", kNew));
 }
 
-// Runs `body` in a process of its own, whose limits and user it may change. True when it returned
-// true.
-bool InChild(bool (*body)(const std::filesystem::path&), const std::filesystem::path& path) {
+// Runs `body` in a process of its own, as no privileged user and with files of 4096 bytes at most.
+// True when it returned true.
+bool InLimitedChild(bool (*body)(const std::filesystem::path&), const std::filesystem::path& path) {
   const pid_t child = fork();
-  if (child == 0) _exit(body(path) ? 0 : 1);
+  if (child == 0) {
+    constexpr uid_t kNobody = 65534;
+    const rlimit limit{4096, 4096};
+    signal(SIGXFSZ, SIG_IGN);
+    const bool limited =
+        setrlimit(RLIMIT_FSIZE, &limit) == 0 && (getuid() != 0 || setuid(kNobody) == 0);
+    _exit(limited && body(path) ? 0 : 1);
+  }
   int status = 0;
   return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 TEST(PosixFiles, StandWholeWhenTheNewContentDoesNotFit) {
-  const ScratchDirectory directory;
-  WriteContent(directory / "a", "old content");
-  EXPECT_TRUE(InChild(
+  const TempDirectory directory;
+  directory.Write("a", "old content");
+  chmod((directory / "a").c_str(), 0666);
+  chmod(directory.Path().c_str(), 0777);
+  EXPECT_TRUE(InLimitedChild(
       [](const std::filesystem::path& path) {
-        signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{4096, 4096};
-        setrlimit(RLIMIT_FSIZE, &limit);
         AppendFile log;
-        return !ReplaceFile(path, std::string(5000, 'x')) &&
-               ReplaceFile(path, std::string(4096, 'y')) && log.Open(path) &&
-               !log.Write(std::string_view("z"));
+        return !ReplaceFile(path, std::string(5000, 'x')) && FileText(path) == "old content" &&
+               ReplaceFile(path, std::string(4096, 'y')) && log.Open(path) && !log.Write(kNew);
       },
       directory / "a"));
-  EXPECT_EQ(Content(directory / "a"), std::string(4096, 'y'));
+  EXPECT_EQ(FileText(directory / "a"), std::string(4096, 'y'));
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 1);
-}
 
-TEST(PosixFiles, AreWrittenInPlaceWhereTheDirectoryTakesNoOther) {
-  const ScratchDirectory directory;
-  WriteContent(directory / "a", "old content");
+  // Written in place where the directory takes no other file.
   chmod((directory / "a").c_str(), 0666);
   chmod(directory.Path().c_str(), 0555);
-  EXPECT_TRUE(InChild(
+  EXPECT_TRUE(InLimitedChild(
       [](const std::filesystem::path& path) {
-        constexpr uid_t kNobody = 65534;
-        if (getuid() == 0 && setuid(kNobody) != 0) return false;
-        signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{4096, 4096};
-        setrlimit(RLIMIT_FSIZE, &limit);
-        return ReplaceFile(path, std::string_view("new")) && Content(path) == "new" &&
-               !ReplaceFile(path, std::string(5000, 'x')) && Content(path) == "new" &&
-               !ReplaceFile(path.parent_path() / "absent", std::string_view("x"));
+        return ReplaceFile(path, kNew) && FileText(path) == kNew &&
+               !ReplaceFile(path, std::string(5000, 'x')) && FileText(path) == kNew &&
+               !ReplaceFile(path.parent_path() / "absent", kNew);
       },
       directory / "a"));
   chmod(directory.Path().c_str(), 0755);
 }
 
 TEST(PosixFiles, AreNotWaitedForWhenTheyArePipes) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   const auto pipe = directory / "pipe";
   ASSERT_EQ(mkfifo(pipe.c_str(), 0666), 0);
   EXPECT_EQ(ProfileFile::Load(pipe).Integer("S", "K", 3), 3U);
-  EXPECT_FALSE(ReplaceFile(pipe, std::string_view("x")));
+  EXPECT_FALSE(ReplaceFile(pipe, kNew));
 }
 
 TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
@@ -147,19 +140,6 @@ TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
   CallerEvent(endless).Reset();
   close(endless);
   EXPECT_TRUE(CallerEvent(-1).IsNull());
-}
-
-TEST(PosixMessageQueue, HoldsTenThousandMessagesAndRefusesMore) {
-  CreateMessageQueue();
-  int posted = 0;
-  while (posted < 20'000 && PostMessageToThread(CurrentThreadId(), 1124, 0, posted)) ++posted;
-  EXPECT_EQ(posted, 10'000);
-  Message message;
-  for (int i = 0; i < posted; ++i) {
-    ASSERT_TRUE(TakePendingMessage(message));
-    ASSERT_EQ(message.second, i);
-  }
-  EXPECT_FALSE(TakePendingMessage(message));
 }
 
 TEST(PosixThread, LeavesSignalsToTheHostProgram) {
@@ -220,7 +200,7 @@ class Terminal {
 };
 
 TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   const auto link = directory / "port";
   SetVariable("CASSORIND_COM231", link.c_str());
   SerialPorts ports;

@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "platform/files.h"
+#include "support/temp_directory.h"
 
 namespace merovane::platform::test {
 
@@ -23,7 +24,8 @@ OwnedEvent::~OwnedEvent() { close(static_cast<int>(handle_)); }
 
 bool OwnedEvent::IsSet() const {
   // The kernel's own account of the counter: reading it would empty it.
-  const std::string account = Content("/proc/self/fdinfo/" + std::to_string(handle_));
+  const std::string account =
+      merovane::test::FileText("/proc/self/fdinfo/" + std::to_string(handle_));
   return account.find("eventfd-count:                0\n") == std::string::npos;
 }
 

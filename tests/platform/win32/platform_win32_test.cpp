@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <fstream>
 #include <random>
 
 #include "platform/console.h"
@@ -10,17 +11,17 @@
 #include "platform/system.h"
 #include "platform/thread.h"
 #include "platform/win32/windows_api.h"
+#include "support/temp_directory.h"
 
 namespace merovane::platform {
 namespace {
 
-using test::Content;
-using test::ScratchDirectory;
-using test::WriteContent;
+using merovane::test::FileText;
+using merovane::test::TempDirectory;
 
 // The system's own reader is the measure.
 TEST(Win32ProfileFile, ReadsWhatTheSystemReads) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   const auto path = directory / "same.ini";
   std::mt19937 random(11);
   const std::string pieces[] = {
@@ -32,7 +33,7 @@ TEST(Win32ProfileFile, ReadsWhatTheSystemReads) {
     for (unsigned line = random() % 9; line > 0; --line) {
       text += pieces[random() % std::size(pieces)] + "\r\n";
     }
-    WriteContent(path, text);
+    directory.Write("same.ini", text);
     // Empties the system's cache of settings files.
     WritePrivateProfileStringW(nullptr, nullptr, nullptr, path.c_str());
     EXPECT_EQ(ProfileFile::Load(path).Integer("S", "K", 77),
@@ -42,9 +43,9 @@ TEST(Win32ProfileFile, ReadsWhatTheSystemReads) {
 }
 
 TEST(Win32Files, KeepTheirOtherAttributes) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   const auto path = directory / "a.txt";
-  WriteContent(path, "old");
+  directory.Write("a.txt", "old");
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
   const DWORD before = GetFileAttributesW(path.c_str());
   EXPECT_TRUE(SetReadOnly(path, true));
@@ -55,12 +56,12 @@ TEST(Win32Files, KeepTheirOtherAttributes) {
 }
 
 TEST(Win32Files, AreNamedInTheAnsiCodePage) {
-  const ScratchDirectory directory;
+  const TempDirectory directory;
   const std::wstring wide = L"\u00E9.txt";
   if (WideFromNarrow(NarrowFromWide(wide)) != wide) GTEST_SKIP() << "not in this code page";
-  const std::string text = TextFromPath(directory / wide);
-  WriteContent(PathFromText(text), "x");
-  EXPECT_EQ(Content(directory / wide), "x");
+  const std::string text = TextFromPath(directory.Path() / wide);
+  std::ofstream(PathFromText(text)) << "x";
+  EXPECT_EQ(FileText(directory.Path() / wide), "x");
   EXPECT_EQ(TextFromPath(PathFromText(text)), text);
 }
 
@@ -85,7 +86,7 @@ TEST(Win32MessageQueue, HandsWindowMessagesToTheirWindow) {
   while (got == 0 && TakeMessage(message, 60'000)) DispatchForeignMessage(message);
   EXPECT_EQ(got, 17U);
   DestroyWindow(window);
-  while (TakePendingMessage(message)) DispatchForeignMessage(message);
+  while (TakeMessage(message, 0)) DispatchForeignMessage(message);
 }
 
 // As the end of the process leaves threads: killed, and with nothing set.
