@@ -2039,10 +2039,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
 
 /* ---- NV projects --------------------------------------------------------------------- */
 
-/** Opens an NV project in place of the one that the phone object holds, if any.
- * @param path  of the project file, in the system's narrow encoding; its module files are read with it
- * @return 0; 4 when `path` is null; 29 when the project or one of its modules cannot be read: no project is
- *   open then */
+/** Opens an NV project in place of the one that the phone object holds, if any. An NV project belongs to a phone
+ * object. The functions that work on it give 17 while none is open, and send nothing.
+ * @param path  of the project file, in the system's narrow encoding; its module files are read with it. `path` must
+ *   have a directory part ("./p.prj"): without one, reading stops at the first TARGET or MODULE line that is not
+ *   absolute, and the result is 0 with the modules read so far, mostly none
+ * @return 0; 4 when `path` is null; 29 when the project names no module, or when it or one of its modules cannot be
+ *   read: no project is open then */
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile(const char *path);
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile_MT(int32_t port, const char *path);
 
@@ -2082,11 +2085,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
     int32_t port, void *buffer, uint32_t *length);
 
 /** Builds the NV image into the project's TARGET file. For the default phone object only.
- * @return 0, also when the file cannot be written, which a message box tells; 17 */
+ * @return 0, also when the file cannot be written, which a message box tells; 17; 5 when the image would pass 65,536
+ *   bytes: the file is left as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToBinaryFile(void);
 
-/** Tells where an item's data stand: for a member or element in the data of its top-level item; 0 for a top-level
- * scalar or array, its widest alignment for a structure.
+/** Tells where an item's data stand: for a CHAR, SHORT or LONG member or element its place in its top-level item's
+ * data; 0 for a top-level scalar or array. For a structure, and for an array inside one, it tells the widest
+ * alignment (0, 1, 2 or 4): ask for its first element.
  * @param path    letter case counts
  * @param offset  in bytes. No size is told, whatever the name says
  * @return 0; 4 for a null pointer; 17; 18 when there is no item of that path */
@@ -2094,7 +2099,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize(const char *path, uin
 MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
     int32_t port, const char *path, uint32_t *offset);
 
-/** Reverses the byte order of 16- and 32-bit values in a block, as the items from `path` on say.
+/** Reverses the byte order of 16- and 32-bit values in a block, as the items from `path` on say. Only values that lie
+ * without a gap behind one another are converted: convert each run between padding by itself. A structure or array
+ * inside the run can count as a byte as well.
  * @param path    of the item where the block begins; letter case counts. A structure or array counts as one byte of
  *   its own: begin at its first member. An unknown path changes nothing
  * @param length  bytes at `data`
@@ -2119,7 +2126,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc_MT(
     int32_t port, uint16_t *agc_words, uint16_t *gain_index, uint16_t *rx_boundary, uint32_t band);
 
 /** Writes a band's AGC words, gain index and receive compensation. The gain indices of GSM, DCS and GSM850 are written
- * with it, as the last QV_GetNvValue_Agc found them: 0 before the first.
+ * with it, with the values last read by QV_GetNvValue_Agc or written by QV_SetNvValue_Agc in this project, 0 before
+ * that.
  * @param agc_words        91 values
  * @param rx_compensation  5 values
  * @param band             0 GSM, 1 GSM850, 2 DCS, 3 PCS

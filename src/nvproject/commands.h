@@ -27,20 +27,21 @@ Result SetNvValue(CFileParser* project, std::uint32_t module, const char* path, 
 // `buffer` has 65,536 bytes. BufferTooSmall, and nothing written, when the image is longer.
 Result GenerateNvBinaryDataBlockInMemory(CFileParser* project, void* buffer, std::uint32_t* length,
                                          const ImageContext& context);
-// Success even when the target file cannot be written; a message box tells of it.
+// Success even when the target file cannot be written; a message box tells of it. BufferTooSmall,
+// and the file left as it was, when the image would pass 65,536 bytes.
 Result SaveToBinaryFile(CFileParser* project, const ImageContext& context);
 // Gives the offset only.
 Result GetItemOffsetAndSize(CFileParser* project, const char* path, std::uint32_t* offset);
-// The project is checked first. An unknown path changes nothing and is a success. A path of a
-// structure or array advances by one byte for it.
+// The project is checked first. An unknown path changes nothing and is a success. See
+// block_conversion.h for what is converted.
 Result ConvertDataByDataType(CFileParser* project, const char* path, void* data,
                              std::uint32_t length);
 
 // Bands: 0 GSM, 1 GSM850, 2 DCS, 3 PCS. Numbers in the comments are counts of elements.
 Result GetNvValueAgc(CFileParser* project, std::uint16_t* agcWords /*91*/, std::uint16_t* gainIndex,
                      std::uint16_t* rxBoundary /*4*/, std::uint32_t band);
-// Writes the gain indices of GSM, DCS and GSM850 with those of the last AGC read, 0 before the
-// first.
+// Writes the gain indices of GSM, DCS and GSM850 too, with the values last read or written by the
+// AGC commands in this project, 0 before that.
 Result SetNvValueAgc(CFileParser* project, const std::uint16_t* agcWords /*91*/,
                      std::uint16_t gainIndex, const std::uint16_t* rxCompensation /*5*/,
                      std::uint32_t band);
