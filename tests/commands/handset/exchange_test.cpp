@@ -126,6 +126,7 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
   refused(10, UsbChangeModeAndSetCampParam(phone, 1, 0x1F, 0x5A3, nullptr));
   refused(11, RestartPhone(phone, 0));
   refused(12, ReadMode(phone, b, 0));
+  refused(12, ReadMode(phone, b, UINT32_MAX));
   refused(13, Read(phone, nullptr, &n, 10));
   refused(13, Read(phone, b, nullptr, 10));
   refused(13, Read(phone, b, &zero, 10));
