@@ -7,6 +7,8 @@
 #include <cstring>
 #include <span>
 
+#include "link/byte_order.h"
+
 namespace merovane::commands {
 
 // The payload's bytes from `offset` on into the whole of `out`.
@@ -23,6 +25,13 @@ std::array<std::uint8_t, kBytes> FirstBytes(std::span<const std::uint8_t> payloa
   std::array<std::uint8_t, kBytes> bytes;
   CopyZeroFilled(payload, 0, bytes);
   return bytes;
+}
+
+// Answers of the WiFi transceiver and the DSP begin with a word that is not 0 when what they were
+// told was not done.
+inline constexpr std::size_t kStatusBytes = 4;
+inline bool TellsFailure(std::span<const std::uint8_t> payload) {
+  return GetU32(FirstBytes<kStatusBytes>(payload), 0) != 0;
 }
 
 }  // namespace merovane::commands

@@ -1,6 +1,8 @@
 // The checksum over blocks of production data.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -12,6 +14,8 @@ std::uint16_t Crc16Arc(std::span<const std::uint8_t> data);
 
 // Blocks travel with their checksum behind them, in the handset's byte order.
 inline constexpr std::size_t kChecksumBytes = 2;
+// No block, and the checksum of nothing: what requests for a block carry.
+inline constexpr std::array<std::uint8_t, kChecksumBytes> kEmptyBlock{};
 std::vector<std::uint8_t> WithChecksum(std::span<const std::uint8_t> block);
 // The last two of at least two bytes are the checksum of those before them.
 bool ChecksumMatches(std::span<const std::uint8_t> blockWithChecksum);

@@ -15,7 +15,8 @@ constexpr FrameId kAtRequest{104, 0};
 constexpr FrameId kAtAcknowledgement{213, 0};
 constexpr FrameId kAtAnswer{156, 0};
 constexpr std::uint32_t kAcknowledgementMs = 1000;
-constexpr std::size_t kMaxCommandBytes = 9216;
+// A command's text is built in a frame's room.
+constexpr std::size_t kMaxCommandBytes = kMaxFrameBytes;
 
 std::span<const std::uint8_t> Bytes(std::string_view text) {
   return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};

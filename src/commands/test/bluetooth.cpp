@@ -4,6 +4,7 @@
 #include <array>
 
 #include "commands/operation.h"
+#include "commands/test/radio_address.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {
@@ -17,7 +18,6 @@ constexpr std::uint32_t kQuickMs = 1000;
 
 constexpr std::uint32_t kMaxChannel = 78;
 constexpr std::uint32_t kMaxDacValue = 63;
-constexpr std::size_t kAddressBytes = 6;
 constexpr std::size_t kRadioTestWords = 4;
 constexpr std::size_t kChannelWord = 1;
 
@@ -45,9 +45,7 @@ Result SaveBTAddr(Phone& phone, const std::uint8_t* address) {
   Operation operation(phone, 32);
   if (!address) return Result::InvalidParam;
   operation.Log("SaveBTAddr:");
-  std::array<std::uint8_t, kAddressBytes> payload;
-  std::reverse_copy(address, address + kAddressBytes, payload.begin());
-  return operation.Finish(Ask(phone, 2, payload, kSettingMs).result);
+  return operation.Finish(Ask(phone, 2, Reversed(address), kSettingMs).result);
 }
 
 Result LoadBTAddr(Phone& phone, std::uint8_t* address) {
@@ -58,7 +56,7 @@ Result LoadBTAddr(Phone& phone, std::uint8_t* address) {
   const auto payload = answer.Payload();
   // Silence counts as an answer that is too short; neither is logged.
   if (payload.size() < kAddressBytes) return Result::BluetoothFailed;
-  std::reverse_copy(payload.begin(), payload.begin() + kAddressBytes, address);
+  std::ranges::copy(Reversed(payload.data()), address);
   return operation.Finish(answer.result);
 }
 

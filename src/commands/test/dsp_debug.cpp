@@ -11,7 +11,6 @@ namespace {
 
 constexpr std::uint8_t kType = 50;
 constexpr std::uint32_t kTimeoutMs = 4000;
-constexpr std::size_t kStatusBytes = 4;
 
 Answer Ask(Phone& phone, std::uint8_t subtype, std::span<const std::uint8_t> payload) {
   return Answer(phone.link, {kType, subtype}, payload, kTimeoutMs);
@@ -19,8 +18,7 @@ Answer Ask(Phone& phone, std::uint8_t subtype, std::span<const std::uint8_t> pay
 
 // The exchange's result, unless the handset's own status says otherwise.
 Result Verdict(const Answer& answer) {
-  const bool failed = GetU32(FirstBytes<kStatusBytes>(answer.Payload()), 0) != 0;
-  return failed ? Result::DspDebugFailed : answer.result;
+  return TellsFailure(answer.Payload()) ? Result::DspDebugFailed : answer.result;
 }
 
 bool KnownWidth(std::uint32_t width) { return width == 1 || width == 2 || width == 4; }

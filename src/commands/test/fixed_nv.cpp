@@ -9,7 +9,9 @@
 #include "commands/crc16.h"
 #include "commands/imei.h"
 #include "commands/operation.h"
+#include "commands/storage_frames.h"
 #include "commands/test/gps_nv_block.h"
+#include "commands/test/radio_address.h"
 
 namespace merovane::commands {
 namespace {
@@ -20,10 +22,6 @@ constexpr std::uint8_t kType = 94;
 constexpr FrameId kAnswer{kType, 1};
 constexpr std::uint8_t kReadSubtype = 0xFF;
 constexpr std::uint32_t kTimeoutMs = 3000;
-constexpr std::array<std::uint8_t, 2> kTwoZeroBytes{};
-
-constexpr std::size_t kAddressBytes = 6;
-using Address = std::array<std::uint8_t, kAddressBytes>;
 
 // Where the fields stand in the block. A write's mask says which of them count.
 constexpr std::size_t kBlockBytes = 106;
@@ -57,11 +55,6 @@ std::optional<Address> ParseAddress(const char* text) {
   return address;
 }
 
-Address Reversed(Address address) {
-  std::reverse(address.begin(), address.end());
-  return address;
-}
-
 // A block on its way to the handset.
 struct Writing {
   std::array<std::uint8_t, kBlockBytes> block{};
@@ -81,7 +74,7 @@ bool PutCheckedFields(Writing& writing, const QV_FIXED_NV_INFO& info) {
   if (info.write_imei2 && !writing.Put(kImei2, PackImei(info.imei2))) return false;
   if (info.write_bluetooth_address) {
     auto address = ParseAddress(info.bluetooth_address);
-    if (address) address = Reversed(*address);
+    if (address) address = Reversed(address->data());
     if (!writing.Put(kBluetoothAddress, address)) return false;
   }
   if (info.write_parameter_block) {
@@ -125,7 +118,7 @@ void TakeFields(Block block, QV_FIXED_NV_INFO& info) {
   TakeImei(block, kImei2, info.imei2);
   TakeImei(block, kImei3, info.imei3);
   TakeImei(block, kImei4, info.imei4);
-  PrintAddress(Reversed(AddressAt(block, kBluetoothAddress)), info.bluetooth_address);
+  PrintAddress(Reversed(&block[kBluetoothAddress.offset]), info.bluetooth_address);
   PrintAddress(AddressAt(block, kSecondAddress), info.second_address);
   auto parameters = FirstBytes<kGpsNvBytes>(block.subspan(kParameterBlock.offset));
   ConvertGpsNvBlock(parameters);
@@ -139,9 +132,9 @@ Result CheckFixedNV(Phone& phone, std::uint32_t mode) {
   Operation operation(phone, 220);
   operation.Log("Check NV:");
   const bool block = mode == kInformationBlockMode;
-  const FrameId request = block ? FrameId{kType, 0xC0} : FrameId{13, 7};
-  const FrameId awaited = block ? kAnswer : FrameId{13, 0};
-  return operation.Finish(Answer(phone.link, request, awaited, kTwoZeroBytes, 1000).result);
+  const FrameId request = block ? FrameId{kType, 0xC0} : FrameId{kStorageType, 7};
+  const FrameId awaited = block ? kAnswer : kStorageAnswer;
+  return operation.Finish(Answer(phone.link, request, awaited, kEmptyBlock, 1000).result);
 }
 
 Result NvWriteDirect(Phone& phone, const QV_FIXED_NV_INFO* info) {
@@ -173,7 +166,7 @@ Result FastReadNvInfo(Phone& phone, QV_FIXED_NV_INFO* info) {
   Operation operation(phone, 238);
   if (!info) return Result::InvalidParam;
   operation.Log("Read NV");
-  const Answer answer(phone.link, {kType, kReadSubtype}, kAnswer, kTwoZeroBytes, kTimeoutMs);
+  const Answer answer(phone.link, {kType, kReadSubtype}, kAnswer, kEmptyBlock, kTimeoutMs);
   const auto payload = answer.Payload();
   Result result = answer.result;
   if (answer) {

@@ -7,21 +7,18 @@
 
 #include "commands/answer_fields.h"
 #include "commands/operation.h"
+#include "commands/storage_frames.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {
 namespace {
 
-constexpr FrameId kReadNv{13, 0};
-constexpr FrameId kWriteNv{13, 1};
-constexpr FrameId kReadFlash{13, 2};
-constexpr FrameId kWriteFlash{13, 3};
-constexpr FrameId kEraseFlash{13, 4};
-// All five are answered alike.
-constexpr FrameId kAnswer{13, 0};
+constexpr FrameId kWriteNv{kStorageType, 1};
+constexpr FrameId kReadFlash{kStorageType, 2};
+constexpr FrameId kWriteFlash{kStorageType, 3};
+constexpr FrameId kEraseFlash{kStorageType, 4};
 
 constexpr std::size_t kFlashHeaderBytes = 4;
-constexpr std::size_t kNvHeaderBytes = 2;
 // The header's length field has 16 bits; a longer request would ask for something else.
 constexpr std::uint32_t kMaxFlashBytes = 0xFFFF;
 // What fits into one frame with the header.
@@ -32,12 +29,6 @@ std::array<std::uint8_t, kFlashHeaderBytes> FlashHeader(std::uint16_t item, std:
   std::array<std::uint8_t, kFlashHeaderBytes> header;
   PutU16(header, 0, item);
   PutU16(header, 2, static_cast<std::uint16_t>(length));
-  return header;
-}
-
-std::array<std::uint8_t, kNvHeaderBytes> NvHeader(std::uint16_t item) {
-  std::array<std::uint8_t, kNvHeaderBytes> header;
-  PutU16(header, 0, item);
   return header;
 }
 
@@ -60,7 +51,7 @@ Result ReadFlash(Phone& phone, std::uint16_t item, std::uint8_t* data, std::int3
   if (asked > kMaxFlashBytes) return Result::InvalidParam;
   operation.Log("ReadFlash:");
 
-  const Answer answer(phone.link, kReadFlash, kAnswer, FlashHeader(item, asked), timeoutMs);
+  const Answer answer(phone.link, kReadFlash, kStorageAnswer, FlashHeader(item, asked), timeoutMs);
   if (!answer) return operation.Finish(answer.result);
   const auto payload = answer.Payload();
   if (payload.size() <= kFlashHeaderBytes) {
@@ -82,14 +73,14 @@ Result WriteFlash(Phone& phone, std::uint16_t item, const std::uint8_t* data, st
   operation.Log("WriteFlash:");
   const auto request = Joined(FlashHeader(item, length), data, length);
   const std::uint32_t limitMs = timeoutMs == 0 ? 4000 : timeoutMs;
-  return operation.Finish(Answer(phone.link, kWriteFlash, kAnswer, request, limitMs).result);
+  return operation.Finish(Answer(phone.link, kWriteFlash, kStorageAnswer, request, limitMs).result);
 }
 
 Result EraseFlash(Phone& phone, std::uint32_t timeoutMs) {
   Operation operation(phone, 25);
   if (timeoutMs == 0) return Result::InvalidParam;
   operation.Log("EraseFlash:");
-  return operation.Finish(Answer(phone.link, kEraseFlash, kAnswer, {}, timeoutMs).result);
+  return operation.Finish(Answer(phone.link, kEraseFlash, kStorageAnswer, {}, timeoutMs).result);
 }
 
 Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_t capacity,
@@ -98,7 +89,7 @@ Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_
   if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
   operation.Log("ReadNv:");
 
-  const Answer answer(phone.link, kReadNv, kAnswer, NvHeader(item), timeoutMs);
+  const Answer answer(phone.link, kReadNv, kStorageAnswer, NvHeader(item), timeoutMs);
   if (!answer) return operation.Finish(answer.result);
   // Without sign: an answer shorter than the item id counts as one that is too long.
   const std::size_t arrived = answer.Payload().size() - kNvHeaderBytes;
@@ -113,7 +104,7 @@ Result WriteNv(Phone& phone, std::uint16_t item, const std::uint8_t* data, std::
   if (!data || length > kMaxNvWriteBytes) return Result::InvalidParam;
   operation.Log("WriteNv:");
   const auto request = Joined(NvHeader(item), data, length);
-  return operation.Finish(Answer(phone.link, kWriteNv, kAnswer, request, 1000).result);
+  return operation.Finish(Answer(phone.link, kWriteNv, kStorageAnswer, request, 1000).result);
 }
 
 Result ReadNvFromHandset(Phone& phone, std::uint16_t item, std::uint32_t offset,
@@ -123,7 +114,7 @@ Result ReadNvFromHandset(Phone& phone, std::uint16_t item, std::uint32_t offset,
   const Operation operation(phone, 47);
   if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
 
-  const Answer answer(phone.link, kReadNv, kAnswer, NvHeader(item), 2000);
+  const Answer answer(phone.link, kReadNv, kStorageAnswer, NvHeader(item), 2000);
   if (!answer) return answer.result;
   const std::size_t arrived = answer.Payload().size();
   if (offset > arrived || length > arrived - offset) return Result::InvalidParam;

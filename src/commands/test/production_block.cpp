@@ -17,7 +17,6 @@ constexpr std::uint8_t kVersionType = 96;
 constexpr std::uint8_t kImeiCountType = 97;
 constexpr std::uint8_t kAnswerSubtype = 1;
 constexpr std::uint32_t kTimeoutMs = 3000;
-constexpr std::array<std::uint8_t, 2> kTwoZeroBytes{};
 // Of an answer; a longer one is cut here, so its checksum does not match.
 constexpr std::size_t kMaxAnswerBytes = 1000;
 
@@ -30,7 +29,7 @@ Result ReadBlock(Phone& phone, std::uint8_t type, std::uint8_t* block, std::uint
   // The version block is logged under this name as well.
   operation.Log("Read Product Info");
 
-  const Answer answer(phone.link, {type, 0x81}, {type, kAnswerSubtype}, kTwoZeroBytes, kTimeoutMs);
+  const Answer answer(phone.link, {type, 0x81}, {type, kAnswerSubtype}, kEmptyBlock, kTimeoutMs);
   if (!answer) return operation.Finish(answer.result);
   const auto payload = answer.Payload().first(std::min(answer.Payload().size(), kMaxAnswerBytes));
   if (payload.size() < kChecksumBytes) return operation.Finish(Result::WrongDataLength);
@@ -71,7 +70,7 @@ Result FastReaIMEICount(Phone& phone, std::uint32_t* count) {
   if (!count) return Result::InvalidParam;
   operation.Log("Read IMEI count:");
   const Answer answer(phone.link, {kImeiCountType, 0x80}, {kImeiCountType, kAnswerSubtype},
-                      kTwoZeroBytes, kNoTimeoutMs);
+                      kEmptyBlock, kNoTimeoutMs);
   if (!answer) return operation.Finish(answer.result);
   // As it arrived, whatever the handset's byte order, and from an answer that is too short as well.
   std::memcpy(count, FirstBytes<4>(answer.Payload()).data(), sizeof *count);

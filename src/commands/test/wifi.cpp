@@ -5,6 +5,7 @@
 
 #include "commands/answer_fields.h"
 #include "commands/operation.h"
+#include "commands/test/radio_address.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {
@@ -15,17 +16,11 @@ constexpr std::uint32_t kSettingMs = 3000;
 constexpr std::uint32_t kQuickMs = 1000;
 constexpr std::uint32_t kFactorWriteMs = 8000;
 
-constexpr std::size_t kAddressBytes = 6;
-// Every answer begins with it; it says whether the handset did what it was told.
-constexpr std::size_t kStatusBytes = 4;
-
-bool Failed(const Answer& answer) { return GetU32(FirstBytes<4>(answer.Payload()), 0) != 0; }
-
 // A request of which only the status matters. A failure that the handset reports is not logged.
 Result Tell(Phone& phone, Operation& operation, std::uint8_t subtype,
             std::span<const std::uint8_t> payload, std::uint32_t timeoutMs) {
   const Answer answer(phone.link, {kType, subtype}, payload, timeoutMs);
-  if (Failed(answer)) return Result::WifiFailed;
+  if (TellsFailure(answer.Payload())) return Result::WifiFailed;
   return operation.Finish(answer.result);
 }
 
@@ -78,9 +73,7 @@ Result WIFI_SaveAddr(Phone& phone, const std::uint8_t* address) {
   Operation operation(phone, 262);
   if (!address) return Result::InvalidParam;
   operation.Log("SaveWifiAddr:");
-  std::array<std::uint8_t, kAddressBytes> payload;
-  std::reverse_copy(address, address + kAddressBytes, payload.begin());
-  return Tell(phone, operation, 1, payload, kSettingMs);
+  return Tell(phone, operation, 1, Reversed(address), kSettingMs);
 }
 
 Result WIFI_LoadAddr(Phone& phone, std::uint8_t* address) {
@@ -90,7 +83,8 @@ Result WIFI_LoadAddr(Phone& phone, std::uint8_t* address) {
   const Answer answer(phone.link, {kType, 2}, {}, kQuickMs);
   if (answer) {
     const auto payload = answer.Payload();
-    if (Failed(answer) || payload.size() < kStatusBytes + kAddressBytes) return Result::WifiFailed;
+    if (TellsFailure(payload) || payload.size() < kStatusBytes + kAddressBytes)
+      return Result::WifiFailed;
     std::copy_n(payload.begin() + kStatusBytes, kAddressBytes, address);
   }
   return operation.Finish(answer.result);
@@ -134,7 +128,7 @@ Result WIFI_ReadRxValue(Phone& phone, std::uint32_t* first, std::uint32_t* secon
   if (!first || !second) return Result::InvalidParam;
   operation.Log("ReadRecPackage:");
   const Answer answer(phone.link, {kType, 9}, {}, kQuickMs);
-  if (Failed(answer)) return Result::WifiFailed;
+  if (TellsFailure(answer.Payload())) return Result::WifiFailed;
   // Without an answer the counts read 0.
   const auto words = FirstBytes<12>(answer.Payload());
   *first = GetU32(words, 4);
@@ -154,7 +148,7 @@ Result WIFI_OperFactor(Phone& phone, std::uint32_t factorOperation, QV_WIFI_FACT
   if (factorOperation == kRead) {
     operation.Log("ReadWifiFactor:");
     const Answer answer(phone.link, {kType, kFirstSubtype}, {}, kQuickMs);
-    if (Failed(answer)) return Result::WifiFailed;
+    if (TellsFailure(answer.Payload())) return Result::WifiFailed;
     if (answer) {
       const auto words = FirstBytes<12>(answer.Payload());
       *factor = {0, GetU32(words, 4), GetU32(words, 8)};
