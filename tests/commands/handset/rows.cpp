@@ -86,6 +86,16 @@ std::vector<Row> Rows(const Fields& message) {
   };
   // clang-format off
   return {
+      // Modes.
+      {"EnableDspLog:", 237, 1000, {2, 6, {}}, {6, {}}, "", Does(EnableDspLog, 7)},
+      {"DisableDspLog:", 237, 1000, {2, 7, {}}, {7, {}}, "", Does(EnableDspLog, 0)},
+      {"ChangePhoneMode:", 9, 4000, {12, 10, {}}, {10, {}}, "", Does(ChangePhoneMode, 10)},
+      {"UsbChangePhoneMode:", 10, 4000, {12, 3, {}}, {3, Bytes(2)}, "01 00 00 00",
+       Gets<std::uint32_t>(1, [](Phone& p, auto* out) { return UsbChangePhoneMode(p, 3, out); })},
+      {"RestartPhone:", 11, 100, {12, 0, {}}, {0, {}}, "", Does(RestartPhone, 100)},
+      // Byte 3 becomes a start mode code.
+      {"ReadMode:", 12, 1000, {28, 0, {}}, {0, Hex("01 02 03 25 05")}, "01 02 03 85 05",
+       Gets(5, [](Phone& p, auto* out) { return ReadMode(p, out, 5); })},
       // Items and registers.
       {"ReadFlash:", 23, 100, {13, 2, u16(5, 4).Get()}, {0, u16(5, 4).Raw("01 02 03 04").Get()}, "01 02 03 04",
        Gets(4, [](Phone& p, auto* out) { return ReadFlash(p, 5, out, 4, &length, 100); }), {Result::WrongDataLength}},

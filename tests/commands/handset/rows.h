@@ -14,6 +14,7 @@
 #include "commands/test/gps.h"
 #include "commands/test/identification.h"
 #include "commands/test/peripherals.h"
+#include "commands/test/phone_mode.h"
 #include "commands/test/production_block.h"
 #include "commands/test/registers.h"
 #include "commands/test/serial_number.h"
