@@ -5,14 +5,13 @@
 #include <array>
 #include <cstdlib>
 
-#include "nvproject/commands.h"
 #include "nvproject/support.h"
 #include "project-generator/project_generator.h"
 
 namespace merovane::nvproject::testing {
 namespace {
 
-using ::testing::ElementsAreArray;
+using ::testing::ElementsAre;
 
 using Words = std::vector<std::uint16_t>;
 
@@ -75,14 +74,11 @@ INSTANTIATE_TEST_SUITE_P(Variants, GeneratedProject,
 TEST_P(GeneratedProject, HasEveryItemUnderItsPath) {
   ASSERT_EQ(parser.Items().Items().Size(), 3000U);
   for (const auto& item : generated.items) {
-    std::string content;
-    ASSERT_TRUE(parser.GetItemContent(0, item.path, &content)) << item.path;
-    ASSERT_EQ(content, item.content) << item.path;
+    ASSERT_EQ(Content(parser, item.path), item.content) << item.path;
   }
   EXPECT_EQ(parser.HasAreoSpelling(), GetParam().areoSpelling);
-  std::vector<std::uint8_t> image(kImageCapacity);
-  std::uint32_t length = 0;
-  EXPECT_EQ(GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, {}), Result::Success);
+  std::vector<std::uint8_t> image;
+  EXPECT_EQ(Generate(parser, image), Result::Success);
 }
 
 TEST_P(GeneratedProject, AgcOfEveryBand) {
@@ -90,27 +86,27 @@ TEST_P(GeneratedProject, AgcOfEveryBand) {
     Words words(91), boundary(4);
     std::uint16_t gain = 0;
     ASSERT_EQ(GetNvValueAgc(&parser, words.data(), &gain, boundary.data(), band), Result::Success);
-    EXPECT_THAT(words, ElementsAreArray(Table(BandPath(band) + "agc_ctrl_word", 91)));
+    EXPECT_EQ(words, Table(BandPath(band) + "agc_ctrl_word", 91));
     EXPECT_EQ(gain, Value(BandPath(band) + "max_rf_gain_index", 16));
-    EXPECT_THAT(boundary,
-                ElementsAreArray(Table(BandPath(band) + "RX_compensate_boundary_arfcn_index", 4)));
+    EXPECT_EQ(boundary, Table(BandPath(band) + "RX_compensate_boundary_arfcn_index", 4));
   }
 }
 
 TEST_P(GeneratedProject, SetAgcWritesTheGainIndicesOfOtherBandsFromTheCache) {
-  const auto gain = [&](std::uint32_t band) {
-    return Content(parser, BandPath(band) + "max_rf_gain_index");
+  const auto gains = [&] {
+    std::vector<std::string> contents;
+    for (std::uint32_t band = 0; band < 4; ++band) {
+      contents.push_back(Content(parser, BandPath(band) + "max_rf_gain_index"));
+    }
+    return contents;
   };
   const Words words = Counted(91, 0x8000), compensation = Counted(5, 0);
-  const std::string pcs = gain(3);
+  const std::string pcs = gains()[3];
   // Nothing was read yet: the others become 0, PCS is left alone.
   ASSERT_EQ(SetNvValueAgc(&parser, words.data(), 0x1F, compensation.data(), 1), Result::Success);
-  EXPECT_EQ(gain(0), "0X0");
-  EXPECT_EQ(gain(1), "0X1f");
-  EXPECT_EQ(gain(2), "0X0");
-  EXPECT_EQ(gain(3), pcs);
-  EXPECT_THAT(Table(BandPath(1) + "agc_ctrl_word", 91), ElementsAreArray(words));
-  EXPECT_THAT(Table(BandPath(1) + "RX_compensate_value", 5), ElementsAreArray(compensation));
+  EXPECT_THAT(gains(), ElementsAre("0X0", "0X1f", "0X0", pcs));
+  EXPECT_EQ(Table(BandPath(1) + "agc_ctrl_word", 91), words);
+  EXPECT_EQ(Table(BandPath(1) + "RX_compensate_value", 5), compensation);
 
   // A read fills all four.
   ASSERT_TRUE(parser.SetItemContent(0, BandPath(2) + "max_rf_gain_index", "22"));
@@ -118,10 +114,7 @@ TEST_P(GeneratedProject, SetAgcWritesTheGainIndicesOfOtherBandsFromTheCache) {
   std::uint16_t index = 0;
   ASSERT_EQ(GetNvValueAgc(&parser, read.data(), &index, boundary.data(), 0), Result::Success);
   ASSERT_EQ(SetNvValueAgc(&parser, words.data(), 0xFFFE, compensation.data(), 3), Result::Success);
-  EXPECT_EQ(gain(0), "0X0");
-  EXPECT_EQ(gain(1), "0X1f");
-  EXPECT_EQ(gain(2), "0X22");
-  EXPECT_EQ(gain(3), "0Xfffe");
+  EXPECT_THAT(gains(), ElementsAre("0X0", "0X1f", "0X22", "0Xfffe"));
 }
 
 TEST_P(GeneratedProject, ApcOfEveryBandAndTheCrossingOfGsm) {
@@ -133,14 +126,13 @@ TEST_P(GeneratedProject, ApcOfEveryBandAndTheCrossingOfGsm) {
     ASSERT_EQ(GetNvValueApc(&parser, up0.data(), up1.data(), down0.data(), down1.data(),
                             boundary.data(), factor.data(), band),
               Result::Success);
-    EXPECT_THAT(up0, ElementsAreArray(Ramp(band, "ramp_up_table_stage0")));
-    EXPECT_THAT(up1, ElementsAreArray(Ramp(band, "ramp_up_table_stage1")));
-    const bool gsm = band == 0;
-    EXPECT_THAT(gsm ? down1 : down0, ElementsAreArray(Ramp(band, "ramp_down_table_stage0")));
-    EXPECT_THAT(gsm ? down0 : down1, ElementsAreArray(Ramp(band, "ramp_down_table_stage1")));
-    EXPECT_THAT(boundary,
-                ElementsAreArray(Table(BandPath(band) + "TX_compensate_boundary_arfcn_index", 4)));
-    EXPECT_THAT(factor, ElementsAreArray(factors));
+    if (band == 0) std::swap(down0, down1);
+    EXPECT_EQ(up0, Ramp(band, "ramp_up_table_stage0"));
+    EXPECT_EQ(up1, Ramp(band, "ramp_up_table_stage1"));
+    EXPECT_EQ(down0, Ramp(band, "ramp_down_table_stage0"));
+    EXPECT_EQ(down1, Ramp(band, "ramp_down_table_stage1"));
+    EXPECT_EQ(boundary, Table(BandPath(band) + "TX_compensate_boundary_arfcn_index", 4));
+    EXPECT_EQ(factor, factors);
   }
 }
 
@@ -150,9 +142,8 @@ TEST_P(GeneratedProject, FactorHasBandNumbersOfItsOwn) {
     Words factor(80, 0xEEEE);
     EXPECT_EQ(GetNvValueFactor(&parser, factor.data(), band), Result::Success);
     const bool read = band != 2 && band != 5;
-    EXPECT_THAT(factor, ElementsAreArray(
-                            read ? Table(BandPath(apcBand[band]) + "rf_ramppwr_step_factor", 80)
-                                 : Words(80, 0xEEEE)));
+    EXPECT_EQ(factor, read ? Table(BandPath(apcBand[band]) + "rf_ramppwr_step_factor", 80)
+                           : Words(80, 0xEEEE));
   }
 }
 
@@ -160,78 +151,75 @@ TEST_P(GeneratedProject, AdcChargingAndVersion) {
   std::array<std::uint32_t, 2> adc{}, battery{};
   const std::string points = "calibration_param_T.adc.";
   ASSERT_EQ(GetNvValueAdc1(&parser, adc.data(), battery.data()), Result::Success);
-  EXPECT_EQ(adc[0], Value(points + "adc[0]"));
-  EXPECT_EQ(adc[1], Value(points + "adc[1]"));
+  EXPECT_THAT(adc, ElementsAre(Value(points + "adc[0]"), Value(points + "adc[1]")));
   EXPECT_EQ(battery[1], Value(points + "battery[1]"));
-  adc = {0xFFFFFFFF, 0xabc};
-  ASSERT_EQ(SetNvValueAdc1(&parser, adc.data(), battery.data()), Result::Success);
+  const std::array<std::uint32_t, 2> written = {0xFFFFFFFF, 0xabc};
+  ASSERT_EQ(SetNvValueAdc1(&parser, written.data(), battery.data()), Result::Success);
   EXPECT_EQ(Content(parser, points + "adc[0]"), "0XFFFFFFFF");
   EXPECT_EQ(Content(parser, points + "adc[1]"), "0XABC");
-  std::array<std::uint32_t, 2> again{};
-  ASSERT_EQ(GetNvValueAdc1(&parser, again.data(), battery.data()), Result::Success);
-  EXPECT_EQ(again, adc);
+  ASSERT_EQ(GetNvValueAdc1(&parser, adc.data(), battery.data()), Result::Success);
+  EXPECT_EQ(adc, written);
 
   const std::string charging = "production_param_T.CHR_PARAM_T.";
   Words table(16);
   ASSERT_EQ(GetNvValueAdc2(&parser, table.data()), Result::Success);
-  EXPECT_THAT(table, ElementsAreArray(Table(charging + "adc_voltage_table", 16)));
+  EXPECT_EQ(table, Table(charging + "adc_voltage_table", 16));
   EXPECT_EQ(parser.Calibration().Cached(CommonValue::SwitchVoltage),
             Value(charging + "switch_voltage"));
   table = Counted(16, 9);
   ASSERT_EQ(SetNvValueAdc2(&parser, table.data()), Result::Success);
-  EXPECT_THAT(Table(charging + "adc_voltage_table", 16), ElementsAreArray(table));
+  EXPECT_EQ(Table(charging + "adc_voltage_table", 16), table);
 
-  std::uint16_t version = 0;
   ASSERT_TRUE(parser.SetItemContent(0, "calibration_param_T.cal_param_version", "123"));
-  ASSERT_EQ(GetNvValueNvVersion(&parser, &version), Result::Success);
-  EXPECT_EQ(version, 0x123);
-  version = 0;
-  ASSERT_EQ(GetNvValueNvVersionTd(&parser, &version), Result::Success);
-  EXPECT_EQ(version, 0x123);
+  for (const auto read : {GetNvValueNvVersion, GetNvValueNvVersionTd}) {
+    std::uint16_t version = 0;
+    ASSERT_EQ(read(&parser, &version), Result::Success);
+    EXPECT_EQ(version, 0x123);
+  }
 }
 
 TEST_P(GeneratedProject, AfcUnderTheProjectsSpelling) {
-  std::uint16_t center = 0, slope = 0, length = 0, cdac = 0, cafc = 0;
+  const std::array<std::string, 2> one = {common + "afc_center", common + "afc_slope_hz_per_6bits"};
+  std::uint16_t center = 0, slope = 0;
   ASSERT_EQ(GetNvValueAfc1(&parser, &center, &slope), Result::Success);
-  EXPECT_EQ(center, static_cast<std::uint16_t>(Value(common + "afc_center")));
-  EXPECT_EQ(slope, static_cast<std::uint16_t>(Value(common + "afc_slope_hz_per_6bits")));
+  EXPECT_EQ(center, static_cast<std::uint16_t>(Value(one[0])));
+  EXPECT_EQ(slope, static_cast<std::uint16_t>(Value(one[1])));
   ASSERT_EQ(SetNvValueAfc1(&parser, 0xABC, 0xFFFF), Result::Success);
-  EXPECT_EQ(Content(parser, common + "afc_center"), "0xabc");
-  EXPECT_EQ(Content(parser, common + "afc_slope_hz_per_6bits"), "0xffff");
+  EXPECT_EQ(Content(parser, one[0]), "0xabc");
+  EXPECT_EQ(Content(parser, one[1]), "0xffff");
 
-  Words range(16), value(16), reciprocal(16);
+  const std::array<std::string, 3> values = {afc + "slope_length", afc + "CDAC", afc + "CAFC"};
+  const std::array<std::string, 3> tables = {afc + "slope_struct.afc_range_arr",
+                                             afc + "slope_struct.slope_value_arr",
+                                             afc + "slope_struct.slope_value_reciprocal_arr"};
+  std::array<std::uint16_t, 3> value{};
+  std::array<Words, 3> table = {Words(16), Words(16), Words(16)};
+  ASSERT_EQ(GetNvValueAfc2(&parser, &value[0], &value[1], &value[2], table[0].data(),
+                           table[1].data(), table[2].data()),
+            Result::Success);
+  for (std::size_t at = 0; at < 3; ++at) {
+    EXPECT_EQ(value[at], static_cast<std::uint16_t>(Value(values[at])));
+    EXPECT_EQ(table[at], Table(tables[at], 16));
+    table[at] = Counted(16, static_cast<std::uint16_t>(at));
+  }
   ASSERT_EQ(
-      GetNvValueAfc2(&parser, &length, &cdac, &cafc, range.data(), value.data(), reciprocal.data()),
+      SetNvValueAfc2(&parser, 0x1A, 0x2B, 0x3C, table[0].data(), table[1].data(), table[2].data()),
       Result::Success);
-  EXPECT_EQ(length, static_cast<std::uint16_t>(Value(afc + "slope_length")));
-  EXPECT_EQ(cdac, static_cast<std::uint16_t>(Value(afc + "CDAC")));
-  EXPECT_EQ(cafc, static_cast<std::uint16_t>(Value(afc + "CAFC")));
-  EXPECT_THAT(range, ElementsAreArray(Table(afc + "slope_struct.afc_range_arr", 16)));
-  EXPECT_THAT(value, ElementsAreArray(Table(afc + "slope_struct.slope_value_arr", 16)));
-  EXPECT_THAT(reciprocal,
-              ElementsAreArray(Table(afc + "slope_struct.slope_value_reciprocal_arr", 16)));
-
-  range = Counted(16, 1), value = Counted(16, 2), reciprocal = Counted(16, 3);
-  ASSERT_EQ(
-      SetNvValueAfc2(&parser, 0x1A, 0x2B, 0x3C, range.data(), value.data(), reciprocal.data()),
-      Result::Success);
-  EXPECT_EQ(Content(parser, afc + "slope_length"), "0X1A");
-  EXPECT_EQ(Content(parser, afc + "CDAC"), "0X2B");
-  EXPECT_EQ(Content(parser, afc + "CAFC"), "0X3C");
-  EXPECT_THAT(Table(afc + "slope_struct.afc_range_arr", 16), ElementsAreArray(range));
-  EXPECT_THAT(Table(afc + "slope_struct.slope_value_arr", 16), ElementsAreArray(value));
-  EXPECT_THAT(Table(afc + "slope_struct.slope_value_reciprocal_arr", 16),
-              ElementsAreArray(reciprocal));
+  const std::array<std::string, 3> contents = {"0X1A", "0X2B", "0X3C"};
+  for (std::size_t at = 0; at < 3; ++at) {
+    EXPECT_EQ(Content(parser, values[at]), contents[at]);
+    EXPECT_EQ(Table(tables[at], 16), table[at]);
+  }
 }
 
 TEST(MissingParameters, ReadAsZeroAndASecondPointAsTheFirst) {
-  const auto parser = Load({{{.name = "calibration_param_T", .type = 7},
-                             {.name = "adc", .type = 7, .parent = 0},
-                             {.name = "adc[0]", .type = 4, .parent = 1, .content = "0x7"}}});
+  const auto parser = Load({{{.name = "calibration_param_T", .type = kStruct},
+                             {.name = "adc", .type = kStruct, .parent = 0},
+                             {.name = "adc[0]", .type = kLong, .parent = 1, .content = "0x7"}}});
   std::array<std::uint32_t, 2> adc = {1, 1}, battery = {1, 1};
   ASSERT_EQ(GetNvValueAdc1(parser.get(), adc.data(), battery.data()), Result::Success);
-  EXPECT_THAT(adc, ::testing::ElementsAre(7, 7));
-  EXPECT_THAT(battery, ::testing::ElementsAre(0, 0));
+  EXPECT_THAT(adc, ElementsAre(7, 7));
+  EXPECT_THAT(battery, ElementsAre(0, 0));
 }
 
 }  // namespace

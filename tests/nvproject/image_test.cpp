@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <random>
 
-#include "nvproject/commands.h"
 #include "nvproject/support.h"
 
 namespace merovane::nvproject::testing {
@@ -15,8 +15,6 @@ using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 using ::testing::IsEmpty;
 
-constexpr int kChar = 1, kShort = 2, kLong = 4, kArray = 5, kString = 6, kStruct = 7;
-
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr ImageContext kBig{ByteOrder::Big, 0x01020304};
@@ -24,12 +22,9 @@ constexpr ImageContext kLittle{ByteOrder::Little, 0x01020304};
 
 // The image, without its time stamp.
 Bytes Records(CFileParser& parser, const ImageContext& context = kBig) {
-  Bytes buffer(kImageCapacity, 0xEE);
-  std::uint32_t length = 0;
-  if (!Succeeded(GenerateNvBinaryDataBlockInMemory(&parser, buffer.data(), &length, context))) {
-    return {};
-  }
-  return {buffer.begin() + 4, buffer.begin() + length};
+  Bytes image;
+  EXPECT_EQ(Generate(parser, image, context), Result::Success);
+  return {image.begin() + 4, image.end()};
 }
 
 Bytes Records(const std::vector<TestItem>& items, const ImageContext& context = kBig) {
@@ -39,19 +34,17 @@ Bytes Records(const std::vector<TestItem>& items, const ImageContext& context = 
 TEST(Image, HoldsTimeStampHeaderAndValueInEitherOrder) {
   const auto parser =
       Load({{{.name = "a", .type = kLong, .length = 4, .content = "0x1234", .id = 5}}});
+  Bytes image;
+  ASSERT_EQ(Generate(*parser, image, kBig), Result::Success);
+  EXPECT_THAT(image, ElementsAre(1, 2, 3, 4, 0, 5, 0, 4, 0, 0, 0x12, 0x34));
+  // All of the caller's buffer is cleared.
+  image.resize(kImageCapacity);
   Bytes buffer(kImageCapacity, 0xEE);
   std::uint32_t length = 0;
-  ASSERT_EQ(GenerateNvBinaryDataBlockInMemory(parser.get(), buffer.data(), &length, kBig),
-            Result::Success);
-  ASSERT_EQ(length, 12U);
-  EXPECT_THAT(Bytes(buffer.begin(), buffer.begin() + 12),
-              ElementsAre(1, 2, 3, 4, 0, 5, 0, 4, 0, 0, 0x12, 0x34));
-  // All of the caller's buffer is cleared.
-  EXPECT_EQ(std::count(buffer.begin() + 12, buffer.end(), 0), 65524);
-  ASSERT_EQ(GenerateNvBinaryDataBlockInMemory(parser.get(), buffer.data(), &length, kLittle),
-            Result::Success);
-  EXPECT_THAT(Bytes(buffer.begin(), buffer.begin() + 12),
-              ElementsAre(4, 3, 2, 1, 5, 0, 4, 0, 0x34, 0x12, 0, 0));
+  GenerateNvBinaryDataBlockInMemory(parser.get(), buffer.data(), &length, kBig);
+  EXPECT_EQ(buffer, image);
+  ASSERT_EQ(Generate(*parser, image, kLittle), Result::Success);
+  EXPECT_THAT(image, ElementsAre(4, 3, 2, 1, 5, 0, 4, 0, 0x34, 0x12, 0, 0));
 }
 
 TEST(Image, PadsRecordsAndLeavesRoomForStrings) {
@@ -87,24 +80,23 @@ TEST(Image, PlacesMembersAndElements) {
 }
 
 TEST(Image, ConvertsContents) {
-  const std::vector<std::pair<std::string, std::uint32_t>> cases = {{"10", 10},
-                                                                    {"0x10", 16},
-                                                                    {"10X", 16},
-                                                                    {"", 0},
-                                                                    {"none", 0},
-                                                                    {"x10", 0},
-                                                                    {"-3", 0xFFFFFFFD},
-                                                                    {"+7", 7},
-                                                                    {"0xABCDEFabZ", 0xABCDEFAB},
-                                                                    {"12e", 12},
-                                                                    {"-0x2", 0xFFFFFFFE},
-                                                                    {"4294967298", 2}};
-  for (const auto& [content, value] : cases) {
+  const std::map<std::string, std::uint32_t> values = {{"10", 10},
+                                                       {"0x10", 16},
+                                                       {"10X", 16},
+                                                       {"", 0},
+                                                       {"none", 0},
+                                                       {"x10", 0},
+                                                       {"-3", 0xFFFFFFFD},
+                                                       {"+7", 7},
+                                                       {"12e", 12},
+                                                       {"-0x2", 0xFFFFFFFE},
+                                                       {"0xABCDEFabZ", 0xABCDEFAB},
+                                                       {"4294967298", 2}};
+  for (const auto& [content, value] : values) {
+    Bytes stored(4);
+    StoreValue(stored, value, ByteOrder::Big);
     const Bytes records = Records({{.name = "a", .type = kLong, .length = 4, .content = content}});
-    ASSERT_EQ(records.size(), 8U);
-    const std::uint32_t stored =
-        (std::uint32_t{records[4]} << 24) | (records[5] << 16) | (records[6] << 8) | records[7];
-    EXPECT_EQ(stored, value) << content;
+    EXPECT_EQ(Bytes(records.begin() + 4, records.end()), stored) << content;
   }
 }
 
@@ -119,21 +111,18 @@ std::vector<TestItem> ArrayOf(std::uint32_t count) {
 
 TEST(Image, MayFillItsCapacityAndNotPassIt) {
   EXPECT_EQ(Records(ArrayOf(32764)).size(), 65532U);
-  const auto tooLarge = Load({ArrayOf(32765)});
-  Bytes buffer(kImageCapacity, 0xEE);
-  std::uint32_t length = 77;
-  EXPECT_EQ(GenerateNvBinaryDataBlockInMemory(tooLarge.get(), buffer.data(), &length, kBig),
-            Result::BufferTooSmall);
-  EXPECT_EQ(std::count(buffer.begin(), buffer.end(), 0xEE), 65536);
-  EXPECT_EQ(length, 77U);
+  Bytes image;
+  EXPECT_EQ(Generate(*Load({ArrayOf(32765)}), image), Result::BufferTooSmall);
 }
 
 class ImageFile : public ::testing::Test {
  protected:
-  std::unique_ptr<CFileParser> Open(const std::string& target) {
+  std::unique_ptr<CFileParser> Open(
+      const std::string& target,
+      const std::vector<TestItem>& items = {
+          {.name = "a", .type = kShort, .length = 2, .content = "258", .id = 1}}) {
     WriteFile(directory.Path("p"), "TARGET = " + target + "\nMODULE = m\n");
-    WriteFile(directory.Path("m"),
-              ModuleFile({{.name = "a", .type = kShort, .length = 2, .content = "258", .id = 1}}));
+    WriteFile(directory.Path("m"), ModuleFile(items));
     auto parser = std::make_unique<CFileParser>();
     return parser->LoadProject(directory.Path("p")) ? std::move(parser) : nullptr;
   }
@@ -159,11 +148,7 @@ TEST_F(ImageFile, FailuresAreShownOnly) {
 
 TEST_F(ImageFile, TooLargeAnImageLeavesTheOldFile) {
   WriteFile(directory.Path("nv.bin"), "old");
-  Open("nv.bin");
-  WriteFile(directory.Path("m"), ModuleFile(ArrayOf(32765)));
-  CFileParser parser;
-  ASSERT_TRUE(parser.LoadProject(directory.Path("p")));
-  EXPECT_EQ(SaveToBinaryFile(&parser, kBig), Result::BufferTooSmall);
+  EXPECT_EQ(SaveToBinaryFile(Open("nv.bin", ArrayOf(32765)).get(), kBig), Result::BufferTooSmall);
   EXPECT_EQ(ReadFile(directory.Path("nv.bin")), "old");
 }
 
@@ -208,124 +193,6 @@ TEST(ConvertBlock, ReversesValuesOfTheItemsInPlace) {
   EXPECT_THAT(converted("s", {1, 2, 3, 4, 5}), ElementsAre(1, 2, 3, 4, 5));
 }
 
-// Plain copies of the items, laid out and rendered without remembering anything.
-struct PlainProject {
-  std::vector<std::vector<Item>> modules;
-
-  explicit PlainProject(const CFileParser& parser) {
-    const ItemStore& items = parser.Items();
-    for (const ItemStore::Module& module : items.Modules()) {
-      auto& list = modules.emplace_back();
-      for (std::uint32_t i = 0; i < module.count; ++i) list.push_back(items[module.first + i]);
-    }
-  }
-
-  static void StoreBack(std::vector<Item>& list, const Item& item) {
-    if (item.index >= 0 && static_cast<std::size_t>(item.index) < list.size()) {
-      list[static_cast<std::size_t>(item.index)] = item;
-    }
-  }
-
-  static void Align(std::uint32_t& at, std::uint32_t width) {
-    while (at % width != 0) ++at;
-  }
-
-  // The recursive rule; gives the position behind the last member.
-  static std::size_t Structure(std::vector<Item>& list, std::size_t s, std::uint32_t& at) {
-    std::uint32_t widest = list[s].offset;
-    std::size_t i = s + 1;
-    while (i < list.size() && list[i].parent >= static_cast<std::int64_t>(s)) {
-      if (list[i].type == ItemType::Struct || list[i].type == ItemType::Array) {
-        i = Structure(list, i, at);
-        continue;
-      }
-      const std::uint32_t width = ScalarWidth(list[i].type);
-      if (width > 0) {
-        Align(at, width);
-        widest = width == 4 ? 4 : std::max(widest, width);
-        Item member = list[i];
-        member.offset = at;
-        StoreBack(list, member);
-        at += width;
-      }
-      ++i;
-    }
-    if (widest == 2 || widest == 4) Align(at, widest);
-    Item item = list[s];
-    item.length = at;
-    item.offset = widest;
-    StoreBack(list, item);
-    return i;
-  }
-
-  void LayOut() {
-    for (auto& list : modules) {
-      for (std::size_t i = 0; i < list.size();) {
-        std::uint32_t at = 0;
-        if (list[i].parent == -1 && list[i].type == ItemType::Struct) {
-          i = Structure(list, i, at);
-        } else if (list[i].parent == -1 && list[i].type == ItemType::Array) {
-          const std::size_t array = i;
-          const std::uint32_t size = list[i].size;
-          std::uint32_t last = 0;
-          ++i;
-          for (std::uint32_t k = 0; k < size && i < list.size(); ++k, ++i) {
-            Item element = list[i];
-            last = element.length;
-            if (const std::uint32_t width = ScalarWidth(element.type); width > 0) {
-              Align(at, width);
-              element.offset = at;
-              at += width;
-            }
-            StoreBack(list, element);
-          }
-          Item item = list[array];
-          item.length = last * size;
-          StoreBack(list, item);
-        } else {
-          ++i;
-        }
-      }
-    }
-  }
-
-  Bytes Records(ByteOrder order) const {
-    Bytes image(200000, 0);
-    const auto store = [&](std::size_t at, std::uint64_t value, std::size_t width) {
-      for (std::size_t i = 0; i < width; ++i) {
-        const std::size_t shift = order == ByteOrder::Little ? i : width - 1 - i;
-        image[at + i] = static_cast<std::uint8_t>(value >> (8 * shift));
-      }
-    };
-    std::size_t at = 0;
-    std::size_t length = 0;
-    const auto next = [&] {
-      if (length > 0) at = (at + length + 4 + 3) / 4 * 4;
-    };
-    for (const auto& list : modules) {
-      for (const Item& item : list) {
-        const std::uint32_t width = ScalarWidth(item.type);
-        const std::uint64_t value = std::strtoull(
-            item.content.c_str(), nullptr, item.content.find('x') == std::string::npos ? 10 : 16);
-        if (item.parent == -1) {
-          next();
-          length = item.length;
-          if (width > 0 || item.type == ItemType::Array || item.type == ItemType::Struct) {
-            store(at, item.id, 2);
-            store(at + 2, item.length, 2);
-          }
-          store(at + 4, value, width);
-        } else {
-          store(at + 4 + item.offset, value, width);
-        }
-      }
-    }
-    next();
-    image.resize(at);
-    return image;
-  }
-};
-
 TEST(Image, IsTheSameAsOneBuiltAnewAfterAnyChanges) {
   for (unsigned seed = 1; seed <= 80; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
@@ -356,14 +223,14 @@ TEST(Image, IsTheSameAsOneBuiltAnewAfterAnyChanges) {
         const Item& item = parser->Items()[static_cast<std::uint32_t>(random()) % count];
         parser->SetItemContent(0, item.fullPath, "0x" + std::to_string(below(1000)));
       }
-      PlainProject plain(*parser);
-      plain.LayOut();
       const ImageContext context{below(4) ? ByteOrder::Big : ByteOrder::Little, 0};
-      ASSERT_THAT(Records(*parser, context), ElementsAreArray(plain.Records(context.order)));
-      std::uint32_t at = 0;
-      for (const auto& list : plain.modules) {
-        for (const Item& item : list) ASSERT_EQ(parser->Items()[at++], item);
-      }
+      ItemStore anew = Copied(parser->Items());
+      Layout().Run(anew, kImageStart);
+      NvImage image;
+      ASSERT_TRUE(image.Build(anew, kImageStart, context.order));
+      ASSERT_THAT(Records(*parser, context),
+                  ElementsAreArray(image.Bytes().subspan(4, image.Length() - 4)));
+      for (std::uint32_t i = 0; i < count; ++i) ASSERT_EQ(parser->Items()[i], anew[i]);
     }
   }
 }

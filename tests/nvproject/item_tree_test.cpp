@@ -11,9 +11,6 @@
 namespace merovane::nvproject::testing {
 namespace {
 
-constexpr int kArray = 5;
-constexpr int kStruct = 7;
-
 std::vector<std::string> Paths(const std::vector<TestItem>& items) {
   const auto parser = Load({items});
   std::vector<std::string> paths;
@@ -95,49 +92,17 @@ TEST(Lookup, ContentIsCutTo255Characters) {
   EXPECT_EQ(Content(*parser, "a"), std::string(255, 'c'));
 }
 
-// Keeps the items as plain copies and goes through all of them each time.
-class PlainTree {
- public:
-  explicit PlainTree(const CFileParser& parser) {
-    const ItemStore& items = parser.Items();
-    for (const ItemStore::Module& module : items.Modules()) {
-      auto& list = modules_.emplace_back();
-      for (std::uint32_t i = 0; i < module.count; ++i) list.push_back(items[module.first + i]);
-    }
+// The content of the first item of that path, letter case ignored; "?" when there is none.
+std::string Scan(const ItemList& items, std::string_view path) {
+  const auto same = [](char a, char b) {
+    return std::tolower(static_cast<unsigned char>(a)) ==
+           std::tolower(static_cast<unsigned char>(b));
+  };
+  for (std::uint32_t at = 0; at < items.Size(); ++at) {
+    if (std::ranges::equal(items[at].fullPath, path, same)) return items[at].content;
   }
-
-  std::string Get(std::string_view path) {
-    const auto [module, at] = Scan(path);
-    return module < modules_.size() ? modules_[module][at].content : "?";
-  }
-
-  bool Set(std::string_view path, const std::string& content) {
-    const auto [module, at] = Scan(path);
-    if (module == modules_.size()) return false;
-    Item item = modules_[module][at];
-    item.content = content;
-    const auto target = static_cast<std::size_t>(item.index);
-    if (item.index >= 0 && target < modules_[module].size()) modules_[module][target] = item;
-    return true;
-  }
-
- private:
-  std::pair<std::size_t, std::size_t> Scan(std::string_view path) const {
-    for (std::size_t module = 0; module < modules_.size(); ++module) {
-      for (std::size_t at = 0; at < modules_[module].size(); ++at) {
-        if (std::ranges::equal(modules_[module][at].fullPath, path, [](char a, char b) {
-              return std::tolower(static_cast<unsigned char>(a)) ==
-                     std::tolower(static_cast<unsigned char>(b));
-            })) {
-          return {module, at};
-        }
-      }
-    }
-    return {modules_.size(), 0};
-  }
-
-  std::vector<std::vector<Item>> modules_;
-};
+  return "?";
+}
 
 TEST(Lookup, AnswersAsALinearScanWhateverIsWritten) {
   for (unsigned seed = 1; seed <= 60; ++seed) {
@@ -161,18 +126,17 @@ TEST(Lookup, AnswersAsALinearScanWhateverIsWritten) {
       }
     }
     const auto parser = Load(modules);
-    PlainTree plain(*parser);
+    const ItemList& items = parser->Items().Items();
     std::vector<std::string> paths = {"", "a9"};
-    for (std::uint32_t i = 0; i < parser->Items().Items().Size(); ++i) {
-      paths.emplace_back(parser->Items()[i].fullPath);
-    }
+    for (std::uint32_t i = 0; i < items.Size(); ++i) paths.emplace_back(items[i].fullPath);
     for (int step = 0; step < 60; ++step) {
-      const std::string path =
-          paths[static_cast<std::size_t>(below(static_cast<int>(paths.size())))];
-      const std::string content = std::to_string(1000 + step);
-      ASSERT_EQ(parser->SetItemContent(0, path, content), plain.Set(path, content)) << path;
-      for (const std::string& each : paths)
-        ASSERT_EQ(Content(*parser, each), plain.Get(each)) << each;
+      const auto chosen = static_cast<std::size_t>(below(static_cast<int>(paths.size())));
+      const std::string& path = paths[chosen];
+      const bool there = Scan(items, path) != "?";
+      ASSERT_EQ(parser->SetItemContent(0, path, std::to_string(1000 + step)), there) << path;
+      for (const std::string& each : paths) {
+        ASSERT_EQ(Content(*parser, each), Scan(items, each)) << each;
+      }
     }
   }
 }

@@ -14,7 +14,8 @@ using ::testing::SizeIs;
 // A project whose one module file is this text.
 std::unique_ptr<CFileParser> LoadModuleText(const std::string& text) {
   auto parser = ParserOf({{"d\\p", "MODULE = m\n"}, {"d\\m", text}});
-  return parser->LoadProject("d\\p") ? std::move(parser) : nullptr;
+  EXPECT_TRUE(parser->LoadProject("d\\p"));
+  return parser;
 }
 
 const Item& OnlyItem(const CFileParser& parser) {
@@ -52,7 +53,6 @@ TEST(Reader, TakesItemKeysInAnyOrderAndOutsideOfItems) {
       "\t# no comment, but no key either\n"
       "END_ITEM\n"
       "BEGIN_ITEM\nITEM_NAME = never_ended\n");
-  ASSERT_NE(parser, nullptr);
   const Item& item = OnlyItem(*parser);
   EXPECT_EQ(item.name, "first");
   EXPECT_EQ(item.fullPath, "first");
@@ -70,7 +70,6 @@ TEST(Reader, BeginClearsAndEndDoesNot) {
   const auto parser = LoadModuleText(
       "BEGIN_ITEM\nITEM_NAME = a\nITEM_PARENT = -1\nITEM_CONTENT = 5\nITEM_DESC =x\n"
       "END_ITEM\nITEM_INDEX = 1\nEND_ITEM\nBEGIN_ITEM\nEND_ITEM\n");
-  ASSERT_NE(parser, nullptr);
   ASSERT_EQ(parser->Items().Items().Size(), 3U);
   EXPECT_EQ(parser->Items()[1].name, "a");
   EXPECT_EQ(parser->Items()[1].index, 1);
@@ -84,7 +83,6 @@ TEST(Reader, ValueThatCannotBeReadLeavesTheFieldAsItWas) {
   const auto parser = LoadModuleText(
       "BEGIN_ITEM\nITEM_NAME = a\nITEM_LENGTH = 9\nITEM_PARENT = -1\nITEM_NAME =   \n"
       "ITEM_LENGTH = none\nITEM_LENGTH = -\nITEM_LENGTH\nITEM_CONTENT\nEND_ITEM\n");
-  ASSERT_NE(parser, nullptr);
   EXPECT_EQ(OnlyItem(*parser).name, "a");
   EXPECT_EQ(OnlyItem(*parser).length, 9U);
 }
@@ -100,7 +98,6 @@ TEST(Reader, LongLinesAreReadInPieces) {
     text.append(key).append(lineEnd);
     text.append("END_ITEM").append(lineEnd);
     const auto parser = LoadModuleText(text);
-    ASSERT_NE(parser, nullptr);
     EXPECT_EQ(OnlyItem(*parser).name, std::string(63, 'n'));
     EXPECT_EQ(OnlyItem(*parser).length, 12U);
   }
@@ -113,7 +110,6 @@ TEST(Reader, PieceHoldsItsLineEndWhenThereIsRoom) {
     line.resize(total, 'd');
     const auto parser = LoadModuleText(
         std::string("BEGIN_ITEM\nITEM_PARENT = -1\n").append(line).append("\r\nEND_ITEM\n"));
-    ASSERT_NE(parser, nullptr);
     std::string expected = line.substr(kStart.size()).append("\n");
     expected.resize(std::min(expected.size(), 259 - kStart.size()));
     EXPECT_EQ(OnlyItem(*parser).description, expected) << total;
@@ -124,7 +120,6 @@ TEST(Reader, ZeroByteEndsAPiece) {
   using namespace std::string_literals;
   const auto parser = LoadModuleText(
       "BEGIN_ITEM\nITEM_PARENT = -1\nITEM_DESC =ab\0cd\nITEM_NAME = x\0y\nEND_ITEM\0 z\n"s);
-  ASSERT_NE(parser, nullptr);
   EXPECT_EQ(OnlyItem(*parser).description, "ab");
   EXPECT_EQ(OnlyItem(*parser).name, "x");
 }

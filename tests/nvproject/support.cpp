@@ -1,5 +1,8 @@
 #include "nvproject/support.h"
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
 #include <atomic>
 #include <fstream>
 #include <iterator>
@@ -81,6 +84,29 @@ CaughtMessages::CaughtMessages() {
 }
 
 CaughtMessages::~CaughtMessages() { platform::SetMessageBox(nullptr); }
+
+ItemStore Copied(const ItemStore& items) {
+  ItemStore copy;
+  for (const ItemStore::Module& module : items.Modules()) {
+    copy.BeginModule();
+    for (std::uint32_t i = 0; i < module.count; ++i) copy.Append(items[module.first + i]);
+  }
+  return copy;
+}
+
+Result Generate(CFileParser& parser, std::vector<std::uint8_t>& image,
+                const ImageContext& context) {
+  image.assign(kImageCapacity, 0xEE);
+  std::uint32_t length = 77;
+  const Result result = GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, context);
+  if (Succeeded(result)) {
+    image.resize(length);
+  } else {
+    EXPECT_EQ(std::count(image.begin(), image.end(), 0xEE), kImageCapacity);
+    EXPECT_EQ(length, 77U);
+  }
+  return result;
+}
 
 std::string Content(CFileParser& parser, std::string_view path) {
   std::string content;

@@ -9,14 +9,16 @@
 #include <string_view>
 #include <vector>
 
-#include "nvproject/file_parser.h"
+#include "nvproject/commands.h"
 
 namespace merovane::nvproject::testing {
+
+inline constexpr int kChar = 1, kShort = 2, kLong = 4, kArray = 5, kString = 6, kStruct = 7;
 
 // A field for each key of an item; a size above 0 is written.
 struct TestItem {
   std::string name = {};
-  int type = 1;
+  int type = kChar;
   int parent = -1;
   std::uint32_t length = 0;
   std::string content = {};
@@ -59,6 +61,13 @@ class CaughtMessages {
  private:
   std::vector<std::string> texts_;
 };
+
+// A store of its own with the items as they are now; they lend it their texts.
+ItemStore Copied(const ItemStore& items);
+
+// Builds the image, from a buffer of other bytes; a failure leaves buffer and length as they are.
+Result Generate(CFileParser& parser, std::vector<std::uint8_t>& image,
+                const ImageContext& context = {});
 
 // The content of that path; "?" when there is none.
 std::string Content(CFileParser& parser, std::string_view path);

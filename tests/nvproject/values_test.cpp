@@ -3,17 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <functional>
+#include <type_traits>
+#include <utility>
 
-#include "nvproject/commands.h"
 #include "nvproject/support.h"
 
 namespace merovane::nvproject::testing {
 namespace {
 
 using ::testing::ElementsAre;
-
-constexpr int kArray = 5;
 
 std::vector<TestItem> ArrayItems(const std::vector<std::pair<std::string, std::string>>& elements) {
   std::vector<TestItem> items = {{.name = "a", .type = kArray}};
@@ -44,15 +42,13 @@ TEST(ItemArrays, TheNotationDecidesWhereBothAreThere) {
 }
 
 TEST(ItemArrays, WriteHexadecimalAndSkipWhatIsMissing) {
+  const std::array<std::int16_t, 6> values = {-2, 255, 7, 0, -32768, 0x1ab};
   const auto parser =
       Load({ArrayItems({{"[0]", ""}, {"[0x1]", ""}, {"[3]", ""}, {"[4]", ""}, {"[5]", ""}})});
-  const std::array<std::int16_t, 6> values = {-2, 255, 7, 0, -32768, 0x1ab};
   parser->SetItemArray("a", values, IndexNotation::Hexadecimal, 0);
-  EXPECT_EQ(Content(*parser, "a[0]"), "0XFFFE");
-  EXPECT_EQ(Content(*parser, "a[0x1]"), "0XFF");
-  EXPECT_EQ(Content(*parser, "a[3]"), "0X0");
-  EXPECT_EQ(Content(*parser, "a[4]"), "0X8000");
-  EXPECT_EQ(Content(*parser, "a[5]"), "0X1AB");
+  std::vector<std::string> contents;
+  for (std::uint32_t i = 1; i < 6; ++i) contents.push_back(parser->Items()[i].content);
+  EXPECT_THAT(contents, ElementsAre("0XFFFE", "0XFF", "0X0", "0X8000", "0X1AB"));
 }
 
 TEST(ItemArrays, AWriteThatTakesAnotherElementsPlaceIsSeenByTheNext) {
@@ -95,90 +91,78 @@ TEST(Commands, OpenReplacesAndAFailedOpenLeavesNone) {
   EXPECT_EQ(ClosePrjFile(project), Result::Success);
 }
 
-// Every command, with one of its pointers null by turns, without and with a project.
-TEST(Commands, CheckArgumentsAndProjectInTheirOrder) {
-  const auto open = Load({{{.name = "a"}}});
+template <typename T>
+T NulledIf(bool nulled, T value) {
+  if constexpr (std::is_pointer_v<T>) return nulled ? nullptr : value;
+  return value;
+}
+
+// A command with good arguments, which a project that holds none of its values does not fail, and
+// with each of its pointers null by turns.
+template <typename... Parameters, typename... Arguments>
+void ExpectChecks(Result (*command)(CFileParser*, Parameters...), Arguments... arguments) {
+  const auto project = Load({{{.name = "a"}}});
+  const auto call = [&]<std::size_t... At>(CFileParser * parser, std::size_t nulled,
+                                           std::index_sequence<At...>) {
+    return command(parser, NulledIf(At == nulled, static_cast<Parameters>(arguments))...);
+  };
+  constexpr auto kAll = std::index_sequence_for<Parameters...>();
+  EXPECT_EQ(call(nullptr, sizeof...(Parameters), kAll), Result::NvProjectNotOpen);
+  EXPECT_EQ(call(project.get(), sizeof...(Parameters), kAll), Result::Success);
+  constexpr bool kPointers[] = {std::is_pointer_v<Parameters>...};
+  for (std::size_t at = 0; at < sizeof...(Parameters); ++at) {
+    if (!kPointers[at]) continue;
+    EXPECT_EQ(call(nullptr, at, kAll), Result::InvalidParam) << at;
+    EXPECT_EQ(call(project.get(), at, kAll), Result::InvalidParam) << at;
+  }
+}
+
+TEST(Commands, CheckArgumentsBeforeTheProject) {
   std::array<std::uint16_t, 100> u16{};
   std::array<std::uint32_t, 2> u32{};
   std::vector<char> bytes(kImageCapacity);
   std::uint16_t* const w = u16.data();
   std::uint32_t* const d = u32.data();
   char* const b = bytes.data();
-  using Call = std::function<Result(CFileParser*)>;
-  const ImageContext context;
-  const std::vector<Call> missing = {
-      [&](auto* p) { return GetNvValue(p, 0, nullptr, b, 1); },
-      [&](auto* p) { return GetNvValue(p, 0, "a", nullptr, 1); },
-      [&](auto* p) { return GetNvValue(p, 0, "a", b, 0); },
-      [&](auto* p) { return SetNvValue(p, 0, nullptr, "1"); },
-      [&](auto* p) { return SetNvValue(p, 0, "a", nullptr); },
-      [&](auto* p) { return GenerateNvBinaryDataBlockInMemory(p, nullptr, d, context); },
-      [&](auto* p) { return GenerateNvBinaryDataBlockInMemory(p, b, nullptr, context); },
-      [&](auto* p) { return GetItemOffsetAndSize(p, nullptr, d); },
-      [&](auto* p) { return GetItemOffsetAndSize(p, "a", nullptr); },
-      [&](auto* p) { return GetNvValueAgc(p, nullptr, w, w, 0); },
-      [&](auto* p) { return GetNvValueAgc(p, w, nullptr, w, 0); },
-      [&](auto* p) { return GetNvValueAgc(p, w, w, nullptr, 0); },
-      [&](auto* p) { return GetNvValueAgc(p, w, w, w, 4); },
-      [&](auto* p) { return SetNvValueAgc(p, nullptr, 1, w, 0); },
-      [&](auto* p) { return SetNvValueAgc(p, w, 1, nullptr, 0); },
-      [&](auto* p) { return SetNvValueAgc(p, w, 1, w, 0xFFFFFFFF); },
-      [&](auto* p) { return GetNvValueApc(p, nullptr, w, w, w, w, w, 0); },
-      [&](auto* p) { return GetNvValueApc(p, w, w, w, w, w, nullptr, 0); },
-      [&](auto* p) { return GetNvValueApc(p, w, w, w, w, w, w, 4); },
-      [&](auto* p) { return SetNvValueApc(p, nullptr, 0); },
-      [&](auto* p) { return SetNvValueApc(p, w, 4); },
-      [&](auto* p) { return GetNvValueNvVersion(p, nullptr); },
-      [&](auto* p) { return GetNvValueNvVersionTd(p, nullptr); },
-      [&](auto* p) { return GetNvValueAdc1(p, nullptr, d); },
-      [&](auto* p) { return SetNvValueAdc1(p, d, nullptr); },
-      [&](auto* p) { return GetNvValueAdc2(p, nullptr); },
-      [&](auto* p) { return SetNvValueAdc2(p, nullptr); },
-      [&](auto* p) { return GetNvValueAfc1(p, w, nullptr); },
-      [&](auto* p) { return GetNvValueAfc2(p, w, w, nullptr, w, w, w); },
-      [&](auto* p) { return SetNvValueAfc2(p, 1, 2, 3, w, w, nullptr); }};
-  for (std::size_t i = 0; i < missing.size(); ++i) {
-    EXPECT_EQ(missing[i](nullptr), Result::InvalidParam) << i;
-    EXPECT_EQ(missing[i](open.get()), Result::InvalidParam) << i;
+  ExpectChecks(GetNvValue, 0, "a", b, 1);
+  ExpectChecks(SetNvValue, 0, "a", "1");
+  ExpectChecks(GenerateNvBinaryDataBlockInMemory, b, d, ImageContext());
+  ExpectChecks(GetItemOffsetAndSize, "a", d);
+  ExpectChecks(GetNvValueAgc, w, w, w, 3);
+  ExpectChecks(SetNvValueAgc, w, 1, w, 3);
+  ExpectChecks(GetNvValueApc, w, w, w, w, w, w, 3);
+  ExpectChecks(SetNvValueApc, w, 3);
+  ExpectChecks(GetNvValueNvVersion, w);
+  ExpectChecks(GetNvValueNvVersionTd, w);
+  ExpectChecks(GetNvValueAdc1, d, d);
+  ExpectChecks(SetNvValueAdc1, d, d);
+  ExpectChecks(GetNvValueAdc2, w);
+  ExpectChecks(SetNvValueAdc2, w);
+  ExpectChecks(GetNvValueAfc1, w, w);
+  ExpectChecks(SetNvValueAfc1, 1, 2);
+  ExpectChecks(GetNvValueAfc2, w, w, w, w, w, w);
+  ExpectChecks(SetNvValueAfc2, 1, 2, 3, w, w, w);
+  for (const Result result :
+       {GetNvValue(nullptr, 0, "a", b, 0), GetNvValueAgc(nullptr, w, w, w, 4),
+        SetNvValueAgc(nullptr, w, 1, w, 0xFFFFFFFF), GetNvValueApc(nullptr, w, w, w, w, w, w, 4),
+        SetNvValueApc(nullptr, w, 4)}) {
+    EXPECT_EQ(result, Result::InvalidParam);
   }
+}
 
-  const std::vector<Call> projectFirst = {
-      [&](auto* p) { return ConvertDataByDataType(p, nullptr, b, 1); },
-      [&](auto* p) { return ConvertDataByDataType(p, "a", nullptr, 1); },
-      [&](auto* p) { return ConvertDataByDataType(p, "a", b, 0); },
-      [&](auto* p) { return GetNvValueFactor(p, nullptr, 2); }};
-  for (const Call& call : projectFirst) {
-    EXPECT_EQ(call(nullptr), Result::NvProjectNotOpen);
-    EXPECT_EQ(call(open.get()), Result::InvalidParam);
-  }
-
-  const std::vector<Call> complete = {
-      [&](auto* p) { return GetNvValue(p, 0, "a", b, 1); },
-      [&](auto* p) { return SetNvValue(p, 0, "a", "1"); },
-      [&](auto* p) { return GenerateNvBinaryDataBlockInMemory(p, b, d, context); },
-      [&](auto* p) { return GetItemOffsetAndSize(p, "a", d); },
-      [&](auto* p) { return ConvertDataByDataType(p, "a", b, 1); },
-      [&](auto* p) { return GetNvValueAgc(p, w, w, w, 3); },
-      [&](auto* p) { return SetNvValueAgc(p, w, 1, w, 3); },
-      [&](auto* p) { return GetNvValueApc(p, w, w, w, w, w, w, 3); },
-      [&](auto* p) { return SetNvValueApc(p, w, 3); },
-      [&](auto* p) { return GetNvValueFactor(p, w, 4); },
-      [&](auto* p) { return GetNvValueNvVersion(p, w); },
-      [&](auto* p) { return GetNvValueNvVersionTd(p, w); },
-      [&](auto* p) { return GetNvValueAdc1(p, d, d); },
-      [&](auto* p) { return SetNvValueAdc1(p, d, d); },
-      [&](auto* p) { return GetNvValueAdc2(p, w); },
-      [&](auto* p) { return SetNvValueAdc2(p, w); },
-      [&](auto* p) { return GetNvValueAfc1(p, w, w); },
-      [&](auto* p) { return SetNvValueAfc1(p, 1, 2); },
-      [&](auto* p) { return GetNvValueAfc2(p, w, w, w, w, w, w); },
-      [&](auto* p) { return SetNvValueAfc2(p, 1, 2, 3, w, w, w); }};
-  for (std::size_t i = 0; i < complete.size(); ++i) {
-    EXPECT_EQ(complete[i](nullptr), Result::NvProjectNotOpen) << i;
-    // What the project does not hold is not an error.
-    EXPECT_EQ(complete[i](open.get()), Result::Success) << i;
-  }
-  EXPECT_EQ(SaveToBinaryFile(nullptr, context), Result::NvProjectNotOpen);
+TEST(Commands, ThatCheckTheProjectFirst) {
+  const auto project = Load({{{.name = "a"}}});
+  std::array<std::uint16_t, 80> words{};
+  char byte = 0;
+  EXPECT_EQ(ConvertDataByDataType(nullptr, nullptr, &byte, 1), Result::NvProjectNotOpen);
+  EXPECT_EQ(ConvertDataByDataType(project.get(), nullptr, &byte, 1), Result::InvalidParam);
+  EXPECT_EQ(ConvertDataByDataType(project.get(), "a", nullptr, 1), Result::InvalidParam);
+  EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 0), Result::InvalidParam);
+  EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 1), Result::Success);
+  EXPECT_EQ(GetNvValueFactor(nullptr, nullptr, 2), Result::NvProjectNotOpen);
+  EXPECT_EQ(GetNvValueFactor(project.get(), nullptr, 2), Result::InvalidParam);
+  EXPECT_EQ(GetNvValueFactor(project.get(), words.data(), 4), Result::Success);
+  EXPECT_EQ(SaveToBinaryFile(nullptr, {}), Result::NvProjectNotOpen);
 }
 
 }  // namespace
