@@ -55,43 +55,21 @@ const Sample kSamples[] = {
      RUNS(QV_ReadData_Flash_ADC_Adc1(data))},
     {"WriteData_Ram_ADC_Battery0:", 78, kWrites, 4, {0, 0, 1, 2, 4},
      RUNS(QV_WriteData_Ram_ADC_Battery0_MT(port, kLong))},
-    {"WriteData_Flash_ADC_Reserved7:", 243, kWrites, 4, {1, 0, 1, 11, 4},
-     RUNS(QV_WriteData_Flash_ADC_Reserved7(kLong))},
     // Records no id, so that the one before stands.
-    {"WriteData_Flash_ADC:", 243, kWrites, 4, {1, 0, 1, 200, 4},
+    {"WriteData_Flash_ADC:", 78, kWrites, 4, {1, 0, 1, 200, 4},
      RUNS(QV_WriteData_Flash_ADC(200, kLong))},
-    {"ReadData_Flash_AFC_afc_center:", 89, kReads, 2, {1, 0, 2, 0, 2},
-     RUNS(QV_ReadData_Flash_AFC_afc_center(data))},
     {"WriteData_Flash_AFC_afc_slope_hz_per_6bits:", 98, kWrites, 2, {1, 0, 3, 0, 2},
      RUNS(QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(kWord))},
-    {"ReadData_Ram_AFC_slope_length:", 107, kReads, 2, {0, 0, 5, 0, 2},
-     RUNS(QV_ReadData_Ram_AFC_slope_length(data))},
-    {"ReadData_Ram_AFC_CDAC:", 107, kReads, 2, {0, 0, 6, 0, 2},
-     RUNS(QV_ReadData_Ram_AFC_CDAC(data))},
     {"WriteData_Ram_AFC_slope_value_arr:", 119, kWrites, 2, {0, 0, 4, 0, 34},
      RUNS(QV_WriteData_Ram_AFC_slope_value_arr(data))},
-    {"WriteData_Flash_APC_RF_ramppwr_step_factor:", 124, kWrites, 2, {1, 4, 21, 0, 160},
-     RUNS(QV_WriteData_Flash_APC_RF_ramppwr_step_factor(4, data))},
-    {"WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk:", 245, kWrites, 2, {0, 3, 36, 0, 2},
-     RUNS(QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk(3, kWord))},
-    {"WriteData_Ram_AGC_max_rf_gain_index:", 126, kWrites, 2, {0, 4, 24, 0, 2},
-     RUNS(QV_WriteData_Ram_AGC_max_rf_gain_index(4, kWord))},
     {"ReadData_Ram_AGC_RX_compensate_value:", 127, kReads, 2, {0, 1, 18, 0, 14},
      RUNS(QV_ReadData_Ram_AGC_RX_compensate_value_MT(port, 1, data, 7))},
-    {"ReadData_Flash_AGC_agc_ctrl_word:", 135, kReads, 2, {1, 0, 23, 0, 182},
-     RUNS(QV_ReadData_Flash_AGC_agc_ctrl_word(0, data))},
     {"SetRampTable_Flash:", 142, kWrites, 2, {1, 3, 8, 100, 40},
      RUNS(QV_SetRampTable_Flash(3, 5, data))},
     {"ReadRampTableConstDown_Ram:", 153, kReads, 2, {0, 1, 10, 9, 2},
      RUNS(QV_ReadRampTableConstDown_Ram(1, 9, data))},
-    {"ReadRampTableAllConstUp_Flash:", 157, kReads, 2, {1, 4, 9, 0, 32},
-     RUNS(QV_ReadRampTableAllConstUp_Flash(4, data))},
-    {"SetRampUpParamNum_Ram:", 156, kWrites, 2, {0, 0, 11, 0, 2},
-     RUNS(QV_SetRampUpParamNum_Ram(0, kWord))},
     {"WriteData_Ram_Duration_8PSK:", 251, kWrites, 2, {0, 1, 39, 0x123, 2},
      RUNS(QV_WriteData_Ram_Duration_8PSK(1, 0x123, kWord))},
-    {"ReadData_Flash_TxGain_8PSK:", 256, kReads, 2, {1, 4, 37, 2, 2},
-     RUNS(QV_ReadData_Flash_TxGain_8PSK_MT(port, 4, 2, data))},
     {"GetRfScheme:", 170, kReads, 2, {0, 0, 33, 0, 12}, RUNS(QV_GetRfScheme(data))},
     {"RW_RF_EDGE_DELTA_TIMING:", 170, kReads, 2, {1, 3, 58, 0, 2},
      RUNS(QV_RW_RF_EDGE_DELTA_TIMING(1, 1, 3, data))},
@@ -138,26 +116,6 @@ TEST_F(Exports, TravelWithTheirHeaderInTheHandsetsByteOrder) {
       ExpectLogged(sample.logName);
     });
   }
-}
-
-TEST_F(Exports, OfOtherShapesPassTheirArguments) {
-  std::array<char, 16> text{};
-  std::array<std::uint16_t, 16> first{};
-  std::array<std::uint16_t, 16> second{};
-  ExpectRead(Header({1, 0, 35, 0, 8}), ReadAnswer().Raw("4A 09 51 24 30 32 57 81"));
-  EXPECT_EQ(QV_ReadData_Flash_SecIMEI(text.data()), 0);
-  ExpectWrite(Header({1, 0, 30, 0, 8}).Raw("4A 09 51 24 30 32 57 81"));
-  EXPECT_EQ(QV_WriteData_Flash_IMEI_MT(port, text.data()), 0);
-  ExpectWrite(Header({1, 0, 32, 0, 0}));
-  EXPECT_EQ(QV_SaveToFlash(20000), 0);
-  ExpectRead(Header({0, 1, 8, 0, 32}), ReadAnswer().U16(1));
-  ExpectRead(Header({0, 1, 10, 0, 32}), ReadAnswer().U16(2));
-  EXPECT_EQ(QV_ReadRamp_Ram_MChip(0, first.data(), second.data(), 1), 0);
-  EXPECT_EQ(first[0], 1);
-  EXPECT_EQ(second[0], 2);
-  const QV_POWER_STEP step{1, 2, 3, 4};
-  ExpectWrite(Header({0, 1, 37, 66, 2, 3}));
-  EXPECT_EQ(QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(port, &step), 0);
 }
 
 }  // namespace

@@ -8,10 +8,7 @@ constexpr std::size_t kReportBytes = 27648;
 
 struct ExtendedAfc : CalibrationFixture {
   ExtendedAfc() {
-    run[0].values[0] = 1;
-    run[0].values[1] = 2;
-    run[0].values[2] = 3;
-    run[0].values[3] = 0x1234;
+    std::ranges::copy(std::array<std::uint16_t, 4>{1, 2, 3, 0x1234}, run[0].values);
     run[0].count = 16;
   }
   Result Start() { return AfcStartEx(phone, 1, run.Data()); }
@@ -77,22 +74,20 @@ TEST_F(ExtendedAfc, ShortAnswersAreSkippedAndEndTheReport) {
 }
 
 TEST_F(ExtendedAfc, FailureEndsTheRunAndLeavesTheRecord) {
-  std::uint32_t before = clock.NowMs();
+  const auto failsWith = [&](Result result, std::uint32_t waitedMs) {
+    const std::uint32_t before = clock.NowMs();
+    EXPECT_EQ(Start(), result);
+    EXPECT_EQ(clock.NowMs() - before, waitedMs);
+  };
   ExpectStart().Silent();
-  EXPECT_EQ(Start(), Result::NoAnswer);
-  EXPECT_EQ(clock.NowMs() - before, 9000U);
-
-  before = clock.NowMs();
+  failsWith(Result::NoAnswer, 9000);
   ExpectStart().Answer(10, 1, Block(2, 600));
   ExpectNext().Silent();
-  EXPECT_EQ(Start(), Result::NoAnswer);
-  EXPECT_EQ(clock.NowMs() - before, 3000U);
-
+  failsWith(Result::NoAnswer, 3000);
   ExpectStart().Refuse();
-  EXPECT_EQ(Start(), Result::Refused);
+  failsWith(Result::Refused, 0);
   ExpectStart().WriteFails();
-  EXPECT_EQ(Start(), Result::WriteFailed);
-
+  failsWith(Result::WriteFailed, 0);
   ExpectStart().Answer(10, 1, Block(2, 600));
   ExpectNext().Answer(10, 1, Block(2, 600));
   handset.Expect(10, 1, Message(0xA125, 16)).Silent();

@@ -1,5 +1,6 @@
 #include "commands/calibration/gsm.h"
 
+#include <numeric>
 #include <tuple>
 
 #include "calibration/calibration_fixture.h"
@@ -126,61 +127,49 @@ TEST_F(Receiver, LeavesTheResultWhenNoReportComes) {
   EXPECT_TRUE(measured.Untouched());
 }
 
-struct Transmitter : CalibrationFixture {};
+using Transmitter = CalibrationFixture;
 
-TEST_F(Transmitter, IsTrimmedWithTheFirstValueInThirdPlace) {
-  const QV_AFC_PARAMETERS parameters{{1, 2, 3, 4}};
+TEST_F(Transmitter, TakesItsSettings) {
+  const QV_AFC_PARAMETERS trim{{1, 2, 3, 4}};
+  const QV_POWER_STEP step{0x01020304, 0x0506, 0x0708, 0x090A0B0C};
+  std::array<std::uint16_t, 16> up{};
+  std::array<std::uint16_t, 16> down{};
+  std::iota(up.begin(), up.end(), std::uint16_t{0x101});
+  std::iota(down.begin(), down.end(), std::uint16_t{0x201});
   InBothByteOrders([&] {
+    // The first value in third place.
     ExpectMessage(Words(Message(0xA114, 24), {2, 3, 1, 4}));
-    EXPECT_EQ(AfcStart(phone, 1, &parameters), Result::Success);
+    EXPECT_EQ(AfcStart(phone, 1, &trim), Result::Success);
     ExpectMessage(Message(0xA115, 16));
     EXPECT_EQ(AfcStart(phone, 0, nullptr), Result::Success);
-  });
-  ExpectRefused(53, CALL(AfcStart(phone, 1, nullptr)));
-}
 
-TEST_F(Transmitter, TakesPowerStepsAndAmplifierSettings) {
-  const QV_POWER_STEP step{0x01020304, 0x0506, 0x0708, 0x090A0B0C};
-  InBothByteOrders([&] {
     ExpectMessage(Words(Message(0xA119, 28).U32(0x01020304), {0x0506, 0x0708}).U32(0x090A0B0C));
     EXPECT_EQ(PwrStepFactorSet(phone, &step), Result::Success);
     // The high half of the amplifier's last field is in the station's order in either case.
     ExpectMessage(
         Words(Message(0xA11A, 28).U32(0x01020304), {0x0506, 0x0708, 0x0B0C}).Raw("0A 09"));
     EXPECT_EQ(PASetting(phone, &step), Result::Success);
-  });
-  ExpectRefused(56, CALL(PwrStepFactorSet(phone, nullptr)));
-  ExpectRefused(64, CALL(PASetting(phone, nullptr)));
-}
 
-TEST_F(Transmitter, TakesRampsOfABand) {
-  std::array<std::uint16_t, 16> up{};
-  std::array<std::uint16_t, 16> down{};
-  InBothByteOrders([&] {
-    Fields message = Words(Message(0xA118, 88).U32(3), {1});
-    for (auto& point : up)
-      message.U16(point = static_cast<std::uint16_t>(0x101 + (&point - up.data())));
-    for (auto& point : down)
-      message.U16(point = static_cast<std::uint16_t>(0x201 + (&point - down.data())));
-    ExpectMessage(message.Zeros(2));
+    Fields ramps = Words(Message(0xA118, 88).U32(3), {1});
+    for (const auto& ramp : {up, down}) {
+      for (const std::uint16_t point : ramp) ramps.U16(point);
+    }
+    ExpectMessage(ramps.Zeros(2));
     EXPECT_EQ(RampSetting(phone, 0x10000, up.data(), down.data(), 3), Result::Success);
   });
+  ExpectRefused(53, CALL(AfcStart(phone, 1, nullptr)));
+  ExpectRefused(56, CALL(PwrStepFactorSet(phone, nullptr)));
+  ExpectRefused(64, CALL(PASetting(phone, nullptr)));
   ExpectRefused(63, CALL(RampSetting(phone, 0, up.data(), down.data(), 2)),
                 CALL(RampSetting(phone, 0, nullptr, down.data(), 3)),
                 CALL(RampSetting(phone, 0, up.data(), nullptr, 3)));
 }
 
-TEST_F(Transmitter, EntersAndLeavesFullPowerWithoutWaiting) {
+TEST_F(Transmitter, EntersFullPowerWithoutWaiting) {
   const std::uint32_t before = clock.NowMs();
-  for (const auto& [command, subtype, operation] :
-       {std::tuple{&commands::EnterMaxTxPowerStatus, std::uint8_t{6}, 59U},
-        {&commands::LeaveMaxTxPowerStatus, std::uint8_t{0}, 60U},
-        {&commands::EnterMaxRxPowerStatus, std::uint8_t{5}, 61U},
-        {&commands::LeaveMaxRxPowerStatus, std::uint8_t{0}, 62U}}) {
-    handset.Expect(17, subtype);
-    EXPECT_EQ(command(phone), Result::Success);
-    EXPECT_EQ(OperationOf(Result::Success), operation);
-  }
+  handset.Expect(17, 6);
+  EXPECT_EQ(EnterMaxTxPowerStatus(phone), Result::Success);
+  EXPECT_EQ(OperationOf(Result::Success), 59U);
   EXPECT_EQ(clock.NowMs(), before);
   handset.Expect(17, 6).WriteFails();
   EXPECT_EQ(EnterMaxTxPowerStatus(phone), Result::WriteFailed);

@@ -71,15 +71,15 @@ TEST_F(MultiChip, TransmitterTakesItsParametersAsTheyWereSet) {
 }
 
 TEST_F(MultiChip, FirstFailingStepEndsACommand) {
+  const QV_AFC_PARAMETERS afc{{1, 2, 3, 4}};
+  const QV_AGC_PARAMETERS agc{0, {700, 2, 3, 4}, 0};
+  QV_AGC_RESULT measured{};
   ExpectStep(0, 19, 700);
   ExpectWriteRefused();
   EXPECT_EQ(TxOn_MChip(phone, 1, 700, 10), Result::Refused);
   EXPECT_EQ(phone.calibration.lastPcl, 0);
-  const QV_AFC_PARAMETERS afc{{1, 2, 3, 4}};
   ExpectWriteRefused();
   EXPECT_EQ(AfcStart_MChip(phone, 1, &afc), Result::Refused);
-  const QV_AGC_PARAMETERS agc{0, {700, 2, 3, 4}, 0};
-  QV_AGC_RESULT measured{};
   ExpectStep(0, 20, 4);
   ExpectWriteRefused();
   EXPECT_EQ(AgcStart_MChip(phone, 1, &agc, &measured), Result::Refused);
@@ -134,9 +134,9 @@ TEST_F(MultiChip, AgcMeasuresUntilRssiSettles) {
     EXPECT_EQ(AgcStart_MChip(phone, 0, &parameters, nullptr), Result::Success);
   });
   QV_AGC_RESULT measured{};
-  ExpectRefused(65, CALL(AgcStart_MChip(phone, 1, nullptr, &measured)));
-  ExpectRefused(65, CALL(AgcStart_MChip(phone, 1, &parameters, nullptr)));
-  ExpectRefused(65, CALL(AgcStart_MChip(phone, 0, nullptr, nullptr)));
+  ExpectRefused(65, CALL(AgcStart_MChip(phone, 1, nullptr, &measured)),
+                CALL(AgcStart_MChip(phone, 1, &parameters, nullptr)),
+                CALL(AgcStart_MChip(phone, 0, nullptr, nullptr)));
 }
 
 TEST_F(MultiChip, RssiOfZeroIsReadSixTimes) {
@@ -145,7 +145,7 @@ TEST_F(MultiChip, RssiOfZeroIsReadSixTimes) {
   EXPECT_EQ(steps::GetRssi(phone, rssi), Result::InvalidRssi);
   EXPECT_EQ(rssi, 0);
   for (int read = 0; read < 5; ++read) ExpectWordRead(0, 25, 0);
-  handset.ExpectAnyPayload(32, 1).Answer(32, 1, "00 00 00 00 00 00");
+  ExpectRead(Header({0, 0, 25, 0, 2}), ReadAnswer());
   EXPECT_EQ(steps::GetRssi(phone, rssi), Result::WrongDataLength);
 }
 
@@ -171,20 +171,21 @@ TEST_F(MultiChip, DirectCurrentIsMeasuredInBandZero) {
 TEST_F(MultiChip, DirectCurrentEndsWithTheReceiverOffWhateverFailed) {
   std::uint16_t first = 7;
   std::uint16_t second = 7;
+  const auto failsWith = [&](Result result) {
+    ExpectWrite(ReceiverRequest(0, 0, 0, 260));
+    EXPECT_EQ(CalDirectCurr(phone, &first, &second), result);
+  };
   ExpectWriteRefused();
-  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
-  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Refused);
+  failsWith(Result::Refused);
   ExpectStep(0, 19, 61);
   handset.Expect(32, 0, ReceiverRequest(0, 1, 0, 260, 1)).Refuse();
-  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
-  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Refused);
+  failsWith(Result::Refused);
   ExpectWrite(ReceiverRequest(0, 1, 0, 260, 1));
-  ExpectRead(Header({0, 0, 41, 0, 4}), handset.Message().Raw("00 00 00 00 00 00"));
-  ExpectWrite(ReceiverRequest(0, 0, 0, 260));
-  EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::WrongDataLength);
+  ExpectRead(Header({0, 0, 41, 0, 4}), ReadAnswer());
+  failsWith(Result::WrongDataLength);
   EXPECT_EQ(first, 7);
-  ExpectRefused(258, CALL(CalDirectCurr(phone, nullptr, &second)));
-  ExpectRefused(258, CALL(CalDirectCurr(phone, &first, nullptr)));
+  ExpectRefused(258, CALL(CalDirectCurr(phone, nullptr, &second)),
+                CALL(CalDirectCurr(phone, &first, nullptr)));
 }
 
 TEST_F(MultiChip, ActivationAndBandAreCheckedAndLogged) {
@@ -237,52 +238,45 @@ TEST_F(NonSignal, OtherCommandsReturnTheirStatusAlone) {
   ExpectRefused(259, CALL(SendNonSignalCmd(phone, nullptr, answer.Data(), 1000)));
 }
 
-struct MultiChipData : MultiChip {};
+using MultiChipData = MultiChip;
 
 TEST_F(MultiChipData, PowerFactorGoesToItsLevelsPlace) {
   InBothByteOrders([&] {
     phone.calibration = {};
     EXPECT_EQ(SetPhoneClassmark_MChip(phone, 3), Result::Success);
-    static_cast<void>(Log());
-    // Table 2, level 19 less 5 in bands 0 and 4; the band word is the current band.
-    const QV_POWER_STEP low{4, 19, 0x0BCD, 2};
-    ExpectWrite(Header({0, 3, 21, 46, 2}).U16(0x0BCD));
-    EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &low), Result::Success);
-    ExpectLogged("PwrStepFactorSet_MChip:");
-    EXPECT_EQ(OperationOf(Result::Success), 70U);
-    // No check of this band, which counts levels from 0.
-    const QV_POWER_STEP high{2, 15, 0x0BCD, 2};
-    ExpectWrite(Header({0, 3, 21, 47, 2}).U16(0x0BCD));
-    EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &high),
-              Result::Success);
+    // Table 2, level 19 less 5 in bands 0 and 4; the band word is the current band. No check of
+    // other bands, which count levels from 0.
+    for (const auto& [step, offset] : {std::pair{QV_POWER_STEP{4, 19, 0x0BCD, 2}, 46U},
+                                       {QV_POWER_STEP{2, 15, 0x0BCD, 2}, 47U}}) {
+      static_cast<void>(Log());
+      ExpectWrite(Header({0, 3, 21, offset, 2}).U16(0x0BCD));
+      EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &step),
+                Result::Success);
+      ExpectLogged("PwrStepFactorSet_MChip:");
+      EXPECT_EQ(OperationOf(Result::Success), 70U);
+    }
   });
 }
 
 TEST_F(MultiChipData, FactorsAreWrittenOnceEachToItsOwnPlace) {
   const QV_POWER_STEP step{1, 0, 0, 0};
-  struct Place {
-    const commands::MultiChipFactor& factor;
-    unsigned storage, item;
-    std::uint32_t operation;
-  };
-  const Place places[] = {{multi_chip::Set_Flash_8PSK_PWR_FACTOR_MChip, 1, 36, 228},
-                          {multi_chip::Set_Ram_8PSK_PWR_FACTOR_MChip, 0, 36, 229},
-                          {multi_chip::Set_Flash_8PSK_PWR_TX_GAIN_MChip, 1, 37, 240},
-                          {multi_chip::Set_Ram_8PSK_PWR_TX_GAIN_MChip, 0, 37, 241}};
-  for (const Place& place : places) {
-    SCOPED_TRACE(place.factor.logName);
+  const QV_POWER_STEP wrongBand{2, 0, 0, 0};
+  const auto expectOnce = [&](const MultiChipFactor& factor, unsigned storage, unsigned item,
+                              std::uint32_t operation) {
+    SCOPED_TRACE(factor.logName);
     // A failed write is repeated, a good one not; zeros are a value as any other.
     handset.ExpectAnyPayload(32, 0).Silent();
-    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::NoAnswer);
-    EXPECT_EQ(OperationOf(Result::NoAnswer), place.operation);
-    ExpectWrite(Header({place.storage, 1, place.item, 0, 2}).U16(0));
-    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::Success);
-    EXPECT_EQ(SetMultiChipFactor(phone, place.factor, &step), Result::Success);
-    static_cast<void>(Log());
-    ExpectRefused(place.operation, CALL(SetMultiChipFactor(phone, place.factor, nullptr)));
-    const QV_POWER_STEP wrongBand{2, 0, 0, 0};
-    ExpectRefused(place.operation, CALL(SetMultiChipFactor(phone, place.factor, &wrongBand)));
-  }
+    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::NoAnswer);
+    EXPECT_EQ(OperationOf(Result::NoAnswer), operation);
+    ExpectWrite(Header({storage, 1, item, 0, 2}).U16(0));
+    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::Success);
+    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::Success);
+    ExpectRefused(operation, CALL(SetMultiChipFactor(phone, factor, nullptr)),
+                  CALL(SetMultiChipFactor(phone, factor, &wrongBand)));
+  };
+  expectOnce(multi_chip::Set_Flash_8PSK_PWR_FACTOR_MChip, 1, 36, 228);
+  expectOnce(multi_chip::Set_Ram_8PSK_PWR_FACTOR_MChip, 0, 36, 229);
+  expectOnce(multi_chip::Set_Ram_8PSK_PWR_TX_GAIN_MChip, 0, 37, 241);
   ExpectRefused(70, CALL(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, nullptr)));
 }
 
@@ -312,13 +306,11 @@ TEST_F(MultiChipData, RampsComeInPairs) {
     EXPECT_EQ(WriteMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, up.data(), down.data(), 4),
               Result::Refused);
   });
-  std::array<std::uint16_t, 16> table{};
-  ExpectRefused(138,
-                CALL(ReadMultiChipRamp(phone, multi_chip::Ramp_Ram, 1, nullptr, table.data(), 0)));
-  ExpectRefused(137,
-                CALL(WriteMultiChipRamp(phone, multi_chip::Ramp_Ram, 1, table.data(), nullptr, 0)));
-  ExpectRefused(139, CALL(WriteMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, table.data(),
-                                             table.data(), 2)));
+  std::uint16_t table[16] = {};
+  using multi_chip::Ramp_Flash, multi_chip::Ramp_Ram;
+  ExpectRefused(138, CALL(ReadMultiChipRamp(phone, Ramp_Ram, 1, nullptr, table, 0)));
+  ExpectRefused(137, CALL(WriteMultiChipRamp(phone, Ramp_Ram, 1, table, nullptr, 0)));
+  ExpectRefused(139, CALL(WriteMultiChipRamp(phone, Ramp_Flash, 1, table, table, 2)));
 }
 
 }  // namespace
