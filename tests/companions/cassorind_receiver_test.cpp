@@ -48,8 +48,7 @@ class CassorindReceiver : public AnyDevice {
 TEST_P(CassorindReceiver, GetsEverythingInOrder) {
   ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
   Open();
-  // Chunks are promised for 128 KiB, so no more may be under way; eight rounds pass the end of
-  // their memory.
+  // Chunks are promised for 512 KiB, so no more may be under way; eight rounds pass that.
   for (int round = 0; round < 8; ++round) {
     const std::string data = EveryByteValue(100'000);
     std::thread sender([&] { peer->Send(data); });

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <string>
 #include <thread>
 
@@ -48,6 +49,29 @@ TEST_P(CassorindStream, ClearDropsFetchedAndUnfetchedInput) {
   EXPECT_NE(channel->Clear(), 0);
   peer->Send("z");
   EXPECT_EQ(ReadAll(*channel, 1), "z");
+}
+
+TEST_P(CassorindStream, ClearReturnsWhileTheDeviceKeepsSending) {
+  constexpr int kEnough = 10'000;
+  Open();
+  std::atomic<int> sent{0};
+  std::atomic<bool> flooding{true};
+  std::atomic<bool> flooded{false};
+  std::thread flood([&] {
+    const std::string piece(65536, 'x');
+    while (flooding && sent < kEnough) {
+      peer->Send(piece);
+      ++sent;
+    }
+    flooded = true;
+  });
+  EXPECT_EQ(ReadAll(*channel, 1, 1), "x");
+  EXPECT_NE(channel->Clear(), 0);
+  EXPECT_LT(sent, kEnough);
+  flooding = false;
+  std::string rest(65536, '\0');
+  while (!flooded) channel->Read(rest.data(), static_cast<std::uint32_t>(rest.size()), 10, 0);
+  flood.join();
 }
 
 TEST_P(CassorindStream, AVanishedDeviceEndsReadsAndWrites) {

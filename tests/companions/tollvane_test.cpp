@@ -11,13 +11,13 @@
 #include <thread>
 
 #include "channel_server.h"
+#include "companions/chunks.h"
 #include "companions/tcp_peer.h"
-#include "platform/message_queue.h"
 
 namespace {
 
-using merovane::platform::Message;
-using merovane::platform::TakeMessage;
+using peers::Message;
+using peers::TakeMessage;
 
 constexpr std::uint32_t kServerMessage = 2025;
 constexpr std::chrono::milliseconds kPatience{peers::kPatienceMs};
@@ -94,24 +94,11 @@ std::int32_t ForwardText(TollvaneServer& client, const std::string& text) {
   return client.Forward(text.data(), static_cast<std::uint32_t>(text.size()));
 }
 
-std::string TakeChunks(std::size_t bytes) {
-  std::string data;
-  Message message;
-  while (data.size() < bytes && TakeMessage(message, peers::kPatienceMs)) {
-    EXPECT_EQ(message.id, kServerMessage);
-    data.append(reinterpret_cast<const char*>(message.first),
-                static_cast<std::size_t>(message.second));
-  }
-  return data;
-}
+std::string TakeChunks(std::size_t bytes) { return peers::TakeChunks(kServerMessage, bytes); }
 
 class Tollvane : public ::testing::Test {
  protected:
-  void SetUp() override {
-    Message message;
-    while (TakeMessage(message, 0)) {
-    }
-  }
+  void SetUp() override { peers::EmptyQueue(); }
   // With the server knowing of it too, so that it has whom to inject to.
   void ConnectToServer() {
     ASSERT_TRUE(ConnectTo(*client, server.Port()));
@@ -123,13 +110,19 @@ class Tollvane : public ::testing::Test {
   Client client{InitDll()};
 };
 
-TEST_F(Tollvane, CarriesDataBothWays) {
-  ConnectToServer();
-  EXPECT_NE(client->RegisterReceiver(kServerMessage, 1, self), 0);
+TEST_F(Tollvane, CarriesDataBothWaysForEveryClient) {
+  const Client second(InitDll());
+  for (TollvaneServer* const each : {client.get(), second.get()}) {
+    ASSERT_TRUE(ConnectTo(*each, server.Port()));
+    EXPECT_NE(each->RegisterReceiver(kServerMessage, 1, self), 0);
+  }
+  EXPECT_TRUE(server.AwaitClients(2));
   EXPECT_EQ(ForwardText(*client, "from the handset"), 16);
   EXPECT_EQ(server.AwaitData(16), "from the handset");
-  server.Inject("to the handset");
-  EXPECT_EQ(TakeChunks(14), "to the handset");
+  server.Inject("ab");
+  std::string got = TakeChunks(4);
+  std::sort(got.begin(), got.end());
+  EXPECT_EQ(got, "aabb");
 }
 
 TEST_F(Tollvane, ConnectsOnlyToAListeningServer) {
@@ -194,8 +187,7 @@ TEST_F(Tollvane, EveryRegisteredThreadGetsEveryChunk) {
 }
 
 TEST_F(Tollvane, AFullQueueDelaysAndLosesNothing) {
-  int filled = 0;
-  while (filled < 10000 && merovane::platform::PostMessageToThread(self, 1, 0, 0)) ++filled;
+  const int filled = peers::FillQueue();
   ConnectToServer();
   EXPECT_NE(client->RegisterReceiver(kServerMessage, 1, self), 0);
   server.Inject("delayed");
@@ -238,19 +230,6 @@ TEST_F(Tollvane, ChunksOutliveTheDisconnect) {
   ASSERT_TRUE(TakeMessage(message, peers::kPatienceMs));
   EXPECT_NE(client->Disconnect(), 0);
   EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(message.first), 4), "kept");
-}
-
-TEST_F(Tollvane, EveryClientOfTheServerGetsWhatIsInjected) {
-  const Client second(InitDll());
-  for (TollvaneServer* const each : {client.get(), second.get()}) {
-    ASSERT_TRUE(ConnectTo(*each, server.Port()));
-    EXPECT_NE(each->RegisterReceiver(kServerMessage, 1, self), 0);
-  }
-  EXPECT_TRUE(server.AwaitClients(2));
-  server.Inject("ab");
-  std::string got = TakeChunks(4);
-  std::sort(got.begin(), got.end());
-  EXPECT_EQ(got, "aabb");
 }
 
 }  // namespace

@@ -11,10 +11,12 @@
 
 namespace cassorind {
 
-// How long a connection may take to come about.
+// How long a connection may take to come about once its host name is resolved.
 inline constexpr std::uint32_t kConnectLimitMs = 2000;
 // How long a device may take no byte before a write is given up.
 inline constexpr std::uint32_t kWriteStallMs = 2000;
+
+inline constexpr std::uint32_t kMaxBaudRate = 4'000'000;
 
 inline constexpr std::int32_t kDeviceGone = -1;
 

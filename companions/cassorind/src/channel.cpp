@@ -49,9 +49,9 @@ std::int32_t Channel::SetReceiver(std::uint32_t messageId, std::int32_t enabled,
     std::lock_guard lock(mutex_);
     receiver_.reset();
     if (enabled != 0) {
-      receiver_ = companions::Receiver{threadId, messageId};
       if (!arena_) arena_ = std::make_shared<companions::ChunkArena>();
       arena = arena_;
+      receiver_ = companions::Receiver{threadId, messageId};
     }
   }
   if (!session) return 1;

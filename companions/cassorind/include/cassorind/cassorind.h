@@ -36,8 +36,8 @@ class CassorindChannel {
   // queue is full, or the thread has none, the channel waits and nothing is lost.
   //
   // The channel owns every chunk: the receiver reads it and never frees it. A
-  // chunk stays as it is until 128 KiB more have been posted or the channel is
-  // released, whichever comes first.
+  // chunk stays as it is for 5 seconds, less when 512 KiB more come meanwhile, and its
+  // memory can be read until the channel is released.
   virtual std::int32_t SetReceiver(std::uint32_t messageId, std::int32_t enabled,
                                    std::uint32_t threadId) = 0;
   // Non-zero on success. Fails when the channel is open already, when another one

@@ -12,8 +12,6 @@ namespace cassorind {
 
 namespace {
 
-constexpr std::uint32_t kMaxBaudRate = 4'000'000;
-
 class SerialPort final : public DescriptorStream {
  public:
   using DescriptorStream::DescriptorStream;

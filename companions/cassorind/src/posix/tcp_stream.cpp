@@ -3,6 +3,7 @@
 #include <netinet/in.h>
 #include <netinet/tcp.h>
 #include <poll.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
@@ -24,13 +25,19 @@ class TcpStream final : public DescriptorStream {
   using DescriptorStream::DescriptorStream;
 
   bool Clear() override {
+    // No more than is there now: a peer that never stops sending must not hold the caller.
+    int waiting = 0;
+    if (::ioctl(Get(), FIONREAD, &waiting) != 0) return false;
     std::array<std::byte, 4096> dropped;
-    for (;;) {
-      const ssize_t count = ::recv(Get(), dropped.data(), dropped.size(), MSG_DONTWAIT);
+    while (waiting > 0) {
+      const auto piece = std::min(static_cast<std::size_t>(waiting), dropped.size());
+      const ssize_t count = ::recv(Get(), dropped.data(), piece, MSG_DONTWAIT);
       // The end of the stream stays readable, so that the next read tells of it.
       if (count == 0) return true;
       if (count < 0 && errno != EINTR) return errno == EAGAIN;
+      waiting -= static_cast<int>(std::max<ssize_t>(count, 0));
     }
+    return true;
   }
 
  private:

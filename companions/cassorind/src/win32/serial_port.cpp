@@ -12,9 +12,9 @@ namespace {
 
 using Outcome = OverlappedTransfer::Outcome;
 
-constexpr std::uint32_t kMaxBaudRate = 4'000'000;
 constexpr DWORD kQueueBytes = 64 * 1024;
 constexpr std::size_t kWritePiece = 4096;
+constexpr std::uint32_t kWaitingBytesLimitMs = 20;
 
 class SerialPort final : public ByteStream {
  public:
@@ -62,8 +62,8 @@ std::int32_t SerialPort::Read(std::span<std::byte> buffer, std::uint32_t timeLim
   const auto rest = buffer.subspan(
       count, std::min<std::size_t>(buffer.size() - count,
                                    static_cast<std::size_t>(std::max<std::int64_t>(waiting, 0))));
-  // With a limit, since another thread may clear what was waiting.
-  if (!rest.empty()) count += reading_.Read(device_, rest, timeLimitMs, stop).bytes;
+  // They are there already, unless another thread clears them at this moment.
+  if (!rest.empty()) count += reading_.Read(device_, rest, kWaitingBytesLimitMs, stop).bytes;
   return static_cast<std::int32_t>(count);
 }
 

@@ -79,7 +79,7 @@ class TcpStream final : public ByteStream {
     std::size_t written = 0;
     while (written < data.size() && !stop.IsSet()) {
       // The system would take bytes for a peer that has gone and tell of it only later.
-      if (IsReadable(socket_.Get()) && WaitingBytes(socket_.Get()) == 0) break;
+      if (PeerHasGone()) break;
       const auto piece = data.subspan(written, std::min(kPiece, data.size() - written));
       const auto result = writing_.Write(Handle(), piece, kWriteStallMs, stop);
       written += result.bytes;
@@ -89,16 +89,31 @@ class TcpStream final : public ByteStream {
   }
 
   bool Clear() override {
+    // No more than is there now: a peer that never stops sending must not hold the caller.
     std::array<char, 4096> dropped;
-    for (u_long waiting; (waiting = WaitingBytes(socket_.Get())) > 0;) {
+    for (u_long total = WaitingBytes(socket_.Get()); total > 0;) {
+      // Another thread may have read meanwhile.
+      const u_long waiting = std::min(total, WaitingBytes(socket_.Get()));
+      if (waiting == 0) break;
       const auto piece = static_cast<int>(std::min<u_long>(waiting, dropped.size()));
-      if (::recv(socket_.Get(), dropped.data(), piece, 0) <= 0) return false;
+      const int count = ::recv(socket_.Get(), dropped.data(), piece, 0);
+      if (count <= 0) return false;
+      total -= static_cast<u_long>(count);
     }
     return true;
   }
 
  private:
   static constexpr std::size_t kPiece = std::size_t{64} * 1024;
+
+  // The end of the stream is readable and has no bytes, and stays so; bytes that another thread
+  // reads between the two questions look so once.
+  bool PeerHasGone() const {
+    for (int look = 0; look < 3; ++look) {
+      if (!IsReadable(socket_.Get()) || WaitingBytes(socket_.Get()) > 0) return false;
+    }
+    return true;
+  }
 
   HANDLE Handle() const { return reinterpret_cast<HANDLE>(socket_.Get()); }
 

@@ -23,14 +23,30 @@ WorkerThread::~WorkerThread() {
   if (state_) state_->thread.detach();
 }
 
+namespace {
+
+// The host's signal handlers are not to run on a thread it does not know.
+class SignalsBlocked {
+ public:
+  SignalsBlocked() {
+    sigset_t all;
+    ::sigfillset(&all);
+    ::pthread_sigmask(SIG_SETMASK, &all, &callers_);
+  }
+  SignalsBlocked(const SignalsBlocked&) = delete;
+  SignalsBlocked& operator=(const SignalsBlocked&) = delete;
+  ~SignalsBlocked() { ::pthread_sigmask(SIG_SETMASK, &callers_, nullptr); }
+
+ private:
+  sigset_t callers_{};
+};
+
+}  // namespace
+
 bool WorkerThread::Start(std::function<void()> body) {
   if (state_) return false;
   auto state = std::make_shared<State>();
-  // The host's signal handlers are not to run on a thread it does not know.
-  sigset_t all;
-  sigset_t callers;
-  ::sigfillset(&all);
-  ::pthread_sigmask(SIG_SETMASK, &all, &callers);
+  const SignalsBlocked blocked;
   try {
     state->thread = std::thread([state, body = std::move(body)]() mutable {
       body();
@@ -44,7 +60,6 @@ bool WorkerThread::Start(std::function<void()> body) {
   } catch (const std::system_error&) {
     state = nullptr;
   }
-  ::pthread_sigmask(SIG_SETMASK, &callers, nullptr);
   state_ = std::move(state);
   return state_ != nullptr;
 }

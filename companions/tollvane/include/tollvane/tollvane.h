@@ -33,7 +33,8 @@ class TollvaneServer {
   // every chunk. Returns non-zero on success.
   //
   // The server object owns every chunk: the receiver reads it and never frees it. A chunk
-  // stays as it is until 128 KiB more have been posted or the object is released.
+  // stays as it is for 5 seconds, less when 512 KiB more come meanwhile, and its memory can be
+  // read until the object is released.
   virtual std::int32_t RegisterReceiver(std::uint32_t messageId, std::int32_t enabled,
                                         std::uint32_t threadId) = 0;
   // 0 when the connection stands, anything else when it does not. Tries for at most 2 seconds.
