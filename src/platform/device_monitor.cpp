@@ -2,25 +2,45 @@
 
 #include <deque>
 #include <map>
+#include <mutex>
 
 #include "platform/clock.h"
+#include "platform/event.h"
 #include "platform/serial_ports.h"
+#include "platform/thread.h"
 
 namespace merovane::platform {
 namespace {
 
 constexpr std::uint32_t kPollIntervalMs = 10;
 
+// Looks when it is asked, where that is enough; else all the time, on a thread of its own.
 class PollingDeviceMonitor final : public DeviceMonitor {
  public:
+  ~PollingDeviceMonitor() override {
+    stop_.Set();
+    watch_.WaitMs(UINT32_MAX);
+  }
+
   void Start() override {
-    known_ = ports_.Present();
-    arrivals_.clear();
-    polledAtMs_ = SystemClock().NowMs();
-    started_ = true;
+    {
+      const std::lock_guard lock(mutex_);
+      known_ = ports_.Present();
+      arrivals_.clear();
+      polledAtMs_ = SystemClock().NowMs();
+      started_ = true;
+    }
+    if (SerialPorts::TellsReturns() || watch_.Running()) return;
+    watch_.Start([this] {
+      while (!stop_.WaitMs(kPollIntervalMs)) {
+        const std::lock_guard lock(mutex_);
+        Poll();
+      }
+    });
   }
 
   bool TakeArrival(std::int32_t& port) override {
+    const std::lock_guard lock(mutex_);
     if (!started_) return false;
     if (arrivals_.empty()) Poll();
     if (arrivals_.empty()) return false;
@@ -42,11 +62,14 @@ class PollingDeviceMonitor final : public DeviceMonitor {
     known_ = std::move(present);
   }
 
+  std::mutex mutex_;
   SerialPorts ports_;
   std::map<std::int32_t, std::uint64_t> known_;
   std::deque<std::int32_t> arrivals_;
   std::uint32_t polledAtMs_ = 0;
   bool started_ = false;
+  Event stop_;
+  Thread watch_;
 };
 
 }  // namespace

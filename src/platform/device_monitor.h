@@ -18,7 +18,7 @@ class DeviceMonitor {
 // Watches the numbered ports 1 to 256: each is the device that CASSORIND_COM<n> names, else
 // /dev/ttyS<n-1>, on Windows COM<n>. A device that goes and comes back arrives again, also when
 // another took its place between two looks. TCP endpoints never arrive. The variables are read at
-// each look, and looks are taken by TakeArrival, at most one in 10 ms. For one thread.
+// each look, at most one in 10 ms.
 std::unique_ptr<DeviceMonitor> CreateDeviceMonitor();
 
 }  // namespace merovane::platform

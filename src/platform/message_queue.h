@@ -27,9 +27,6 @@ bool PostMessageToThread(std::uint32_t threadId, std::uint32_t id, std::uintptr_
 // (UINT32_MAX: without end). False when none came.
 bool TakeMessage(Message& message, std::uint32_t timeLimitMs);
 
-// Takes the next pending message, if any, and never waits.
-inline bool TakePendingMessage(Message& message) { return TakeMessage(message, 0); }
-
 // Hands a message that is not ours to the system (Windows: translate and dispatch).
 void DispatchForeignMessage(const Message& message);
 

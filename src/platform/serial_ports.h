@@ -26,8 +26,11 @@ class SerialPorts {
   SerialPorts(const SerialPorts&) = delete;
   SerialPorts& operator=(const SerialPorts&) = delete;
 
-  // The present ports. A port's value changes when its device was replaced since the last call.
+  // The present ports. A port's value changes when its device was replaced since the last call, as
+  // far as the system tells.
   std::map<std::int32_t, std::uint64_t> Present();
+  // Whether it tells of a device that went and came back between two calls.
+  static bool TellsReturns();
 
  private:
   struct State;

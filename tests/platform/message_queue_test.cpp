@@ -24,14 +24,14 @@ TEST(MessageQueue, KeepsTheOrderOfWhatWasPosted) {
   EXPECT_EQ(message.id, kOurs);
   EXPECT_EQ(message.first, 1U);
   EXPECT_EQ(message.second, -1);
-  ASSERT_TRUE(TakePendingMessage(message));
+  ASSERT_TRUE(TakeMessage(message, 0));
   EXPECT_EQ(message.id, kQuitMessage);
-  ASSERT_TRUE(TakePendingMessage(message));
+  ASSERT_TRUE(TakeMessage(message, 0));
   EXPECT_EQ(message.first, UINTPTR_MAX);
   EXPECT_EQ(message.second, INTPTR_MIN);
   EXPECT_EQ(message.window, nullptr);
   DispatchForeignMessage(message);
-  EXPECT_FALSE(TakePendingMessage(message));
+  EXPECT_FALSE(TakeMessage(message, 0));
 }
 
 TEST(MessageQueue, IsWaitedForNoLongerThanTheLimit) {

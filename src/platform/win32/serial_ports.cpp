@@ -107,6 +107,9 @@ struct SerialPorts::State {};
 SerialPorts::SerialPorts() = default;
 SerialPorts::~SerialPorts() = default;
 
+// A driver gives the device that came back the name that it had.
+bool SerialPorts::TellsReturns() { return false; }
+
 std::map<std::int32_t, std::uint64_t> SerialPorts::Present() {
   std::map<std::int32_t, std::uint64_t> present;
   const auto note = [&present](std::int32_t port, const std::wstring& name) {
