@@ -42,11 +42,6 @@ std::size_t ByteRing::Consume(std::span<std::uint8_t> destination) {
   return taken;
 }
 
-void ByteRing::Discard(std::size_t count) {
-  const std::lock_guard lock(mutex_);
-  Drop(count);
-}
-
 std::size_t ByteRing::Count() const {
   const std::lock_guard lock(mutex_);
   return count_;

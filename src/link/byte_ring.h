@@ -19,8 +19,6 @@ class ByteRing {
   std::size_t Peek(std::span<std::uint8_t> destination) const;
   // The same, and removes them.
   std::size_t Consume(std::span<std::uint8_t> destination);
-  // Removes the oldest bytes, at most `count`.
-  void Discard(std::size_t count);
   std::size_t Count() const;
   void Clear();
   // True as soon as the ring holds a byte, false when none came within the time.

@@ -12,6 +12,10 @@ namespace merovane {
 namespace {
 
 constexpr std::uint32_t kThreadStopLimitMs = 1000;
+// How long a send waits for a receive thread that is far behind.
+constexpr std::uint32_t kFullQueueLimitMs = 1000;
+// To the receive thread, from ClearThreadRing: what was posted before this is stale (WM_APP).
+constexpr std::uint32_t kStaleEndsMessage = 0x8000;
 // How often a read that can be cancelled looks whether it is.
 constexpr std::uint32_t kCancelPollMs = 10;
 
@@ -27,14 +31,18 @@ struct ChannelPort::Reception {
   std::shared_ptr<CassorindChannel> channel;
   std::shared_ptr<ChannelServer> server;
   ByteRing ring;
-  std::atomic<bool> asserted{false};
+  // While the thread has clears before it, chunks stay out of the ring.
+  std::mutex clearMutex;
+  std::uint32_t clearsPending = 0;
+  std::shared_ptr<std::atomic<bool>> asserted;
   std::atomic<bool> stopped{false};
   std::mutex sinksMutex;
   std::shared_ptr<PortLog> allLog;
   std::shared_ptr<platform::AppendFile> recording;
 
-  Reception(LinkSettings& s, std::shared_ptr<CassorindChannel> c, std::shared_ptr<ChannelServer> v)
-      : settings(s), channel(std::move(c)), server(std::move(v)) {}
+  Reception(LinkSettings& s, std::shared_ptr<CassorindChannel> c, std::shared_ptr<ChannelServer> v,
+            std::shared_ptr<std::atomic<bool>> a)
+      : settings(s), channel(std::move(c)), server(std::move(v)), asserted(std::move(a)) {}
 
   void Run() {
     platform::Message message;
@@ -44,6 +52,9 @@ struct ChannelPort::Reception {
       const auto* data = reinterpret_cast<const std::uint8_t*>(message.first);
       if (message.id == kChannelDataMessage) {
         if (data && message.second > 0) TakeChunk({data, length});
+      } else if (message.id == kStaleEndsMessage && message.first == Ticket()) {
+        const std::lock_guard lock(clearMutex);
+        --clearsPending;
       } else if (message.id == kServerDataMessage && server) {
         if (data && message.second > 0) PumpServerData({data, length});
       } else {
@@ -54,17 +65,38 @@ struct ChannelPort::Reception {
 
   void TakeChunk(std::span<const std::uint8_t> chunk) {
     {
-      // Before the ring: who finds an answer there finds it in the logs as well.
+      // First, so that a slow disk delays no answer.
+      const std::lock_guard lock(clearMutex);
+      if (clearsPending == 0) ring.Append(chunk);
+    }
+    {
       const std::lock_guard lock(sinksMutex);
       if (recording && settings.SavesReceivedData()) Record(*recording, chunk);
       if (allLog && settings.allLog) allLog->Data(chunk, false);
     }
-    if (server) {
+    if (server && settings.ServerConnected()) {
       server->Forward(chunk);
-      if (HoldsAssertReport(chunk)) asserted = true;
+      if (HoldsAssertReport(chunk)) *asserted = true;
     }
-    ring.Append(chunk);
   }
+
+  // Drops what was posted to the thread up to now, whether it has come to it or not.
+  void Clear(std::uint32_t threadId) {
+    const platform::Deadline deadline(platform::SystemClock(), kFullQueueLimitMs);
+    while (!TryClear(threadId) && !deadline.Passed()) platform::SystemClock().SleepMs(1);
+  }
+
+  // False when the thread's queue is full.
+  bool TryClear(std::uint32_t threadId) {
+    const std::lock_guard lock(clearMutex);
+    ring.Clear();
+    if (!platform::PostMessageToThread(threadId, kStaleEndsMessage, Ticket(), 0)) return false;
+    ++clearsPending;
+    return true;
+  }
+
+  // Tells our messages from others of the same id.
+  std::uintptr_t Ticket() const { return reinterpret_cast<std::uintptr_t>(this); }
 
   // Passes data of the channel server on to the handset, at most one ring of it, as it stands.
   void PumpServerData(std::span<const std::uint8_t> data) {
@@ -121,10 +153,7 @@ Result ChannelPort::Open(std::int32_t port, std::int32_t baudRate) {
     return Result::CannotOpenPort;
   }
   if (allLog_) {
-    std::array<char, 64> line;
-    std::snprintf(line.data(), line.size(), "Open (Port = %d, Baudrate = %d)",
-                  static_cast<int>(port), static_cast<int>(baudRate));
-    allLog_->Line(line.data());
+    allLog_->Opened(port, baudRate);
   }
   return Result::Success;
 }
@@ -142,7 +171,8 @@ Result ChannelPort::Close() {
 
 bool ChannelPort::StartReceiveThread() {
   StopReceiveThread();
-  const auto reception = std::make_shared<Reception>(settings_, channel_, settings_.Server());
+  const auto reception =
+      std::make_shared<Reception>(settings_, channel_, settings_.Server(), asserted_);
   if (!receiveThread_.Start([reception] { reception->Run(); })) return false;
   reception_ = reception;
   if (reception->server) reception->server->RegisterReceiver(receiveThread_.Id(), true);
@@ -155,9 +185,12 @@ void ChannelPort::StopReceiveThread() {
   const std::uint32_t id = receiveThread_.Id();
   if (reception_->server) reception_->server->RegisterReceiver(id, false);
   if (channel_) channel_->SetReceiver(kChannelDataMessage, 0, id);
-  reception_->stopped = true;
-  platform::PostMessageToThread(id, platform::kQuitMessage, 0, 0);
-  if (!receiveThread_.WaitMs(kThreadStopLimitMs)) receiveThread_.Abandon();
+  // Behind what was posted before, which is still recorded and logged.
+  if (!platform::PostMessageToThread(id, platform::kQuitMessage, 0, 0)) reception_->stopped = true;
+  if (!receiveThread_.WaitMs(kThreadStopLimitMs)) {
+    reception_->stopped = true;
+    receiveThread_.Abandon();
+  }
   reception_.reset();
 }
 
@@ -225,9 +258,9 @@ Result ChannelPort::Clear() {
 }
 
 void ChannelPort::ClearThreadRing() {
-  if (reception_) reception_->ring.Clear();
+  if (reception_) reception_->Clear(receiveThread_.Id());
 }
 
-bool ChannelPort::TakeAssert() { return reception_ && reception_->asserted.exchange(false); }
+bool ChannelPort::TakeAssert() { return asserted_->exchange(false); }
 
 }  // namespace merovane

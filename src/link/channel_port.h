@@ -2,6 +2,7 @@
 // receive thread when there is one, its All log and the recording of received data.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
@@ -51,7 +52,7 @@ class ChannelPort {
   // The same for what the receive thread has fetched.
   void ClearThreadRing();
 
-  // True once after an assert report was seen.
+  // True once after an assert report was seen. For any thread.
   bool TakeAssert();
 
   // While this event is set, reads end at once with 6; null takes it away.
@@ -79,6 +80,9 @@ class ChannelPort {
   std::shared_ptr<PortLog> allLog_;
   std::shared_ptr<platform::AppendFile> recording_;
   platform::Thread receiveThread_;
+  // Shared with the receive thread; stays until it is taken, also when the port is closed
+  // meanwhile.
+  const std::shared_ptr<std::atomic<bool>> asserted_ = std::make_shared<std::atomic<bool>>(false);
   platform::Event* cancel_ = nullptr;
 };
 

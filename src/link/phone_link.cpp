@@ -32,9 +32,7 @@ Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
     std::snprintf(text.data(), text.size(), "Com%d_UsefulLog.txt", static_cast<int>(port));
     usefulLog_ = std::make_unique<PortLog>();
     if (usefulLog_->Open(text.data())) {
-      std::snprintf(text.data(), text.size(), "Open (Port = %d, Baudrate = %d)",
-                    static_cast<int>(port), static_cast<int>(baudRate));
-      usefulLog_->Line(text.data());
+      usefulLog_->Opened(port, baudRate);
     } else {
       usefulLog_.reset();
     }
@@ -92,9 +90,12 @@ Result PhoneLink::SendAndWait(FrameId request, FrameId awaited,
   if (answer.empty() || !answerLength) return Result::InvalidParam;
   const Result sent = SendFrame(request, payload);
   if (!Succeeded(sent)) return sent;
-  const std::uint64_t limit = std::uint64_t{timeoutMs} + settings_.receiveIncrementMs;
-  return WaitForAnswer(awaited, answer, answerLength,
-                       static_cast<std::uint32_t>(std::min<std::uint64_t>(limit, UINT32_MAX)));
+  // A settings file may take time away as well.
+  const auto incrementMs = static_cast<std::int32_t>(settings_.receiveIncrementMs.load());
+  const std::int64_t limitMs = std::int64_t{timeoutMs} + incrementMs;
+  return WaitForAnswer(
+      awaited, answer, answerLength,
+      static_cast<std::uint32_t>(std::clamp<std::int64_t>(limitMs, 0, UINT32_MAX)));
 }
 
 Result PhoneLink::SendAndWaitSame(FrameId id, std::span<const std::uint8_t> payload,

@@ -44,6 +44,11 @@ void PortLog::Result(merovane::Result code, std::string_view name) {
   file_.Text(text.data());
 }
 
-void PortLog::Close() { file_.Close(); }
+void PortLog::Opened(std::int32_t port, std::int32_t baudRate) {
+  std::array<char, 64> text;
+  std::snprintf(text.data(), text.size(), "Open (Port = %d, Baudrate = %d)", static_cast<int>(port),
+                static_cast<int>(baudRate));
+  Line(text.data());
+}
 
 }  // namespace merovane

@@ -15,9 +15,9 @@ class PortLog {
   // Opens `fileName` in the folder of the day; false when that cannot be done.
   bool Open(std::string_view fileName);
   void Line(std::string_view text);
+  void Opened(std::int32_t port, std::int32_t baudRate);
   void Data(std::span<const std::uint8_t> bytes, bool sent);
   void Result(merovane::Result code, std::string_view name);
-  void Close();
 
  private:
   LogFile file_;

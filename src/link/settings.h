@@ -22,7 +22,7 @@ class LinkSettings {
 
   // 1: ports opened from now on receive through a thread of their own.
   std::atomic<std::uint32_t> receiveMode{0};
-  // Added to every answer wait.
+  // Added to every answer wait; a number below 0 in two's complement shortens it.
   std::atomic<std::uint32_t> receiveIncrementMs{0};
   std::atomic<bool> usefulLog{false};
   std::atomic<bool> allLog{false};
@@ -42,6 +42,7 @@ class LinkSettings {
   std::shared_ptr<ChannelServer> Server() const;
   // Links receive through a thread of their own.
   bool ReceivesThroughThread() const { return receiveMode == 1 || serverConnected_; }
+  bool ServerConnected() const { return serverConnected_; }
 
  private:
   std::uint32_t serverPort_ = 0;

@@ -67,7 +67,7 @@ TEST(ByteRing, BehavesAsAQueueOfItsCapacity) {
         break;
       }
       case 4:
-        ring.Discard(count);
+        ring.Visit([&](auto held, auto) { return std::min(count, held.size()); });
         queue.Drop(std::min(count, queue.Held().size()));
         break;
       default:

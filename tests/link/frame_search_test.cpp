@@ -101,7 +101,7 @@ TEST(FrameSearchAgainstWalk, FindsDiscardsAndReportsTheSame) {
       if (random() % 200 == 0) {
         // Commands empty the ring, and take from it by themselves.
         const std::size_t dropped = random() % 2 == 0 ? ring.Count() : ring.Count() / 2;
-        ring.Discard(dropped);
+        ring.Visit([&](auto, auto) { return dropped; });
         walked.Drop(dropped);
       }
       Bytes chunk = RandomBytes(random, random() % (step % 40 == 0 ? 3000 : 65), density);

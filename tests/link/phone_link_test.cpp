@@ -79,7 +79,12 @@ TEST_F(Exchanges, WaitForTheLimitAndTheIncrement) {
   ExpectAsked().Silent();
   EXPECT_EQ(Ask(64, 1000), Result::NoAnswer);
   EXPECT_EQ(elapsedMs, 1200u);
-  settings.receiveIncrementMs = UINT32_MAX;
+  // What a settings file with -300 reads as.
+  settings.receiveIncrementMs = UINT32_MAX - 299;
+  ExpectAsked().Silent();
+  EXPECT_EQ(Ask(64, 1000), Result::NoAnswer);
+  EXPECT_EQ(elapsedMs, 700u);
+  settings.receiveIncrementMs = INT32_MAX;
   ExpectAsked().After(100'000).Answer(13, 0);
   EXPECT_EQ(Ask(64, UINT32_MAX), Result::Success) << "the sum must not wrap";
 }

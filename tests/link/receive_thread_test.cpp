@@ -43,9 +43,11 @@ TEST_F(ReceiveThread, CarriesExchangesIntoTheLogsAndTheRecording) {
   EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs), Result::Success);
   EXPECT_THAT(Log(), ElementsAre("--> 7E 00 00 00 00 00 08 01 01 7E",
                                  "<-- 7E 00 00 00 00 00 09 01 01 41 7E"));
+  // What the thread took is in the log by the time that the port is closed, at the latest.
+  ASSERT_EQ(real.link.Close(), Result::Success);
   EXPECT_THAT(allLog.Take(),
               ::testing::UnorderedElementsAre("--> 7E 00 00 00 00 00 08 01 01 7E",
-                                              "<-- 7E 00 00 00 00 00 09 01 01 41 7E"));
+                                              "<-- 7E 00 00 00 00 00 09 01 01 41 7E", "Close"));
   EXPECT_EQ(FileText(directory / "rec.bin").size(), 11u);
   EXPECT_EQ(handset.Clears(), 0);
   EXPECT_FALSE(real.link.IsAssert());
@@ -63,6 +65,15 @@ TEST_F(ReceiveThread, DropsWhatItFetchedBeforeARequest) {
               Result::Success);
     EXPECT_EQ(answer[0], 2) << "receive mode " << modeMeanwhile;
   }
+}
+
+TEST_F(ReceiveThread, DropsWhatItHadYetToFetchAtARequest) {
+  for (int i = 0; i < 3000; ++i) handset.Say(1, 1, "01");
+  handset.Expect(1, 1).Answer(1, 1, "02");
+  std::array<std::uint8_t, 8> answer{};
+  ASSERT_EQ(real.link.SendAndWait({1, 1}, {1, 1}, {}, answer, &length, kPatienceMs),
+            Result::Success);
+  EXPECT_EQ(answer[0], 2);
 }
 
 TEST_F(ReceiveThread, GivesSixInSilence) {
