@@ -81,7 +81,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
  * @param wait_for_port  0: on the default object's port. Otherwise: on the next serial device that arrives,
  *   with an object of its own; the device is left closed, see QV_GetUsbPort
  * @param mode           start mode, as in QV_SetPhoneStartMode
- * @param event          set when the handset was caught
+ * @param event          reset at the start, set when the handset was caught
  * @param time_limit_ms  0: without end
  * @return 0 as soon as the waiting has begun; 4 for a null event; 1 without a default object (wait_for_port 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess(
@@ -116,7 +116,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
  * @param through_port   non-zero: the handset's serial device may vanish and come back; the port is then reopened
  *   at 115200 baud, in the background, on the device that arrives. 0: a plain restart
  * @param reboot_kind    what to restart into when through_port is set: 1, 5, 6, 7, 8 or 9; others restart plainly
- * @param event          set when done
+ * @param event          set when done; reset at the start when through_port is set
  * @param time_limit_ms  of the wait for the device, 0 without end; of the answer when through_port is 0
  * @return 0; 4 for a null event; else the restart command's code */
 MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(

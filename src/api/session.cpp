@@ -2,7 +2,6 @@
 
 #include <bit>
 #include <memory>
-#include <new>
 #include <optional>
 
 #include "api/export_frame.h"
@@ -26,31 +25,30 @@ enum Property : std::uint32_t {
 
 PhonePointer MakePhone() { return std::make_shared<PhoneObject>(TheLibrary().settings); }
 
-PhonePointer MakeWaitingPhone() {
-  PhonePointer phone = MakePhone();
-  phone->modeProcess.SetDeviceMonitor(platform::CreateDeviceMonitor());
-  return phone;
+// Runs a session export that makes objects; out of memory gives 2, as where a port is opened.
+template <typename Export>
+std::int32_t Session(Export&& run) noexcept {
+  try {
+    return run();
+  } catch (...) {
+    return Reported(Result::CannotOpenPort);
+  }
 }
 
 std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
   Library& library = TheLibrary();
   library.settings.errors.BeginOperation(1);
-  return Reported(Guarded([&] {
-    if (port < 1 || baudRate < 1) return Result::InvalidParam;
+  return Session([&] {
+    if (port < 1 || baudRate < 1) return Reported(Result::InvalidParam);
     Result lookup = Result::Success;
-    if (library.registry.Find(port, lookup)) return Result::PortAlreadyOpened;
-    PhonePointer phone;
-    try {
-      phone = MakePhone();
-    } catch (const std::bad_alloc&) {
-      return Result::CannotOpenPort;
-    }
+    if (library.registry.Find(port, lookup)) return Reported(Result::PortAlreadyOpened);
+    const PhonePointer phone = MakePhone();
     const Result opened = phone->link.Open(port, baudRate);
-    if (!Succeeded(opened)) return opened;
+    if (!Succeeded(opened)) return Reported(opened);
     library.registry.Enter(port, phone);
     if (asDefault) library.registry.MakeDefault(port);
-    return Result::Success;
-  }));
+    return Reported(Result::Success);
+  });
 }
 
 Result Close(PhoneObject& phone) {
@@ -73,10 +71,11 @@ struct ModeStart {
 
 Result StartMode(const PhonePointer& phone, const ModeStart& start,
                  std::optional<std::int32_t> expectedPort) {
-  phone->link.SetNextSequence(TheLibrary().registry.nextSequence);
   ModeProcess::Request request;
   request.waitForPort = start.waitForPort != 0;
+  if (request.waitForPort) request.monitor = platform::CreateDeviceMonitor();
   request.mode = start.mode;
+  request.sequence = TheLibrary().registry.nextSequence;
   request.event = start.event.value_or(platform::CallerEvent());
   request.timeLimitMs = start.timeLimitMs;
   request.expectedPort = expectedPort;
@@ -89,7 +88,7 @@ std::int32_t EnterMode(const ModeStart& start) {
   const bool waits = start.waitForPort != 0;
   library.settings.errors.BeginOperation(3);
   const PhonePointer phone =
-      waits ? library.registry.PortWaiting(MakeWaitingPhone) : library.registry.Default();
+      waits ? library.registry.PortWaiting(MakePhone) : library.registry.Default();
   if (!phone) return ReportedUnreached(Result::PortNotOpen);
   library.registry.lastWaitedForPort = waits;
   return Reported(StartMode(phone, start, std::nullopt));
@@ -112,19 +111,9 @@ std::int32_t EnterMode(std::int32_t port, const ModeStart& start) {
     static_cast<void>(Close(*phone));
     library.registry.Remove(port);
   }
-  phone = MakeWaitingPhone();
+  phone = MakePhone();
   library.registry.Enter(port, phone);
   return Reported(StartMode(phone, start, port));
-}
-
-// Runs a session export that makes objects; out of memory gives 2, as where a port is opened.
-template <typename Export>
-std::int32_t Session(Export&& run) noexcept {
-  try {
-    return run();
-  } catch (...) {
-    return Reported(Result::CannotOpenPort);
-  }
 }
 
 }  // namespace
@@ -264,10 +253,12 @@ std::int32_t ResetMode(const PhonePointer& phone, std::uint32_t throughPort,
                        std::uint32_t rebootKind, QV_EVENT event, std::uint32_t timeLimitMs,
                        std::optional<std::int32_t> expectedPort) {
   return Reported(Guarded([&] {
-    phone->modeProcess.SetDeviceMonitor(platform::CreateDeviceMonitor());
-    phone->link.SetNextSequence(TheLibrary().registry.nextSequence);
-    return phone->modeProcess.Reset(phone, throughPort != 0, rebootKind, EventOf(event),
-                                    timeLimitMs, expectedPort);
+    return phone->modeProcess.Reset(phone, {.throughPort = throughPort != 0,
+                                            .rebootKind = rebootKind,
+                                            .event = EventOf(event),
+                                            .timeLimitMs = timeLimitMs,
+                                            .expectedPort = expectedPort,
+                                            .monitor = platform::CreateDeviceMonitor()});
   }));
 }
 

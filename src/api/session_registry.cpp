@@ -25,12 +25,9 @@ void SessionRegistry::Enter(std::int32_t port, PhonePointer phone) {
   phones_[port] = std::move(phone);
 }
 
-bool SessionRegistry::MakeDefault(std::int32_t port) {
+void SessionRegistry::MakeDefault(std::int32_t port) {
   const std::lock_guard lock(mutex_);
-  const auto found = phones_.find(port);
-  if (found == phones_.end()) return false;
-  default_ = found->second;
-  return true;
+  if (const auto found = phones_.find(port); found != phones_.end()) default_ = found->second;
 }
 
 SessionRegistry::PhonePointer SessionRegistry::Remove(std::int32_t port) {

@@ -1,6 +1,7 @@
 // The phone objects of this process, by port number, and the default one.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -21,8 +22,8 @@ class SessionRegistry {
   PhonePointer Default() const;
 
   void Enter(std::int32_t port, PhonePointer phone);
-  // False when there is no object under this port, which must not be the default one then.
-  bool MakeDefault(std::int32_t port);
+  // The object of this port, if there is one, becomes the default one.
+  void MakeDefault(std::int32_t port);
   // Takes the object out; it is null when there is none. A default object ends with its port.
   PhonePointer Remove(std::int32_t port);
   // Takes all out, and forgets the default object.
@@ -38,9 +39,9 @@ class SessionRegistry {
   PhonePointer PortWaiting() const;
 
   // Goes into the sequence field of the first frame after each mode process start.
-  std::uint32_t nextSequence = 0;
+  std::atomic<std::uint32_t> nextSequence = 0;
   // Whether the last mode process of the default forms waits for a port.
-  bool lastWaitedForPort = false;
+  std::atomic<bool> lastWaitedForPort = false;
 
  private:
   mutable std::mutex mutex_;

@@ -1,7 +1,8 @@
 #include "commands/test/mode_process.h"
 
 #include <algorithm>
-#include <utility>
+#include <atomic>
+#include <exception>
 
 #include "commands/operation.h"
 #include "commands/phone.h"
@@ -39,73 +40,55 @@ std::uint8_t ResetCode(std::uint32_t rebootKind) {
 
 }  // namespace
 
-ModeProcess::~ModeProcess() { Stop(); }
+// One wait for a handset, on a thread of its own.
+class ModeProcess::Worker {
+ public:
+  Worker(Phone& phone, const Request& request) : link_(phone.link), request_(request) {}
 
-void ModeProcess::SetDeviceMonitor(std::shared_ptr<platform::DeviceMonitor> monitor) {
-  monitor_ = std::move(monitor);
-}
-
-Result ModeProcess::Start(const std::shared_ptr<Phone>& phone, const Request& request) {
-  if (request.event.IsNull()) return Result::InvalidParam;
-  request.event.Reset();
-  Stop();
-  if (request.waitForPort) {
-    if (!monitor_) return Result::InvalidParam;
-    monitor_->Start();
+  void Work(Phone& phone) {
+    bool caught = false;
+    link_.Channel().SetCancel(&stop_);
+    try {
+      caught = request_.waitForPort ? WorkOnArrivingPort(phone) : WorkOnOpenLink(phone);
+    } catch (const std::exception&) {
+      // Out of memory: nothing was caught.
+    }
+    request_.monitor.reset();
+    // A worker that was given up has no say any more.
+    if (!givenUp_) {
+      link_.Channel().SetCancel(nullptr);
+      caught_ = caught;
+      if (caught) request_.event.Set();
+    }
+    running_ = false;
   }
-  return StartWorker(phone, request);
-}
 
-Result ModeProcess::Run(const std::shared_ptr<Phone>& phone, const Request& request) {
-  Stop();
-  if (request.waitForPort) {
-    if (!monitor_) return Result::InvalidParam;
-    monitor_->Start();
+  void Stop() { stop_.Set(); }
+  void GiveUp() { givenUp_ = true; }
+
+  bool IsRunning() const { return running_; }
+  bool HasCaught() const { return caught_; }
+  std::int32_t PortFound() const { return portFound_; }
+
+ private:
+  bool WorkOnOpenLink(Phone& phone);
+  bool WorkOnArrivingPort(Phone& phone);
+  bool Open(std::int32_t port) {
+    return Succeeded(link_.Open(port, kArrivedPortBaudRate)) && !stop_.IsSet();
   }
-  const Result started = StartWorker(phone, request);
-  if (!Succeeded(started)) return started;
-  while (running_) {
-    platform::Message message;
-    if (platform::TakeMessage(message, 10)) platform::DispatchForeignMessage(message);
-  }
-  return done_.IsSet() ? Result::Success : Result::EnterModeFailed;
-}
 
-void ModeProcess::Stop() {
-  stop_.Set();
-  if (!worker_.WaitMs(kStopLimitMs)) worker_.Abandon();
-}
+  PhoneLink& link_;
+  Request request_;
+  platform::Event stop_;
+  std::atomic<bool> givenUp_{false};
+  std::atomic<bool> running_{true};
+  std::atomic<bool> caught_{false};
+  std::atomic<std::int32_t> portFound_{0};
+};
 
-Result ModeProcess::StartWorker(const std::shared_ptr<Phone>& phone, const Request& request) {
-  stop_.Reset();
-  done_.Reset();
-  portFound_ = 0;
-  running_ = true;
-  const bool started = worker_.Start([this, owner = phone, request]() mutable {
-    Work(*owner, request);
-    // The owner may end here, and this object with it.
-    owner.reset();
-  });
-  if (started) return Result::Success;
-  running_ = false;
-  return Result::EnterModeFailed;
-}
-
-void ModeProcess::Work(Phone& phone, const Request& request) {
-  phone.link.Channel().SetCancel(&stop_);
-  const bool caught =
-      request.waitForPort ? WorkOnArrivingPort(phone, request) : WorkOnOpenLink(phone, request);
-  phone.link.Channel().SetCancel(nullptr);
-  if (caught) {
-    done_.Set();
-    request.event.Set();
-  }
-  running_ = false;
-}
-
-bool ModeProcess::WorkOnOpenLink(Phone& phone, const Request& request) {
-  const bool limited = request.timeLimitMs != 0;
-  const platform::Deadline deadline(phone.link.Clock(), request.timeLimitMs);
+bool ModeProcess::Worker::WorkOnOpenLink(Phone& phone) {
+  const bool limited = request_.timeLimitMs != 0;
+  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
   while (!stop_.IsSet() && !(limited && deadline.Passed())) {
     const std::uint32_t attemptMs =
         limited ? std::clamp(deadline.RemainingMs(), 1U, kStartDataAttemptMs) : kStartDataAttemptMs;
@@ -115,69 +98,141 @@ bool ModeProcess::WorkOnOpenLink(Phone& phone, const Request& request) {
       continue;
     }
     // That the handset booted is what counts, not what it says to the mode.
-    static_cast<void>(commands::SetPhoneStartMode(phone, request.mode));
+    static_cast<void>(commands::SetPhoneStartMode(phone, request_.mode));
     return true;
   }
   return false;
 }
 
-bool ModeProcess::WorkOnArrivingPort(Phone& phone, const Request& request) {
-  const bool limited = request.timeLimitMs != 0;
-  const platform::Deadline deadline(phone.link.Clock(), request.timeLimitMs);
+bool ModeProcess::Worker::WorkOnArrivingPort(Phone& phone) {
+  const bool limited = request_.timeLimitMs != 0;
+  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
   int arrivals = 0;
   for (;;) {
     if (stop_.WaitMs(1) || (limited && deadline.Passed())) return false;
     std::int32_t port = 0;
-    if (!monitor_->TakeArrival(port)) continue;
-    if (request.expectedPort && port != *request.expectedPort) continue;
+    if (!request_.monitor->TakeArrival(port)) continue;
+    if (request_.expectedPort && port != *request_.expectedPort) continue;
     portFound_ = port;
     // The handset coming back after the mode change.
     if (++arrivals > 1) break;
 
-    if (!Succeeded(phone.link.Open(port, kArrivedPortBaudRate))) return false;
-    if (request.reopenOnly) return true;
-    const Result mode = commands::SetPhoneStartMode(phone, request.mode);
-    static_cast<void>(phone.link.Close());
+    if (!Open(port)) return false;
+    if (request_.reopenOnly) return true;
+    const Result mode = commands::SetPhoneStartMode(phone, request_.mode);
+    static_cast<void>(link_.Close());
     if (!Succeeded(mode)) {
       arrivals = 0;
-    } else if (request.mode == kModeWithoutSecondArrival) {
+    } else if (request_.mode == kModeWithoutSecondArrival) {
       static_cast<void>(stop_.WaitMs(100));
       break;
     }
   }
-  if (!request.expectedPort) return true;
-  return Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate));
+  return !request_.expectedPort || Open(portFound_);
 }
 
-Result ModeProcess::Reset(const std::shared_ptr<Phone>& phone, bool throughPort,
-                          std::uint32_t rebootKind, platform::CallerEvent event,
-                          std::uint32_t timeLimitMs, std::optional<std::int32_t> expectedPort) {
-  const commands::Operation operation(*phone, 183);
-  if (event.IsNull()) return Result::InvalidParam;
+ModeProcess::~ModeProcess() { Stop(); }
+
+Result ModeProcess::Start(const std::shared_ptr<Phone>& phone, const Request& request) {
+  if (request.event.IsNull()) return Result::InvalidParam;
   Stop();
-  if (!throughPort) {
-    const Result result = commands::RestartPhone(*phone, timeLimitMs);
-    if (Succeeded(result)) event.Set();
+  request.event.Reset();
+  return Begin(phone, request);
+}
+
+Result ModeProcess::Run(const std::shared_ptr<Phone>& phone, const Request& request) {
+  Stop();
+  const Result started = Begin(phone, request);
+  if (!Succeeded(started)) return started;
+  const std::shared_ptr<Worker> worker = Current();
+  std::optional<platform::Message> quit;
+  while (worker->IsRunning()) {
+    platform::Message message;
+    if (!platform::TakeMessage(message, 10)) continue;
+    if (message.id == platform::kQuitMessage) {
+      quit = message;
+    } else {
+      platform::DispatchForeignMessage(message);
+    }
+  }
+  // It is for the caller's own message loop.
+  if (quit) {
+    platform::PostMessageToThread(platform::CurrentThreadId(), quit->id, quit->first, quit->second);
+  }
+  return worker->HasCaught() ? Result::Success : Result::EnterModeFailed;
+}
+
+void ModeProcess::Stop() {
+  const std::shared_ptr<Worker> worker = Current();
+  if (!worker) return;
+  worker->Stop();
+  if (thread_.WaitMs(kStopLimitMs)) return;
+  worker->GiveUp();
+  thread_.Abandon();
+}
+
+std::int32_t ModeProcess::PortFound() const {
+  const std::shared_ptr<Worker> worker = Current();
+  return worker ? worker->PortFound() : 0;
+}
+
+std::shared_ptr<ModeProcess::Worker> ModeProcess::Current() const {
+  const std::lock_guard lock(currentMutex_);
+  return current_;
+}
+
+Result ModeProcess::Begin(const std::shared_ptr<Phone>& phone, const Request& request) {
+  if (request.waitForPort) {
+    if (!request.monitor) return Result::InvalidParam;
+    request.monitor->Start();
+  }
+  return StartWorker(phone, request);
+}
+
+Result ModeProcess::StartWorker(const std::shared_ptr<Phone>& phone, const Request& request) {
+  phone->link.SetNextSequence(request.sequence);
+  const auto worker = std::make_shared<Worker>(*phone, request);
+  {
+    const std::lock_guard lock(currentMutex_);
+    current_ = worker;
+  }
+  const bool started = thread_.Start([worker, owner = phone]() mutable {
+    worker->Work(*owner);
+    // The owner may end here, and the mode process with it.
+    owner.reset();
+  });
+  return started ? Result::Success : Result::EnterModeFailed;
+}
+
+Result ModeProcess::Reset(const std::shared_ptr<Phone>& phone, const Restart& restart) {
+  const commands::Operation operation(*phone, 183);
+  if (restart.event.IsNull()) return Result::InvalidParam;
+  Stop();
+  if (!restart.throughPort) {
+    const Result result = commands::RestartPhone(*phone, restart.timeLimitMs);
+    if (Succeeded(result)) restart.event.Set();
     return result;
   }
-  if (!monitor_) return Result::InvalidParam;
-  event.Reset();
+  if (!restart.monitor) return Result::InvalidParam;
+  restart.event.Reset();
   // Before the restart: the device may be back before its absence is noticed.
-  monitor_->Start();
+  restart.monitor->Start();
   std::uint32_t reachable = 0;
-  const Result result = commands::UsbChangePhoneMode(*phone, ResetCode(rebootKind), &reachable);
+  const Result result =
+      commands::UsbChangePhoneMode(*phone, ResetCode(restart.rebootKind), &reachable);
   if (!Succeeded(result)) return result;
   if (reachable == 1) {
-    event.Set();
+    restart.event.Set();
     return Result::Success;
   }
   static_cast<void>(phone->link.Close());
   Request request;
   request.waitForPort = true;
-  request.event = event;
-  request.timeLimitMs = timeLimitMs;
+  request.monitor = restart.monitor;
+  request.event = restart.event;
+  request.timeLimitMs = restart.timeLimitMs;
   request.reopenOnly = true;
-  request.expectedPort = expectedPort;
+  request.expectedPort = restart.expectedPort;
   return StartWorker(phone, request);
 }
 

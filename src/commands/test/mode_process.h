@@ -1,9 +1,9 @@
 // Waits in the background for a handset that is started or restarted, and puts it into a mode.
 #pragma once
 
-#include <atomic>
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <optional>
 
 #include "link/result.h"
@@ -18,8 +18,11 @@ struct Phone;
 class ModeProcess {
  public:
   struct Request {
+    // Waits for a device to arrive, which the monitor tells of; it must not be null then.
     bool waitForPort = false;
+    std::shared_ptr<platform::DeviceMonitor> monitor;
     std::uint32_t mode = 0;
+    std::uint32_t sequence = 0;  // of the first frame
     platform::CallerEvent event;
     std::uint32_t timeLimitMs = 5000;  // 0: without end
     // With waitForPort: only opens the link on the port that arrives and leaves it open.
@@ -30,12 +33,9 @@ class ModeProcess {
 
   ~ModeProcess();
 
-  // Waiting for ports needs one; it takes note of what is there when a process starts.
-  void SetDeviceMonitor(std::shared_ptr<platform::DeviceMonitor> monitor);
-
   // Ends a worker that still runs and starts another, which shares `phone` (the owner of this
-  // object). Returns at once: 4 for a null event or without a device monitor where one is
-  // needed, 16 when the system gives no thread.
+  // object). Returns at once: 4 for a null event or without a monitor where one is needed, 16 when
+  // the system gives no thread.
   Result Start(const std::shared_ptr<Phone>& phone, const Request& request);
   // The same without a caller's event; returns when the worker has ended: 16 when it did not catch
   // the handset. Dispatches the calling thread's messages meanwhile.
@@ -44,26 +44,30 @@ class ModeProcess {
   void Stop();
 
   // The port on which a device was found, 0 when none.
-  std::int32_t PortFound() const { return portFound_; }
+  std::int32_t PortFound() const;
 
-  // Restarts the handset; afterwards reaches it on the port on which it comes back, when
-  // `throughPort` is set and it does not stay reachable.
-  Result Reset(const std::shared_ptr<Phone>& phone, bool throughPort, std::uint32_t rebootKind,
-               platform::CallerEvent event, std::uint32_t timeLimitMs,
-               std::optional<std::int32_t> expectedPort);
+  struct Restart {
+    // Reaches the handset afterwards on the port on which it comes back, unless it stays reachable.
+    bool throughPort = false;
+    std::uint32_t rebootKind = 0;
+    platform::CallerEvent event;
+    std::uint32_t timeLimitMs = 0;
+    std::optional<std::int32_t> expectedPort;
+    std::shared_ptr<platform::DeviceMonitor> monitor;
+  };
+  Result Reset(const std::shared_ptr<Phone>& phone, const Restart& restart);
 
  private:
-  Result StartWorker(const std::shared_ptr<Phone>& phone, const Request& request);
-  void Work(Phone& phone, const Request& request);
-  bool WorkOnOpenLink(Phone& phone, const Request& request);
-  bool WorkOnArrivingPort(Phone& phone, const Request& request);
+  class Worker;
 
-  std::shared_ptr<platform::DeviceMonitor> monitor_;
-  platform::Thread worker_;
-  platform::Event stop_;
-  platform::Event done_;
-  std::atomic<bool> running_{false};
-  std::atomic<std::int32_t> portFound_{0};
+  Result Begin(const std::shared_ptr<Phone>& phone, const Request& request);
+  Result StartWorker(const std::shared_ptr<Phone>& phone, const Request& request);
+  std::shared_ptr<Worker> Current() const;
+
+  platform::Thread thread_;
+  mutable std::mutex currentMutex_;
+  // Shared with its thread, so that one that was given up cannot disturb the next.
+  std::shared_ptr<Worker> current_;
 };
 
 }  // namespace merovane

@@ -9,6 +9,7 @@
 #include <mutex>
 #include <thread>
 
+#include "platform/message_queue.h"
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -101,8 +102,9 @@ TEST_F(ModeProcessTest, NeedsAnEventAndForPortsAMonitor) {
 TEST_F(ModeProcessTest, PutsABootingHandsetIntoTheMode) {
   event.Get().Set();
   handset.Expect(0xFE, 0x83).Sequence(0x11223344).Answer(0xFE, 0x83);
-  phone.link.SetNextSequence(0x11223344);
-  EXPECT_EQ(Start(Request(3, 0)), Result::Success);
+  auto request = Request(3, 0);
+  request.sequence = 0x11223344;
+  EXPECT_EQ(Start(request), Result::Success);
   EXPECT_FALSE(event.IsSet()) << "left over from before";
   handset.SayRaw("99 7E 7E");
   handset.SayRaw(kStartFrame);
@@ -139,6 +141,16 @@ TEST_F(ModeProcessTest, StopEndsAWaitWithoutEndAndThePhoneWorksOn) {
   ExpectCaught();
 }
 
+TEST_F(ModeProcessTest, RunLeavesTheQuitMessageToItsCaller) {
+  platform::CreateMessageQueue();
+  platform::PostMessageToThread(platform::CurrentThreadId(), platform::kQuitMessage, 7, 0);
+  EXPECT_EQ(phone.modeProcess.Run(owner, Request(0, 500)), Result::EnterModeFailed);
+  platform::Message message;
+  ASSERT_TRUE(platform::TakeMessage(message, 0));
+  EXPECT_EQ(message.id, platform::kQuitMessage);
+  EXPECT_EQ(message.first, 7u);
+}
+
 TEST_F(ModeProcessTest, MayOutliveEveryOtherOwnerOfItsPhone) {
   ASSERT_EQ(phone.link.Close(), Result::Success);
   auto other = std::make_shared<Phone>(settings, clock, handset.Library());
@@ -154,10 +166,11 @@ TEST_F(ModeProcessTest, MayOutliveEveryOtherOwnerOfItsPhone) {
 }
 
 struct ArrivingPort : ModeProcessTest {
-  void SetUp() override { phone.modeProcess.SetDeviceMonitor(monitor); }
+  void SetUp() override {}
   ModeProcess::Request PortRequest(std::uint32_t mode) {
     ModeProcess::Request request = Request(mode);
     request.waitForPort = true;
+    request.monitor = monitor;
     return request;
   }
   // Catches the handset while these ports arrive; the port found.
@@ -225,17 +238,19 @@ TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {
 }
 
 struct ResetProcess : ArrivingPort {
-  void SetUp() override {
-    ArrivingPort::SetUp();
-    CommandFixture::SetUp();
-  }
+  void SetUp() override { CommandFixture::SetUp(); }
   Result Reset(bool throughPort, std::uint32_t kind = 1) {
-    return phone.modeProcess.Reset(owner, throughPort, kind, event.Get(), 700, {});
+    return phone.modeProcess.Reset(owner, {.throughPort = throughPort,
+                                           .rebootKind = kind,
+                                           .event = event.Get(),
+                                           .timeLimitMs = 700,
+                                           .expectedPort = {},
+                                           .monitor = monitor});
   }
 };
 
 TEST_F(ResetProcess, RestartsPlainlyWithinTheCallersLimit) {
-  EXPECT_EQ(phone.modeProcess.Reset(owner, false, 1, {}, 700, {}), Result::InvalidParam);
+  EXPECT_EQ(phone.modeProcess.Reset(owner, {}), Result::InvalidParam);
   EXPECT_EQ(OperationOf(Result::InvalidParam), 183u);
   handset.Expect(12, 0).After(699).Answer(12, 0);
   EXPECT_EQ(Reset(false), Result::Success);
@@ -267,6 +282,12 @@ TEST_F(ResetProcess, ReopensThePortOnWhichTheHandsetComesBack) {
   EXPECT_EQ(Reset(true), Result::Success);
   EXPECT_EQ(monitor->HeardAtStart(), heard) << "the monitor missed the restart";
   EXPECT_FALSE(event.IsSet());
+  // A second reset, of a handset that is away, ends the first one's wait.
+  EXPECT_NE(Reset(true), Result::Success);
+  EXPECT_FALSE(phone.link.IsOpen());
+  ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
+  handset.Expect(12, 3).Answer(12, 3, "00");
+  EXPECT_EQ(Reset(true), Result::Success);
   monitor->Arrive(port + 4);
   ExpectCaught();
   EXPECT_TRUE(phone.link.IsOpen());
