@@ -1,0 +1,42 @@
+// This thread's message queue and the chunks of data that messages in it tell of.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "companions/peers.h"
+#include "platform/message_queue.h"
+
+namespace peers {
+
+using merovane::platform::Message;
+using merovane::platform::TakeMessage;
+
+// Takes chunks until `bytes` bytes are there.
+inline std::string TakeChunks(std::uint32_t messageId, std::size_t bytes) {
+  std::string data;
+  Message message;
+  while (data.size() < bytes && TakeMessage(message, kPatienceMs)) {
+    EXPECT_EQ(message.id, messageId);
+    data.append(reinterpret_cast<const char*>(message.first),
+                static_cast<std::size_t>(message.second));
+  }
+  return data;
+}
+
+inline void EmptyQueue() {
+  Message message;
+  while (TakeMessage(message, 0)) {
+  }
+}
+
+// Leaves no room in the queue, which holds 10,000 messages. Returns how many were missing.
+inline int FillQueue() {
+  const std::uint32_t self = merovane::platform::CurrentThreadId();
+  int posted = 0;
+  while (posted < 10000 && merovane::platform::PostMessageToThread(self, 1, 0, 0)) ++posted;
+  return posted;
+}
+
+}  // namespace peers
