@@ -5,49 +5,29 @@
 #include <thread>
 
 #include "companions/cassorind_channel.h"
-#include "platform/message_queue.h"
+#include "companions/chunks.h"
 
 namespace peers {
 namespace {
-
-using merovane::platform::Message;
-using merovane::platform::TakeMessage;
 
 constexpr std::uint32_t kDataMessage = 1124;
 
 class CassorindReceiver : public AnyDevice {
  protected:
-  void SetUp() override {
-    Message message;
-    while (TakeMessage(message, 0)) {
-    }
+  void SetUp() override { EmptyQueue(); }
+  void OpenWithReceiver() {
+    ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
+    Open();
   }
-
-  // Leaves no room in this thread's queue, which holds 10,000 messages. Returns how many were
-  // missing.
-  int FillQueue() const {
-    int posted = 0;
-    while (posted < 10000 && merovane::platform::PostMessageToThread(self, 1, 0, 0)) ++posted;
-    return posted;
-  }
-  // Takes chunks until `bytes` bytes are there.
   static std::string TakeChunks(std::size_t bytes) {
-    std::string data;
-    Message message;
-    while (data.size() < bytes && TakeMessage(message, kPatienceMs)) {
-      EXPECT_EQ(message.id, kDataMessage);
-      data.append(reinterpret_cast<const char*>(message.first),
-                  static_cast<std::size_t>(message.second));
-    }
-    return data;
+    return peers::TakeChunks(kDataMessage, bytes);
   }
 
   const std::uint32_t self = merovane::platform::CurrentThreadId();
 };
 
 TEST_P(CassorindReceiver, GetsEverythingInOrder) {
-  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
-  Open();
+  OpenWithReceiver();
   // Chunks are promised for 512 KiB, so no more may be under way; eight rounds pass that.
   for (int round = 0; round < 8; ++round) {
     const std::string data = EveryByteValue(100'000);
@@ -74,8 +54,7 @@ TEST_P(CassorindReceiver, TakesOverFromReadsAndBack) {
 }
 
 TEST_P(CassorindReceiver, ChunksOutliveTheClose) {
-  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
-  Open();
+  OpenWithReceiver();
   peer->Send("kept");
   Message message;
   ASSERT_TRUE(TakeMessage(message, kPatienceMs));
@@ -87,8 +66,7 @@ TEST_P(CassorindReceiver, ChunksOutliveTheClose) {
 
 TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
   const int filled = FillQueue();
-  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
-  Open();
+  OpenWithReceiver();
   const std::string data = EveryByteValue(3000);
   peer->Send(data);
   Message message;
@@ -98,8 +76,7 @@ TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
 
 TEST_P(CassorindReceiver, CloseEndsPostingToAQueueThatStaysFull) {
   FillQueue();
-  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
-  Open();
+  OpenWithReceiver();
   peer->Send("never taken");
   EXPECT_NE(channel->Close(), 0);
   Message message;
@@ -107,8 +84,7 @@ TEST_P(CassorindReceiver, CloseEndsPostingToAQueueThatStaysFull) {
 }
 
 TEST_P(CassorindReceiver, AVanishedDeviceIsToldToReadsAndWrites) {
-  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, self), 0);
-  Open();
+  OpenWithReceiver();
   std::thread vanisher([&] { peer->Vanish(); });
   char buffer[8];
   EXPECT_EQ(channel->Read(buffer, 8, kPatienceMs, 0), -1);
