@@ -1,6 +1,4 @@
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <stdlib.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -10,6 +8,7 @@
 #include <string>
 #include <thread>
 
+#include "companions/posix/pty_peer.h"
 #include "handset/handset.h"
 #include "simulator/station.h"
 
@@ -195,19 +194,13 @@ TEST(TcpPort, AnAddressInUseOrNoAddressIsAnError) {
 }
 
 TEST(SerialPort, ServesADeviceOfTheMachine) {
-  int master = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-  ASSERT_TRUE(master >= 0 && grantpt(master) == 0 && unlockpt(master) == 0);
+  peers::PtyPeer machine;
   HandsetOptions options = Running(TransportKind::Serial);
-  options.serialDevice = ptsname(master);
+  options.serialDevice = machine.DeviceName();
   Started phone(options);
-  const Bytes request{0x7E, 0, 0, 0, 0, 0, 8, 28, 0, 0x7E};
-  ASSERT_EQ(write(master, request.data(), request.size()), static_cast<ssize_t>(request.size()));
-  ASSERT_TRUE(phone.NextFrame(28, 0));
-  Bytes answer(64);
-  ssize_t count = read(master, answer.data(), answer.size());
-  answer.resize(static_cast<size_t>(std::max<ssize_t>(count, 0)));
-  EXPECT_EQ(handset::ToHex(answer), "7e 00 00 00 00 00 0c 1c 00 00 00 00 01 7e");
-  close(master);
+  machine.Send(std::string("\x7E\0\0\0\0\0\x08\x1C\0\x7E", 10));
+  EXPECT_EQ(handset::ToHex(handset::ToBytes(machine.Receive(14))),
+            "7e 00 00 00 00 00 0c 1c 00 00 00 00 01 7e");
 }
 
 }  // namespace

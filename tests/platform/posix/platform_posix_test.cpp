@@ -8,7 +8,9 @@
 #include <unistd.h>
 
 #include <climits>
+#include <optional>
 
+#include "companions/posix/pty_peer.h"
 #include "platform/console.h"
 #include "platform/device_monitor.h"
 #include "platform/event.h"
@@ -118,15 +120,13 @@ TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
   CallerEvent(full).Reset();
   CallerEvent(full).Reset();
   CallerEvent(full).Set();
-  eventfd_t count = 0;
-  EXPECT_EQ(eventfd_read(full, &count), 0);
-  EXPECT_EQ(count, 1U);
   // A number that is no descriptor must not be cut down to one that is.
   if constexpr (sizeof(std::intptr_t) > sizeof(int)) {
-    CallerEvent((std::intptr_t{1} << 32) + full).Set();
-    EXPECT_FALSE(CallerEvent((std::intptr_t{1} << 32) + full).IsNull());
+    const CallerEvent beyond((std::intptr_t{1} << 32) + full);
+    beyond.Set();
+    EXPECT_FALSE(beyond.IsNull());
   }
-  CallerEvent(full).Set();
+  eventfd_t count = 0;
   EXPECT_EQ(eventfd_read(full, &count), 0);
   EXPECT_EQ(count, 1U);
   close(full);
@@ -175,59 +175,39 @@ TEST(PosixText, TurnsUtf16IntoUtf8) {
   EXPECT_EQ(NarrowFromUtf16(unpaired), "x\xEF\xBF\xBDy\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
-// A pseudo-terminal and a link that names it, as simulated handsets make them.
-class Terminal {
- public:
-  explicit Terminal(std::filesystem::path link) : link_(std::move(link)) {
-    master_ = posix_openpt(O_RDWR | O_NOCTTY);
-    grantpt(master_);
-    unlockpt(master_);
-    name_ = ptsname(master_);
-    std::filesystem::create_symlink(name_, link_);
-  }
-  ~Terminal() {
-    std::filesystem::remove(link_);
-    close(master_);
-  }
-  Terminal(const Terminal&) = delete;
-  Terminal& operator=(const Terminal&) = delete;
-  const std::string& Name() const { return name_; }
-
- private:
-  std::filesystem::path link_;
-  int master_;
-  std::string name_;
-};
-
 TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
   const TempDirectory directory;
   const auto link = directory / "port";
   SetVariable("CASSORIND_COM231", link.c_str());
+  // A pseudo-terminal and a link that names it, as simulated handsets make them.
+  std::optional<peers::PtyPeer> terminal;
+  const auto plug = [&] {
+    terminal.reset();
+    terminal.emplace();
+    std::filesystem::remove(link);
+    std::filesystem::create_symlink(terminal->DeviceName(), link);
+  };
   SerialPorts ports;
-  std::optional<Terminal> terminal(link);
+  plug();
   const auto first = ports.Present();
   ASSERT_TRUE(first.contains(231));
   EXPECT_EQ(ports.Present(), first);
-
-  chmod(terminal->Name().c_str(), 0660);
+  chmod(terminal->DeviceName().c_str(), 0660);
   EXPECT_EQ(ports.Present(), first) << "a change of access rights is no arrival";
 
-  terminal.reset();
-  terminal.emplace(link);
+  plug();
   const auto second = ports.Present();
   ASSERT_TRUE(second.contains(231));
   EXPECT_NE(second.at(231), first.at(231));
 
   // The same name without a link between: only the node's times tell.
-  SetVariable("CASSORIND_COM231", terminal->Name().c_str());
-  const std::string name = terminal->Name();
+  const std::string name = terminal->DeviceName();
+  SetVariable("CASSORIND_COM231", name.c_str());
   const auto third = ports.Present();
-  terminal.reset();
-  terminal.emplace(link);
-  if (terminal->Name() == name) {
+  plug();
+  if (terminal->DeviceName() == name) {
     EXPECT_NE(ports.Present().at(231), third.at(231));
   }
-
   terminal.reset();
   EXPECT_FALSE(ports.Present().contains(231));
   SetVariable("CASSORIND_COM231", nullptr);
