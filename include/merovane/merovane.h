@@ -769,7 +769,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
 
 /** Runs an extended AFC measurement and collects its report, or, with start 0, stops one. For the default phone object
  * only. Each block of the report is waited for at most 3 times 3000 ms (the first) or 1000 ms; a block of 500 bytes or
- * less ends the report, so that a first one of that length, or one that announces no further block, leaves it empty.
+ * less ends the report and is not part of it, so that a first one of that length leaves it empty, as does one that
+ * announces no further block. A run that fails is not stopped: call again with start 0.
  * @param run  not used to stop. Report and its length are written on success only; up to 27648 bytes, as words
  * @return 0; 4 when `run` is null or its count above 16; 10 when the report is longer than that */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(uint32_t start, QV_EXTENDED_AFC *run);
@@ -842,7 +843,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(int32_t port, char *text
 /* ---- Calibration data: ADC ----------------------------------------------------------- */
 
 /** Reads item 1 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0_MT(int32_t port, uint32_t *value);
@@ -852,7 +853,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0(uint32_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 1. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1_MT(int32_t port, uint32_t *value);
@@ -862,7 +863,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1(uint32_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in RAM: one value from offset 2. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0_MT(int32_t port, uint32_t *value);
@@ -872,7 +873,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0(uint32_t value)
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 2. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0_MT(int32_t port, uint32_t *value);
@@ -882,7 +883,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0(uint32_t valu
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in RAM: one value from offset 3. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1_MT(int32_t port, uint32_t *value);
@@ -892,7 +893,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1(uint32_t value)
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 3. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1_MT(int32_t port, uint32_t *value);
@@ -902,7 +903,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1(uint32_t valu
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 4. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0_MT(
@@ -914,7 +915,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
     int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 5. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1_MT(
@@ -926,7 +927,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
     int32_t port, uint32_t value);
 
 /** Reads item 1 in flash: one value from offset 11. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7(uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7_MT(
@@ -939,7 +940,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
 
 /** Reads item 1 in flash: one value from offset `offset`. 1000 ms.
  * @param offset  in elements; 8 bits
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC(uint8_t offset, uint32_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_MT(
@@ -954,7 +955,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
 /* ---- Calibration data: AFC ----------------------------------------------------------- */
 
 /** Reads item 2 in RAM: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center_MT(int32_t port, uint16_t *value);
@@ -964,7 +965,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center(uint16_t valu
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t port, uint16_t value);
 
 /** Reads item 2 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center_MT(
@@ -976,7 +977,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
     int32_t port, uint16_t value);
 
 /** Reads item 3 in RAM: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits_MT(
@@ -988,7 +989,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_M
     int32_t port, uint16_t value);
 
 /** Reads item 3 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits_MT(
@@ -1000,7 +1001,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits
     int32_t port, uint16_t value);
 
 /** Reads item 5 in RAM: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length_MT(
@@ -1012,7 +1013,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
     int32_t port, uint16_t value);
 
 /** Reads item 5 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length_MT(
@@ -1024,7 +1025,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
     int32_t port, uint16_t value);
 
 /** Reads item 6 in RAM: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC_MT(int32_t port, uint16_t *value);
@@ -1034,7 +1035,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC(uint16_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, uint16_t value);
 
 /** Reads item 6 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC_MT(int32_t port, uint16_t *value);
@@ -1044,7 +1045,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC(uint16_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, uint16_t value);
 
 /** Reads item 7 in RAM: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC_MT(int32_t port, uint16_t *value);
@@ -1054,7 +1055,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC(uint16_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, uint16_t value);
 
 /** Reads item 7 in flash: one value. 1000 ms.
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC(uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC_MT(int32_t port, uint16_t *value);
@@ -1064,7 +1065,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, uint16_t value);
 
 /** Reads item 14 in RAM: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
@@ -1077,7 +1078,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
     int32_t port, const uint16_t *values);
 
 /** Reads item 14 in flash: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
@@ -1090,7 +1091,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
     int32_t port, const uint16_t *values);
 
 /** Reads item 4 in RAM: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
@@ -1103,7 +1104,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
     int32_t port, const uint16_t *values);
 
 /** Reads item 4 in flash: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
@@ -1116,7 +1117,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
     int32_t port, const uint16_t *values);
 
 /** Reads item 15 in RAM: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr_MT(
@@ -1130,7 +1131,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
     int32_t port, const uint16_t *values);
 
 /** Reads item 15 in flash: 17 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr(
     uint16_t *values);
@@ -1148,7 +1149,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
 
 /** Reads item 21 of a band in RAM: 80 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
     uint32_t band, uint16_t *values);
@@ -1165,7 +1166,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_M
 
 /** Reads item 21 of a band in flash: 80 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
     uint32_t band, uint16_t *values);
@@ -1182,7 +1183,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 
 /** Reads item 36 of a band in RAM: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, uint16_t *value);
@@ -1199,7 +1200,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8
 
 /** Reads item 36 of a band in flash: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, uint16_t *value);
@@ -1218,7 +1219,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 
 /** Reads item 24 of a band in RAM: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index(
     uint32_t band, uint16_t *value);
@@ -1235,7 +1236,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
 
 /** Reads item 24 of a band in flash: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index(
     uint32_t band, uint16_t *value);
@@ -1253,7 +1254,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
 /** Reads item 18 of a band in RAM: `count` values. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param count   of values, 1 to 32758
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer, another band or another count; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
     uint32_t band, uint16_t *values, uint32_t count);
@@ -1272,7 +1273,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
 /** Reads item 18 of a band in flash: `count` values. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param count   of values, 1 to 32758
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer, another band or another count; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
     uint32_t band, uint16_t *values, uint32_t count);
@@ -1290,7 +1291,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT
 
 /** Reads item 23 of a band in RAM: 91 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
     uint32_t band, uint16_t *values);
@@ -1307,7 +1308,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
 
 /** Reads item 23 of a band in flash: 91 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
     uint32_t band, uint16_t *values);
@@ -1327,7 +1328,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
 /** Reads item 8 of a band in RAM: 20 values from offset 20 x `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   at most 3276
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer, another band or a greater index; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
     uint32_t band, uint16_t index, uint16_t *values);
@@ -1346,7 +1347,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
 /** Reads item 8 of a band in flash: 20 values from offset 20 x `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   at most 3276
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer, another band or a greater index; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
     uint32_t band, uint16_t index, uint16_t *values);
@@ -1365,7 +1366,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash_MT(
 /** Reads item 9 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1384,7 +1385,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram_MT(
 /** Reads item 9 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1403,7 +1404,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash_MT(
 /** Reads item 10 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1422,7 +1423,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram_MT(
 /** Reads item 10 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1440,7 +1441,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash_MT(
 
 /** Reads item 11 of a band in RAM: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram(uint32_t band, uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
@@ -1455,7 +1456,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
 
 /** Reads item 11 of a band in flash: one value. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash(uint32_t band, uint16_t *value);
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
@@ -1470,7 +1471,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
 
 /** Reads item 9 of a band in flash: 16 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
     uint32_t band, uint16_t *values);
@@ -1487,7 +1488,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
 
 /** Reads item 10 of a band in flash: 16 values. 1000 ms.
  * @param band    0, 1, 3 or 4
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
     uint32_t band, uint16_t *values);
@@ -1507,7 +1508,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
 /** Reads item 12 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1526,7 +1527,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_MT(
 /** Reads item 12 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1545,7 +1546,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_MT(
 /** Reads item 13 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1564,7 +1565,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_MT(
 /** Reads item 13 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1583,7 +1584,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_MT(
 /** Reads item 38 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1602,7 +1603,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK_MT(
 /** Reads item 38 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1621,7 +1622,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK_MT(
 /** Reads item 39 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1640,7 +1641,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK_MT(
 /** Reads item 39 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1659,7 +1660,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK_MT(
 /** Reads item 37 of a band in RAM: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1669,7 +1670,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK_MT(
 /** Reads item 37 of a band in flash: one value from offset `index`. 1000 ms.
  * @param band    0, 1, 3 or 4
  * @param index   in elements
- * @param value   those that the answer lacks stay as they were
+ * @param value   bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer or another band; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK(
     uint32_t band, uint16_t index, uint16_t *value);
@@ -1713,7 +1714,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t timeout_ms);
 
 /** Reads item 33 in RAM: 6 values. 1000 ms.
- * @param values  those that the answer lacks stay as they were
+ * @param values  bytes that the answer lacks stay as they were
  * @return 0; 4 for a null pointer; 13 when the answer has no data */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(uint16_t *values);
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(int32_t port, uint16_t *values);
@@ -1830,7 +1831,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
 
 /* ---- Calibration: multi-chip handsets ------------------------------------------------ */
 
-/** Chooses the band that the following commands work in. Nothing is sent.
+/** Chooses the band word of QV_Active_MChip, QV_TxOn_MChip, QV_AfcStart_MChip, QV_AgcStart_MChip and
+ * QV_PwrStepFactorSet_MChip. Nothing is sent. QV_CalDirectCurr sets it to 0.
  * @param band  0, 1, 3 or 4
  * @return 0; 4 for another band, and the old one stays */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
@@ -1852,7 +1854,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip(uint32_t on);
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on);
 
 /** Tunes, sets the power control level and switches the transmitter on (non-zero), or switches it off. Ends at the
- * first step that fails; each is waited for 1000 ms. Tuning to the channel tuned to last is left out.
+ * first step that fails; each is waited for 1000 ms. The channel is sent only when it differs from the one sent last on
+ * this phone object (0 at first), whatever the band and though the handset was restarted since.
  * @param channel, level  not used to switch off */
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip(uint32_t on, uint16_t channel, uint16_t level);
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
@@ -1861,7 +1864,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
 /** Tunes to values[1], sets the power control level values[2] and the trim, and switches the transmitter on
  * (non-zero); or switches it off. The trim is CAFC centre values[0], or CDAC values[0] and CAFC values[3]: see
  * QV_SetPhoneAfcMode. Ends at the first step that fails; each is waited for 1000 ms. Channel and trims are sent only
- * when they differ from those sent last; all are taken to be 0 at first.
+ * when they differ from those sent last, as in QV_TxOn_MChip.
  * @param parameters  not used to stop
  * @return 0; 4 when `parameters` is null and would be used */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
@@ -1869,9 +1872,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
     int32_t port, uint32_t start, const QV_AFC_PARAMETERS *parameters);
 
-/** Tunes to words[0], sets the power control level words[3], switches the receiver on with words[1] and [2] and, after
- * 200 ms, reads RSSI and RxLevel; or, with start 0, switches the receiver off with the same words. Ends at the first
- * step that fails; steps are waited for 1000 ms, measurements 3000 ms.
+/** Tunes to words[0] as QV_TxOn_MChip does, sets the power control level words[3], switches the receiver on with words[1]
+ * and [2] and, after 200 ms, reads RSSI and RxLevel; or, with start 0, switches the receiver off with the same words.
+ * Ends at the first step that fails; steps are waited for 1000 ms, RSSI by up to six reads of 3000 ms each, RxLevel
+ * 3000 ms.
  * @param measured  `value` stays as it was; not used to stop
  * @return 0; 4 for a null pointer that would be used (`parameters` always is); 13; 32 when six reads gave an RSSI of 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
@@ -1879,8 +1883,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
     int32_t port, uint32_t start, const QV_AGC_PARAMETERS *parameters, QV_AGC_RESULT *measured);
 
-/** Measures the receiver's direct-current offset on channel 61 of band 0, which becomes the current band. The receiver
- * is switched off at the end whatever happened.
+/** Measures the receiver's direct-current offset on channel 61 of band 0, which become the current band and the channel
+ * tuned to last. The receiver is switched off at the end whatever happened.
  * @param first   the second word of the measurement
  * @param second  the first word of the measurement
  * @return 0; 4 for a null pointer; else the code of the first step that failed */
@@ -1902,7 +1906,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
 
 /** Writes `third` to item 21 in RAM in the band of QV_SetPhoneClassmark_MChip. 1000 ms.
  * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
- * and `fourth` are those that this function wrote last.
+ * and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted
+ * since: the result is 0.
  * @return 0; 4 for a null pointer */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(const QV_POWER_STEP *step);
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
@@ -1910,7 +1915,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
 
 /** Writes `third` to item 36 in flash in the band `first`. 1000 ms.
  * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
- * and `fourth` are those that this function wrote last.
+ * and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted
+ * since: the result is 0.
  * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(const QV_POWER_STEP *step);
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
@@ -1918,7 +1924,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
 
 /** Writes `third` to item 36 in RAM in the band `first`. 1000 ms.
  * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
- * and `fourth` are those that this function wrote last.
+ * and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted
+ * since: the result is 0.
  * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(const QV_POWER_STEP *step);
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
@@ -1926,7 +1933,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
 
 /** Writes `third` to item 37 in flash in the band `first`. 1000 ms.
  * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
- * and `fourth` are those that this function wrote last.
+ * and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted
+ * since: the result is 0.
  * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(const QV_POWER_STEP *step);
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
@@ -1934,7 +1942,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
 
 /** Writes `third` to item 37 in RAM in the band `first`. 1000 ms.
  * Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`
- * and `fourth` are those that this function wrote last.
+ * and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted
+ * since: the result is 0.
  * @return 0; 4 for a null pointer or a band other than 0, 1, 3 and 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(const QV_POWER_STEP *step);
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(
@@ -2060,7 +2069,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
  * @param text      exactly `capacity` bytes are written: the text, cut to fit, then zeros. A text of `capacity`
  *   characters or more has no terminating zero
  * @param capacity  bytes at `text`; 256 hold every text
- * @return 0; 4 for a null pointer or capacity 0; 17; 18 when there is no item of that path (whatever the code's name says) */
+ * @return 0; 4 for a null pointer or a capacity that is 0 or negative; 17; 18 when there is no item of that path
+ *   (whatever the code's name says) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue(
     uint32_t module, const char *path, char *text, uint32_t capacity);
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_MT(

@@ -35,6 +35,8 @@ import sys
 from dataclasses import dataclass, field
 
 HERE = pathlib.Path(__file__).resolve().parent
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(HERE / "families"))  # a family may use another one's table
 SOURCE = HERE.parent
 # What may stand in brackets behind each kind, beside a project's "as F".
 FLAGS = {"command": {"plain", "decorated", "twin-decorated"}, "session": {"void"},

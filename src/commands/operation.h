@@ -16,12 +16,6 @@ namespace merovane::commands {
 inline constexpr std::size_t kMaxPayloadBytes =
     std::numeric_limits<std::uint16_t>::max() - kHeaderBytes;
 
-// Whether a caller's buffer can have this many bytes: some, and not a negative number's bits, up to
-// which some commands would fill it with zeros.
-constexpr bool IsCapacity(std::uint32_t bytes) {
-  return bytes > 0 && bytes <= std::numeric_limits<std::int32_t>::max();
-}
-
 // A command makes one first thing, so that a refused argument is reported under its id too; logs
 // its name once its arguments are checked; and returns what Finish gives back.
 class Operation {

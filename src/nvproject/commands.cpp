@@ -21,7 +21,7 @@ Result ClosePrjFile(std::unique_ptr<CFileParser>& project) {
 
 Result GetNvValue(CFileParser* project, std::uint32_t module, const char* path, char* text,
                   std::uint32_t capacity) {
-  if (path == nullptr || text == nullptr || capacity == 0) return Result::InvalidParam;
+  if (path == nullptr || text == nullptr || !IsCapacity(capacity)) return Result::InvalidParam;
   if (project == nullptr) return Result::NvProjectNotOpen;
   std::string content;
   if (!project->GetItemContent(module, path, &content)) return Result::PathNotFound;

@@ -80,7 +80,7 @@ def add_item(api, row, writes, place, place_text):
         refused.append("another count")
         what = "`count` values"
     if not writes:
-        doc_arguments.append(f"@param {data:<6}  those that the answer lacks stay as they were")
+        doc_arguments.append(f"@param {data:<6}  bytes that the answer lacks stay as they were")
     verb = "Writes" if writes else "Reads"
     documentation = [f"{verb} item {row['item']}{of_band} in {place_text}: {what}{where}. 1000 ms."] + doc_arguments
     codes = ["0"]

@@ -1,19 +1,22 @@
 """The exports of multi_chip_data.def: power factors and ramps of multi-chip handsets."""
 import re
 
+import calibration_items
+
 TABLE = "commands/calibration/multi_chip_data.def"
 PLACES = {"Ram": "RAM", "Flash": "flash"}
 
 
-def add_factor(api, name, item, storage, band):
+def add_factor(api, items, name, item, storage, band):
     if band == "Current":
         band_text, refused = "in the band of QV_SetPhoneClassmark_MChip", "a null pointer"
     else:
         band_text, refused = "in the band `first`", "a null pointer or a band other than 0, 1, 3 and 4"
     api.add("command", set(), name, [("const QV_POWER_STEP *", "step")], [
-        f"Writes `third` to item {item} in {PLACES[storage]} {band_text}. 1000 ms.",
+        f"Writes `third` to item {items[item]} in {PLACES[storage]} {band_text}. 1000 ms.",
         "Its offset is 16 x `fourth` + `second`, less 5 when `first` is band 0 or 4. Nothing is sent when `second`, `third`",
-        "and `fourth` are those that this function wrote last.",
+        "and `fourth` are those that this function wrote last, for whatever band and though the handset was restarted",
+        "since: the result is 0.",
         f"@return 0; 4 for {refused}"],
         f"commands::SetMultiChipFactor(phone, commands::multi_chip::{name}, step)")
 
@@ -35,8 +38,9 @@ def add_ramps(api, storage):
 
 def add_exports(api, source):
     text = (source / TABLE).read_text()
+    items = {row["name"]: row["item"] for _, row in calibration_items.rows(source)}
     for row in re.findall(r"^MULTI_CHIP_FACTOR\((.+)\)$", text, re.MULTILINE):
         name, _, item, storage, band = (cell.strip() for cell in row.split(","))
-        add_factor(api, name, item, storage, band)
+        add_factor(api, items, name, item, storage, band)
     for row in re.findall(r"^MULTI_CHIP_RAMP\((.+)\)$", text, re.MULTILINE):
         add_ramps(api, row.split(",")[0].strip())

@@ -15,6 +15,8 @@
 
 #include "link/byte_order.h"
 #include "link/frame_codec.h"
+#include "link/phone_link.h"
+#include "link/result.h"
 
 namespace merovane::commands {
 
@@ -56,5 +58,11 @@ class CalibrationMessage {
  private:
   std::array<std::uint8_t, Bytes> bytes_{};
 };
+
+// Sends a message and waits for its acknowledgement.
+template <std::size_t Bytes>
+Result Acknowledged(PhoneLink& link, const CalibrationMessage<Bytes>& message) {
+  return link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs);
+}
 
 }  // namespace merovane::commands

@@ -82,8 +82,7 @@ Result Active(Phone& phone, std::uint32_t on) {
   Operation operation(phone, 51);
   operation.Log(on ? "Active:" : "DeActive:");
   const CalibrationMessage<16> message(on ? 0xA101 : 0xA102);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result SetPhoneClassmark(Phone& phone, std::uint32_t band) {
@@ -91,8 +90,7 @@ Result SetPhoneClassmark(Phone& phone, std::uint32_t band) {
   if (!IsBand(band)) return Result::InvalidParam;
   operation.Log("SetPhoneClassmark:");
   const auto message = CalibrationMessage<20>(0xA103).U32(16, band);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 }  // namespace merovane::commands

@@ -17,7 +17,7 @@ struct WrittenFactor {
 };
 
 inline constexpr std::size_t kMultiChipFactors = 0
-#define MULTI_CHIP_FACTOR(name, operation, item, storage, band) +1
+#define MULTI_CHIP_FACTOR(name, operation, itemName, storage, band) +1
 #define MULTI_CHIP_RAMP(storage, write, read)
 #include "commands/calibration/multi_chip_data.def"
 #undef MULTI_CHIP_FACTOR
@@ -32,14 +32,14 @@ struct TransmitParameters {
 };
 
 struct CalibrationState {
-  // Multi-chip handsets: goes into the band word of every step.
+  // Multi-chip handsets: goes into the band word of every step but the direct-current measurement.
   std::uint16_t currentBand = 0;
   // Not 0: trimmed with CDAC and CAFC; 0: with the CAFC centre.
   std::uint32_t afcMode = 0;
   TransmitParameters transmit;
   bool transmitterOn = false;
 
-  // The values that steps wrote last. A handset begins with zeros.
+  // The values that steps wrote last: 0 for a new phone object, whatever its handset does.
   std::uint16_t lastTch = 0;
   std::uint16_t lastPcl = 0;
   std::uint16_t lastCdac = 0;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <vector>
 
 #include "link/byte_order.h"
@@ -45,8 +44,8 @@ Result WriteData(PhoneLink& link, const DataAddress& address, std::span<const st
 
 Result WriteWord(PhoneLink& link, const DataAddress& address, std::uint16_t value) {
   std::array<std::uint8_t, sizeof(value)> data{};
-  std::memcpy(data.data(), &value, sizeof(value));
-  return WriteData(link, address, data, Element::U16);
+  PutU16(data, 0, value);
+  return WriteData(link, address, data, Element::Byte);
 }
 
 Result ReadData(PhoneLink& link, const DataAddress& address, std::span<std::uint8_t> data,
@@ -66,8 +65,8 @@ Result ReadData(PhoneLink& link, const DataAddress& address, std::span<std::uint
 Result ReadWord(PhoneLink& link, const DataAddress& address, std::uint16_t& value,
                 std::uint32_t timeoutMs) {
   std::array<std::uint8_t, sizeof(value)> data{};
-  const Result result = ReadData(link, address, data, Element::U16, timeoutMs);
-  if (Succeeded(result)) std::memcpy(&value, data.data(), sizeof(value));
+  const Result result = ReadData(link, address, data, Element::Byte, timeoutMs);
+  if (Succeeded(result)) value = GetU16(data, 0);
   return result;
 }
 

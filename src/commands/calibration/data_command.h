@@ -30,8 +30,7 @@ inline constexpr FrameId kWriteData{32, 0};
 inline constexpr FrameId kReadData{32, 1};
 inline constexpr std::uint32_t kDataTimeoutMs = 1000;
 inline constexpr std::size_t kDataHeaderBytes = 10;
-// What fits into a frame, whose length field has 16 bits.
-inline constexpr std::size_t kMaxDataBytes = 0xFFFF - kHeaderBytes - kDataHeaderBytes;
+inline constexpr std::size_t kMaxDataBytes = kMaxPayloadBytes - kDataHeaderBytes;
 
 // `data` is in this machine's byte order and at most kMaxDataBytes long, here and below.
 Answer AskWritingData(PhoneLink& link, const DataAddress& address,

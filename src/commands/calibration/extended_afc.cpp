@@ -23,7 +23,7 @@ class BlockCollector {
  public:
   explicit BlockCollector(PhoneLink& link) : link_(link) {}
 
-  // One block, or the best that came of several tries. It failed when none brought an answer.
+  // One block, or the last that came of several tries. It failed when none brought an answer.
   Result Receive(std::uint32_t timeoutMs) {
     Result result = Result::NoAnswer;
     for (int attempt = 0; attempt < kTries; ++attempt) {

@@ -35,8 +35,7 @@ Result AfcStart(Phone& phone, std::uint32_t start, const QV_AFC_PARAMETERS* para
   operation.Log(start ? "AfcStart:" : "AfcStop:");
   if (!start) {
     const CalibrationMessage<16> message(0xA115);
-    return operation.Finish(
-        phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+    return operation.Finish(Acknowledged(phone.link, message));
   }
   // The first value goes third.
   const auto& values = parameters->values;
@@ -45,8 +44,7 @@ Result AfcStart(Phone& phone, std::uint32_t start, const QV_AFC_PARAMETERS* para
                            .U16(18, values[2])
                            .U16(20, values[0])
                            .U16(22, values[3]);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result AgcStart(Phone& phone, std::uint32_t start, const QV_AGC_PARAMETERS* parameters,
@@ -56,16 +54,14 @@ Result AgcStart(Phone& phone, std::uint32_t start, const QV_AGC_PARAMETERS* para
   operation.Log(start ? "AgcStart:" : "AgcStop:");
   if (!start) {
     const CalibrationMessage<16> message(0xA112);
-    return operation.Finish(
-        phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+    return operation.Finish(Acknowledged(phone.link, message));
   }
   const auto message = CalibrationMessage<36>(0xA111)
                            .U32(16, parameters->first)
                            .U16s(20, parameters->words)
                            .U32(28, parameters->last)
                            .U16(32, 18);
-  Result result =
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs);
+  Result result = Acknowledged(phone.link, message);
   if (Succeeded(result)) {
     phone.link.Clock().SleepMs(kMeasuringMs);
     result = ReceiveReport(phone.link, *measured);

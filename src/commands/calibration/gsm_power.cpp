@@ -35,8 +35,7 @@ Result PwrStepFactorSet(Phone& phone, const QV_POWER_STEP* step) {
   if (!step) return Result::InvalidParam;
   operation.Log("PwrStepFactorSet:");
   const auto message = PowerMessage(0xA119, *step).U32(24, step->fourth);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result PASetting(Phone& phone, const QV_POWER_STEP* setting) {
@@ -50,8 +49,7 @@ Result PASetting(Phone& phone, const QV_POWER_STEP* setting) {
   const auto message = PowerMessage(0xA11A, *setting)
                            .Raw(24, last)
                            .U16(24, static_cast<std::uint16_t>(setting->fourth));
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result RampSetting(Phone& phone, std::uint32_t flag, const std::uint16_t* rampUp,
@@ -64,8 +62,7 @@ Result RampSetting(Phone& phone, std::uint32_t flag, const std::uint16_t* rampUp
                            .U16(20, flag ? 1 : 0)
                            .U16s(22, {rampUp, kRampPoints})
                            .U16s(54, {rampDown, kRampPoints});
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result EnterMaxTxPowerStatus(Phone& phone) {

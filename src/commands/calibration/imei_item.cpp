@@ -5,17 +5,15 @@
 #include "commands/calibration/gsm.h"
 #include "commands/imei.h"
 #include "commands/operation.h"
-#include "link/byte_order.h"
+#include "commands/storage_frames.h"
 
 namespace merovane::commands {
 namespace {
 
-constexpr FrameId kReadNv{13, 0};
 constexpr std::uint16_t kImeiItem = 5;
 
 Result ReadPacked(PhoneLink& link, PackedImei& imei) {
-  std::array<std::uint8_t, 2> request{};
-  PutU16(request, 0, kImeiItem);
+  const auto request = NvHeader(kImeiItem);
   const Answer answer(link, kReadNv, request, 1000);
   if (!answer) return answer.result;
   const auto payload = answer.Payload();

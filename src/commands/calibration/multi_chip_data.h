@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "commands/calibration/calibration_items.h"
 #include "commands/calibration/data_command.h"
 #include "commands/phone.h"
 #include "link/result.h"
@@ -34,15 +35,15 @@ struct MultiChipRamp {
 namespace multi_chip {
 
 enum FactorCache : std::size_t {
-#define MULTI_CHIP_FACTOR(name, operation, item, storage, band) k##name,
+#define MULTI_CHIP_FACTOR(name, operation, itemName, storage, band) k##name,
 #define MULTI_CHIP_RAMP(storage, write, read)
 #include "commands/calibration/multi_chip_data.def"
 #undef MULTI_CHIP_FACTOR
 #undef MULTI_CHIP_RAMP
 };
 
-#define MULTI_CHIP_FACTOR(name, operation, item, storage, band)                   \
-  inline constexpr MultiChipFactor name{#name ":",        operation,        item, \
+#define MULTI_CHIP_FACTOR(name, operation, itemName, storage, band)                               \
+  inline constexpr MultiChipFactor name{#name ":",        operation,        items::itemName.item, \
                                         Storage::storage, FactorBand::band, k##name};
 #define MULTI_CHIP_RAMP(storage, write, read)                                             \
   inline constexpr MultiChipRamp Ramp_##storage{"RampSetting_" #storage "_MChip:", write, \
@@ -54,7 +55,8 @@ enum FactorCache : std::size_t {
 
 }  // namespace multi_chip
 
-// Writes the record's third field, unless it was the last one written to this place.
+// Writes the record's third field, unless value, index and level are those that this command wrote
+// last, whatever the band.
 Result SetMultiChipFactor(Phone& phone, const MultiChipFactor& factor, const QV_POWER_STEP* step);
 
 // Two tables of 16 points each. `flag` chooses the pair.

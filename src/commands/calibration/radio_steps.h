@@ -1,5 +1,6 @@
 // Single radio test settings and measurements of a multi-chip handset: items in RAM, in the current
-// band. Each writes its own name to the log and leaves the result to the command that runs it.
+// band but for the direct current. Each writes its own name to the log and leaves the result to the
+// command that runs it.
 #pragma once
 
 #include <cstdint>

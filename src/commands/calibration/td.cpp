@@ -28,8 +28,7 @@ Result TDTxSweep(Phone& phone, const QV_TD_TX_SWEEP* sweep) {
   for (std::size_t point = 0; point < sweep->count; ++point) {
     message.U16s(26 + 4 * point, sweep->points[point]);
   }
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result TdStartTx(Phone& phone, const QV_TD_TX_START* start) {
@@ -42,8 +41,7 @@ Result TdStartTx(Phone& phone, const QV_TD_TX_START* start) {
                            .U16(22, start->third)
                            .U32(24, start->fourth)
                            .U16s(28, start->words);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result PwrStepFactorSweepSet_TD(Phone& phone, const QV_TD_POWER_SWEEP* sweep) {
@@ -56,8 +54,7 @@ Result PwrStepFactorSweepSet_TD(Phone& phone, const QV_TD_POWER_SWEEP* sweep) {
                            .U16(22, sweep->third)
                            .U32(24, sweep->fourth)
                            .U16s(28, sweep->words);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result PwrStepFactorSet_TD(Phone& phone, const QV_POWER_STEP* step) {
@@ -71,8 +68,7 @@ Result PwrStepFactorSet_TD(Phone& phone, const QV_POWER_STEP* step) {
                            .U16(22, step->third)
                            .U32(24, step->fourth)
                            .U16(28, phone.calibration.tdContinuousMode ? 1 : 0);
-  return operation.Finish(
-      phone.link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs));
+  return operation.Finish(Acknowledged(phone.link, message));
 }
 
 Result SetTDContTxRxMode(Phone& phone, std::uint32_t mode) {
@@ -82,7 +78,7 @@ Result SetTDContTxRxMode(Phone& phone, std::uint32_t mode) {
 
 Result ReadMode_TD(Phone& phone, std::uint8_t* data, std::uint32_t capacity) {
   Operation operation(phone, 176);
-  if (!data || capacity == 0) return Result::InvalidParam;
+  if (!data || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("ReadMode_TD:");
   const Answer answer(phone.link, kReadModeFrame, {}, 1000);
   const auto payload = answer.Payload();
