@@ -25,6 +25,16 @@ struct ModeProcess : StationTest {
         kPatience);
   }
 
+  void ExpectCaught() {
+    EXPECT_TRUE(event.Wait(kPatience));
+    EXPECT_TRUE(InMode(3));
+  }
+  static uint8_t ModeRead() {
+    uint8_t data[4] = {};
+    EXPECT_EQ(QV_ReadMode_MT(kPort, data, 4), 0);
+    return data[3];
+  }
+
   std::optional<Handset> phone;
   std::optional<PortOf> device;
   Event event;
@@ -55,8 +65,7 @@ TEST_F(ModeProcess, CatchesABootingHandsetInTheBackground) {
   ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
   EXPECT_EQ(QV_SetCampParam(0x01020304), 0);
   EXPECT_EQ(QV_EnterModeProcess(0, 3, event.Handle(), 0), 0);
-  EXPECT_TRUE(event.Wait(kPatience));
-  EXPECT_TRUE(InMode(3));
+  ExpectCaught();
   EXPECT_EQ(phone->Status("session.camp_word"), std::to_string(0x01020304));
   EXPECT_EQ(QV_StopModeProcess(), 0);
   EXPECT_EQ(LastReported(), (Reported{4, 0}));
@@ -78,8 +87,7 @@ TEST_F(ModeProcess, IsEndedByStopAndByTheSessionsEnd) {
   ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
   EXPECT_EQ(QV_EnterModeProcess(0, 3, event.Handle(), 0), 0);
   EXPECT_EQ(QV_StopModeProcess(), 0);
-  uint8_t data[4];
-  EXPECT_EQ(QV_ReadMode(data, 4), 0);
+  EXPECT_EQ(ModeRead(), 0x85);
   EXPECT_EQ(QV_EnterModeProcess(0, 3, event.Handle(), 0), 0);
   EXPECT_EQ(QV_EndPhoneTest(), 0);
   EXPECT_FALSE(event.IsSet());
@@ -91,11 +99,8 @@ TEST_F(ModeProcess, FollowsAHandsetWhosePortComesGoesAndComesBack) {
   EXPECT_EQ(QV_EnterModeProcess_MT(kPort, 1, 3, event.Handle(), 60000), 0);
   EXPECT_FALSE(event.IsSet());
   phone->PlugPort();
-  EXPECT_TRUE(event.Wait(kPatience));
-  EXPECT_TRUE(InMode(3));
-  uint8_t data[4] = {};
-  EXPECT_EQ(QV_ReadMode_MT(kPort, data, 4), 0);
-  EXPECT_EQ(data[3], 0x83);
+  ExpectCaught();
+  EXPECT_EQ(ModeRead(), 0x83);
   EXPECT_EQ(QV_GetUsbPort(), 0) << "tells of the default form only";
 }
 
@@ -115,19 +120,8 @@ TEST_F(ModeProcess, ReopensThePortAfterAReset) {
   Start(false, 5);
   ASSERT_EQ(QV_BeginPhoneTest_MT(kPort, 115200), 0);
   EXPECT_EQ(QV_ResetModeProcess_MT(kPort, 1, 1, event.Handle(), 60000), 0);
-  EXPECT_TRUE(event.Wait(kPatience));
-  EXPECT_TRUE(InMode(3));
-  uint8_t data[4] = {};
-  EXPECT_EQ(QV_ReadMode_MT(kPort, data, 4), 0);
-  EXPECT_EQ(data[3], 0x83);
-}
-
-TEST_F(ModeProcess, RestartsPlainly) {
-  Start(false, 5);
-  phone->OnFrame(12, 0, Reply::Answer(12, 0));
-  ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
-  EXPECT_EQ(QV_ResetModeProcess(0, 1, event.Handle(), 10000), 0);
-  EXPECT_TRUE(event.IsSet());
+  ExpectCaught();
+  EXPECT_EQ(ModeRead(), 0x83);
 }
 
 }  // namespace

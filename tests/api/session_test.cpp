@@ -10,34 +10,35 @@ struct Sessions : StationTest {
     return result == 0 ? data[3] : -result;
   }
 
+  static void ExpectReported(int32_t result, uint32_t operation, int32_t code) {
+    EXPECT_EQ(result, code);
+    EXPECT_EQ(LastReported(), (Reported{operation, code}));
+  }
+
   RunningHandset first{1, 7};
   RunningHandset second{2, 8};
 };
 
 TEST_F(Sessions, RefuseBadNumbersUnderTheirOperation) {
-  for (const int32_t result : {QV_BeginPhoneTest(0, 115200), QV_BeginPhoneTest(-1, 115200),
-                               QV_BeginPhoneTest(7, 0), QV_BeginPhoneTest_MT(7, -1)}) {
-    EXPECT_EQ(result, 4);
-    EXPECT_EQ(LastReported(), (Reported{1, 4}));
-  }
-  EXPECT_EQ(QV_BeginPhoneTest(9, 115200), 2) << "no such device";
-  EXPECT_EQ(LastReported(), (Reported{1, 2}));
-  EXPECT_EQ(QV_EndPhoneTest(), 0);
-  EXPECT_EQ(LastReported(), (Reported{2, 0}));
+  ExpectReported(QV_BeginPhoneTest(0, 115200), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(-1, 115200), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(7, 0), 1, 4);
+  ExpectReported(QV_BeginPhoneTest_MT(7, -1), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(9, 115200), 1, 2);  // no such device
+  ExpectReported(QV_EndPhoneTest(), 2, 0);
   EXPECT_EQ(QV_EndPhoneTest_MT(0), 4);
-  EXPECT_EQ(QV_EndPhoneTest_MT(7), 1);
-  EXPECT_EQ(LastReported(), (Reported{0, 1}));
+  ExpectReported(QV_EndPhoneTest_MT(7), 0, 1);
 }
 
-TEST_F(Sessions, CommandsWithoutAPortAreReportedUnderNone) {
-  EXPECT_EQ(QV_ChangePhoneMode(1), 1);
-  EXPECT_EQ(LastReported(), (Reported{0, 1}));
-  EXPECT_EQ(QV_ChangePhoneMode_MT(7, 1), 1);
-  EXPECT_EQ(LastReported(), (Reported{0, 1}));
-  EXPECT_EQ(QV_ChangePhoneMode_MT(0, 1), 4);
-  EXPECT_EQ(LastReported(), (Reported{0, 4}));
-  EXPECT_EQ(QV_RestartPhone(0), 1) << "the port comes before the arguments";
+TEST_F(Sessions, CommandsLookForTheirPortBeforeTheirArguments) {
+  ExpectReported(QV_ChangePhoneMode(1), 0, 1);
+  ExpectReported(QV_ChangePhoneMode_MT(7, 1), 0, 1);
+  ExpectReported(QV_ChangePhoneMode_MT(0, 1), 0, 4);
+  ExpectReported(QV_RestartPhone(0), 0, 1);
   EXPECT_EQ(QV_IsPhoneAssert(), 0);
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  ExpectReported(QV_RestartPhone(0), 11, 4);
+  ExpectReported(QV_ReadMode_MT(7, nullptr, 4), 12, 4);
 }
 
 TEST_F(Sessions, SeveralPortsStandSideBySide) {
@@ -58,14 +59,6 @@ TEST_F(Sessions, SeveralPortsStandSideBySide) {
   ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0) << "free again";
   EXPECT_EQ(QV_EndPhoneTest(), 0);
   EXPECT_EQ(ModeOf(8), -1);
-}
-
-TEST_F(Sessions, ACommandsArgumentsAreReportedUnderIt) {
-  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
-  EXPECT_EQ(QV_RestartPhone(0), 4);
-  EXPECT_EQ(LastReported(), (Reported{11, 4}));
-  EXPECT_EQ(QV_ReadMode_MT(7, nullptr, 4), 4);
-  EXPECT_EQ(LastReported(), (Reported{12, 4}));
 }
 
 TEST_F(Sessions, OnlyTheByteOrderReadsBack) {

@@ -16,23 +16,21 @@ using merovane::test::TempDirectory;
 // A station program in a directory of its own, with a settings file beside it.
 struct SettingsFile : ::testing::Test {
   SettingsFile() { running.phone.OnFrame(12, 0, Reply::Nothing()); }
-  // Prepares the directory; what the program printed.
-  std::string Run(bool copied = false) {
-    if (!copied) CopyProgram();
+  // What the program printed.
+  std::string Run() {
+    const fs::path program = SETTINGS_PROBE;
+    fs::copy_file(program, directory / "station", fs::copy_options::skip_existing);
+    for (const auto& entry : fs::directory_iterator(program.parent_path())) {
+      const fs::path link = directory / entry.path().filename().string();
+      if (entry.path().extension() == ".so" && !fs::exists(link)) {
+        fs::create_symlink(entry.path(), link);
+      }
+    }
     FILE* const output = ::popen((directory / "station").c_str(), "r");
     char line[200] = {};
     EXPECT_NE(::fgets(line, sizeof line, output), nullptr);
     EXPECT_EQ(::pclose(output), 0);
     return line;
-  }
-  void CopyProgram() {
-    const fs::path program = SETTINGS_PROBE;
-    fs::copy_file(program, directory / "station");
-    for (const auto& entry : fs::directory_iterator(program.parent_path())) {
-      if (entry.path().extension() == ".so") {
-        fs::create_symlink(entry.path(), directory / entry.path().filename().string());
-      }
-    }
   }
   std::vector<std::string> Logs() {
     std::vector<std::string> names;
@@ -80,7 +78,7 @@ TEST_F(SettingsFile, MayBeADirectoryAndTheLogFolderAFile) {
   directory.Write("Merovane.ini",
                   "[Record Comm Log]\r\nRecord Useful Log=1\r\nRecord All Log=1\r\n");
   directory.Write("Log", "in the way");
-  EXPECT_THAT(Run(true), StartsWith("big 1 open 0 mode 0")) << "commands go on without their logs";
+  EXPECT_THAT(Run(), StartsWith("big 1 open 0 mode 0")) << "commands go on without their logs";
   EXPECT_EQ(FileText(directory / "Log"), "in the way");
 }
 
