@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
-#include <iterator>
+#include <iostream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -28,7 +28,7 @@ class ProjectTool : public ::testing::Test {
   }
   void TearDown() override { std::filesystem::remove_all(directory_); }
 
-  // Writes a project of one module out of items, "name type index parent more-lines".
+  // Writes a project of one module.
   std::string WriteProject(const std::string& items) {
     const auto path = directory_ / "own.prj";
     std::ofstream(path, std::ios::binary) << "  PROJECT = own\r\n  MODULE = own.nvm\r\n";
@@ -37,11 +37,12 @@ class ProjectTool : public ::testing::Test {
   }
   static std::string Item(const std::string& name, int type, int index, int parent,
                           const std::string& more = "") {
-    return "  BEGIN_ITEM\r\n    ITEM_NAME = " + name +
-           "\r\n    ITEM_TYPE = " + std::to_string(type) +
-           "\r\n    ITEM_INDEX = " + std::to_string(index) +
-           "\r\n    ITEM_PARENT = " + std::to_string(parent) + "\r\n    ITEM_LENGTH = 4\r\n" +
-           more + "  END_ITEM\r\n";
+    std::ostringstream item;
+    item << "  BEGIN_ITEM\r\n    ITEM_NAME = " << name << "\r\n    ITEM_TYPE = " << type
+         << "\r\n    ITEM_INDEX = " << index << "\r\n    ITEM_PARENT = " << parent
+         << "\r\n    ITEM_LENGTH = 4\r\n"
+         << more << "  END_ITEM\r\n";
+    return item.str();
   }
 
   int Run(const std::function<int(std::ostream&)>& command) {
@@ -51,7 +52,10 @@ class ProjectTool : public ::testing::Test {
     return code;
   }
   int RunCheck(const std::string& project) {
-    return Run([&](std::ostream& out) { return Check(project, out); });
+    return Run([&](auto& out) { return Check(project, out); });
+  }
+  int RunDiff(const std::string& before, const std::string& after) {
+    return Run([&](auto& out) { return Diff(before, after, false, out); });
   }
 
   std::filesystem::path directory_;
@@ -76,18 +80,17 @@ TEST_F(ProjectTool, SetsWhatGetReadsAndDiffShows) {
     if (entry.is_regular_file()) std::filesystem::copy_file(entry, copy / entry.path().filename());
   }
   const std::string changed = (copy / std::filesystem::path(project_).filename()).string();
-  EXPECT_EQ(Run([&](auto& out) { return Diff(project_, changed, false, out); }), kOk);
+  EXPECT_EQ(RunDiff(project_, changed), kOk);
   EXPECT_EQ(Run([&](auto& out) { return Set(changed, path, "0x77", out); }), kOk);
   EXPECT_EQ(Run([&](auto& out) { return Get(changed, path, out); }), kOk);
   EXPECT_EQ(output_, "0x77\n");
-  EXPECT_EQ(Run([&](auto& out) { return Diff(project_, changed, false, out); }), kDifferent);
+  EXPECT_EQ(RunDiff(project_, changed), kDifferent);
   EXPECT_THAT(output_, HasSubstr("! calibration_param_T.adc.battery[0]"));
   EXPECT_EQ(std::count(output_.begin(), output_.end(), '\n'), 1);
 
-  std::ostringstream unused;
-  EXPECT_THROW(Set(changed, path, "two words", unused), Trouble);
-  EXPECT_THROW(Set(changed, "no.such.item", "1", unused), Trouble);
-  EXPECT_THROW(Get((directory_ / "none.prj").string(), path, unused), Trouble);
+  EXPECT_THROW(Set(changed, path, "two words", std::cout), Trouble);
+  EXPECT_THROW(Set(changed, "no.such.item", "1", std::cout), Trouble);
+  EXPECT_THROW(Get((directory_ / "none.prj").string(), path, std::cout), Trouble);
 }
 
 TEST_F(ProjectTool, ImagesHaveMapsAndDifferences) {
@@ -107,24 +110,21 @@ TEST_F(ProjectTool, ImagesHaveMapsAndDifferences) {
             "  offset  length     id  path\n       8       1      5  first\n      16       2      "
             "6  second\n");
 
-  options.map = false;
   const auto write = [&](const char* name, bool littleEndian) {
     ImageOptions file;
     file.output = (directory_ / name).string();
     file.littleEndian = littleEndian;
-    std::ostringstream out;
-    EXPECT_EQ(Image(own, file, out), kOk);
+    EXPECT_EQ(Run([&](auto& out) { return Image(own, file, out); }), kOk);
     return *file.output;
   };
   const std::string before = write("before.bin", false);
-  std::ostringstream unused;
-  ASSERT_EQ(Set(own, "second", "0x1235", unused), kOk);
+  ASSERT_EQ(Run([&](auto& out) { return Set(own, "second", "0x1235", out); }), kOk);
   const std::string after = write("after.bin", false);
-  EXPECT_EQ(Run([&](auto& out) { return Diff(before, after, false, out); }), kDifferent);
+  EXPECT_EQ(RunDiff(before, after), kDifferent);
   EXPECT_EQ(output_, "! item 6  2 bytes 1234  ->  2 bytes 1235\n");
-  EXPECT_EQ(Run([&](auto& out) { return Diff(before, before, false, out); }), kOk);
+  EXPECT_EQ(RunDiff(before, before), kOk);
   // In the wrong byte order the lengths make no sense.
-  EXPECT_THROW(Diff(before, write("little.bin", true), true, unused), Trouble);
+  EXPECT_THROW(RunDiff(before, write("little.bin", true)), Trouble);
 }
 
 TEST_F(ProjectTool, MapTellsWhereTheImageHasWhatFollowsAnItemWithoutData) {
@@ -143,11 +143,7 @@ TEST_F(ProjectTool, MapTellsWhereTheImageHasWhatFollowsAnItemWithoutData) {
 TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
   EXPECT_EQ(RunCheck(project_), kOk);
 
-  struct Fault {
-    std::string items;
-    std::string finding;
-  };
-  const Fault faults[] = {
+  const std::pair<std::string, std::string> faults[] = {
       {Item("a", 7, 0, -1) + Item("b", 4, 1, 9), "own.nvm:9: b: its parent 9 does not precede it"},
       {Item("a", 4, 3, -1), "own.nvm:2: a: its index 3 is not its position 0"},
       {Item("a", 5, 0, -1, "    ITEM_SIZE = 2\r\n") + Item("a[0]", 2, 1, 0),
@@ -159,9 +155,9 @@ TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
       {"  BEGIN_ITEM\r\n    ITEM_NAME = lost\r\n", "own.nvm:2: the item has no END_ITEM"},
       {"#" + std::string(400, 'x') + "\r\n", "own.nvm:2: the line is cut"},
   };
-  for (const Fault& fault : faults) {
-    EXPECT_EQ(RunCheck(WriteProject(fault.items)), kDifferent) << fault.finding;
-    EXPECT_THAT(output_, HasSubstr(fault.finding));
+  for (const auto& [items, finding] : faults) {
+    EXPECT_EQ(RunCheck(WriteProject(items)), kDifferent) << finding;
+    EXPECT_THAT(output_, HasSubstr(finding));
   }
 
   const std::string own = WriteProject(Item("a", 4, 0, -1));
