@@ -147,15 +147,6 @@ TEST_P(CassorindStream, WritesOfSeveralThreadsDoNotMix) {
   second.join();
 }
 
-TEST_P(CassorindStream, CanBeOpenedAgainAndAgain) {
-  for (int i = 0; i < 50; ++i) {
-    Open();
-    peer->Send("up");
-    EXPECT_EQ(ReadAll(*channel, 2), "up");
-    EXPECT_NE(channel->Close(), 0);
-  }
-}
-
 INSTANTIATE_TEST_SUITE_P(Devices, CassorindStream, ::testing::ValuesIn(Kinds()),
                          [](const auto& each) { return each.param; });
 
