@@ -22,6 +22,54 @@ struct CalibrationItems : CalibrationFixture {
   }
 };
 
+TEST_F(CalibrationItems, TravelWithTheirHeaderInTheHandsetsByteOrder) {
+  using enum Storage;
+  const auto travels = [&](const CalibrationItem& item, Storage storage, bool writes,
+                           const ItemSelection& selection, const char* logName,
+                           std::uint32_t operation, std::initializer_list<unsigned> header) {
+    SCOPED_TRACE(logName);
+    const unsigned bytes = *(header.end() - 1);
+    const auto values = [&](Fields fields) {
+      for (unsigned at = 0; at < bytes / 2; ++at) {
+        if (item.element == Element::U16) fields.U16(0x0102 + at);
+        if (item.element == Element::U32 && at % 2 == 0) fields.U32(0x01020304 + at);
+      }
+      return fields;
+    };
+    const Bytes callers = values(Fields(false)).Get();
+    InBothByteOrders([&] {
+      GuardedBuffer<std::uint8_t> data(bytes);
+      Result result = Result::Success;
+      if (writes) {
+        std::ranges::copy(callers, data.Data());
+        ExpectWrite(values(Header(header)));
+        result = WriteItem(phone, item, storage, selection, data.Data());
+      } else {
+        ExpectRead(Header(header), values(ReadAnswer()).Raw("EE EE EE EE"));
+        result = ReadItem(phone, item, storage, selection, data.Data());
+      }
+      EXPECT_EQ(data.Hex(bytes), ToHex(callers));
+      EXPECT_EQ(result, Result::Success);
+      ExpectLogged(logName);
+      EXPECT_EQ(OperationOf(Result::Success), operation);
+    });
+  };
+  // One of each kind.
+  travels(items::ADC_Adc1, Flash, false, {}, "ReadData_Flash_ADC_Adc1:", 87, {1, 0, 1, 1, 4});
+  // Records no id, so that the one before stands.
+  travels(items::ADC, Flash, true, {.index = 0xF1C8}, "WriteData_Flash_ADC:", 87,
+          {1, 0, 1, 200, 4});
+  travels(items::AFC_slope_value_arr, Ram, true, {}, "WriteData_Ram_AFC_slope_value_arr:", 119,
+          {0, 0, 4, 0, 34});
+  travels(items::AGC_RX_compensate_value, Ram, false, {.band = 1, .count = 7},
+          "ReadData_Ram_AGC_RX_compensate_value:", 127, {0, 1, 18, 0, 14});
+  travels(items::RampTable, Flash, true, {.band = 3, .index = 5}, "SetRampTable_Flash:", 142,
+          {1, 3, 8, 100, 40});
+  travels(items::RampTableConstDown, Ram, false, {.band = 1, .index = 9},
+          "ReadRampTableConstDown_Ram:", 153, {0, 1, 10, 9, 2});
+  travels(items::GetRfScheme, Ram, false, {}, "GetRfScheme:", 170, {0, 0, 33, 0, 12});
+}
+
 TEST_F(CalibrationItems, AreFilledAsFarAsTheAnswerGoesAndNoFurther) {
   ForEachItem([&](const CalibrationItem& item, const ItemSelection& selection, std::size_t bytes) {
     for (const std::size_t answered : {bytes - 1, bytes, bytes + 1, std::size_t{1}}) {
