@@ -20,7 +20,7 @@ TEST(BadInput, CorpusRuns) {
   int files = 0;
   for (const auto& entry : std::filesystem::directory_iterator(NVPROJECT_CORPUS)) {
     SCOPED_TRACE(entry.path().string());
-    fuzzing::RunProjectInput(ReadFile(entry.path().string()));
+    fuzzing::RunProjectInput(test::FileText(entry.path().string()));
     ++files;
   }
   EXPECT_GT(files, 5);

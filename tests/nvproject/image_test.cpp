@@ -134,7 +134,7 @@ class ImageFile : public ::testing::Test {
 TEST_F(ImageFile, IsWrittenToTheTarget) {
   const auto parser = Open("nv.bin");
   EXPECT_EQ(SaveToBinaryFile(parser.get(), kLittle), Result::Success);
-  EXPECT_EQ(ReadFile(directory.Path("nv.bin")), std::string("\4\3\2\1\1\0\2\0\2\1\0\0", 12));
+  EXPECT_EQ(test::FileText(directory.Path("nv.bin")), std::string("\4\3\2\1\1\0\2\0\2\1\0\0", 12));
   EXPECT_THAT(messages.Texts(), IsEmpty());
 }
 
@@ -149,7 +149,7 @@ TEST_F(ImageFile, FailuresAreShownOnly) {
 TEST_F(ImageFile, TooLargeAnImageLeavesTheOldFile) {
   WriteFile(directory.Path("nv.bin"), "old");
   EXPECT_EQ(SaveToBinaryFile(Open("nv.bin", ArrayOf(32765)).get(), kBig), Result::BufferTooSmall);
-  EXPECT_EQ(ReadFile(directory.Path("nv.bin")), "old");
+  EXPECT_EQ(test::FileText(directory.Path("nv.bin")), "old");
 }
 
 TEST_F(ImageFile, AlternativeBasePutsDspCodeFirst) {
@@ -162,7 +162,7 @@ TEST_F(ImageFile, AlternativeBasePutsDspCodeFirst) {
 
   WriteFile(directory.Path("dsp"), "ABCDE");
   EXPECT_EQ(parser->SaveImage(kBig, directory.Path("dsp")), Result::Success);
-  const std::string image = ReadFile(directory.Path("nv.bin"));
+  const std::string image = test::FileText(directory.Path("nv.bin"));
   ASSERT_EQ(image.size(), 49168U);
   EXPECT_EQ(image.substr(0, 16), std::string("\1\2\3\4\0\4\xC0\0BADC\0E\0\0", 16));
   EXPECT_EQ(image.substr(49160), std::string("\0\1\0\2\1\2\0\0", 8));

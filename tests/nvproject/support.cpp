@@ -3,9 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <atomic>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <utility>
 
@@ -55,26 +53,8 @@ std::unique_ptr<CFileParser> Load(const std::vector<std::vector<TestItem>>& modu
   return parser->LoadProject("d\\p") ? std::move(parser) : nullptr;
 }
 
-TemporaryDirectory::TemporaryDirectory() {
-  static std::atomic<int> counter{0};
-  const auto stamp = std::filesystem::file_time_type::clock::now().time_since_epoch().count();
-  path_ = std::filesystem::temp_directory_path() /
-          ("nvproject-" + std::to_string(stamp) + "-" + std::to_string(counter++));
-  std::filesystem::create_directories(path_);
-}
-
-TemporaryDirectory::~TemporaryDirectory() {
-  std::error_code ignored;
-  std::filesystem::remove_all(path_, ignored);
-}
-
 void WriteFile(const std::string& path, std::string_view bytes) {
   std::ofstream(path, std::ios::binary) << bytes;
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream stream(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
 }
 
 CaughtMessages::CaughtMessages() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <filesystem>
 #include <map>
 #include <memory>
 #include <string>
@@ -10,6 +9,7 @@
 #include <vector>
 
 #include "nvproject/commands.h"
+#include "support/temp_directory.h"
 
 namespace merovane::nvproject::testing {
 
@@ -37,19 +37,12 @@ std::unique_ptr<CFileParser> ParserOf(std::map<std::string, std::string> files);
 // Loads a project of these modules.
 std::unique_ptr<CFileParser> Load(const std::vector<std::vector<TestItem>>& modules);
 
-// A directory of its own, gone with the object.
-class TemporaryDirectory {
- public:
-  TemporaryDirectory();
-  ~TemporaryDirectory();
-  std::string Path(std::string_view name) const { return (path_ / name).string(); }
-
- private:
-  std::filesystem::path path_;
+struct TemporaryDirectory : test::TempDirectory {
+  using TempDirectory::Path;
+  std::string Path(std::string_view name) const { return (*this / name).string(); }
 };
 
 void WriteFile(const std::string& path, std::string_view bytes);
-std::string ReadFile(const std::string& path);
 
 // Message boxes while it lives, as "caption: text".
 class CaughtMessages {

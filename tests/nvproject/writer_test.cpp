@@ -12,7 +12,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 std::string Golden(const std::string& name) {
-  return ReadFile(std::string(NVPROJECT_GOLDEN) + "/" + name);
+  return test::FileText(std::string(NVPROJECT_GOLDEN) + "/" + name);
 }
 
 // The text with the directory's path replaced by "<dir>".
@@ -55,7 +55,7 @@ TEST_F(Writer, SavesProjectAndModules) {
   ASSERT_TRUE(parser.SaveProject());
   EXPECT_FALSE(parser.Changed());
   const auto saved = [&](const char* name) {
-    return WithoutDirectory(ReadFile(directory.Path(name)), directory);
+    return WithoutDirectory(test::FileText(directory.Path(name)), directory);
   };
   EXPECT_EQ(saved("p.prj"), Golden("saved.prj"));
   EXPECT_EQ(saved("first.nvm"), Golden("saved_first.nvm"));
@@ -83,9 +83,9 @@ TEST_F(Writer, SavedProjectReadsBackAndItsDescriptionsGrow) {
 TEST_F(Writer, CreatesANewProjectThatCannotBeRead) {
   CFileParser fresh;
   ASSERT_TRUE(fresh.CreateProject("fresh", directory.Path("n.prj"), "C:\\out", "unused"));
-  EXPECT_EQ(ReadFile(directory.Path("n.prj")), Golden("new.prj"));
+  EXPECT_EQ(test::FileText(directory.Path("n.prj")), Golden("new.prj"));
   ASSERT_TRUE(fresh.CreateProject("fresh", directory.Path("n.prj"), "", ""));
-  EXPECT_EQ(ReadFile(directory.Path("n.prj")), Golden("new_without_target.prj"));
+  EXPECT_EQ(test::FileText(directory.Path("n.prj")), Golden("new_without_target.prj"));
   EXPECT_FALSE(CFileParser().LoadProject(directory.Path("n.prj")));
 }
 
@@ -93,7 +93,7 @@ TEST_F(Writer, RewritesAReadOnlyFileAndLeavesItReadOnly) {
   const std::string file = directory.Path("first.nvm");
   ASSERT_TRUE(platform::SetReadOnly(file, true));
   EXPECT_TRUE(parser.SaveModule(0));
-  EXPECT_EQ(ReadFile(file), Golden("saved_first.nvm"));
+  EXPECT_EQ(test::FileText(file), Golden("saved_first.nvm"));
   EXPECT_TRUE(platform::IsReadOnly(file));
   EXPECT_THAT(messages.Texts(), IsEmpty());
   platform::SetReadOnly(file, false);
@@ -106,7 +106,7 @@ TEST_F(Writer, FailureIsShownAndStopsTheProjectOnly) {
   std::filesystem::create_directory(std::filesystem::path(module) / "in the way");
   EXPECT_TRUE(parser.SaveProject());
   EXPECT_THAT(messages.Texts(), ElementsAre("Error: Can't open file " + module + "!"));
-  EXPECT_EQ(ReadFile(directory.Path("second.nvm")), Golden("saved_second.nvm"));
+  EXPECT_EQ(test::FileText(directory.Path("second.nvm")), Golden("saved_second.nvm"));
 
   CFileParser fresh;
   const std::string nowhere = directory.Path("none/n.prj");
