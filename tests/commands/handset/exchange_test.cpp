@@ -62,11 +62,16 @@ TEST_F(HandsetCommands, WaitAsLongAsTheirLimitAndTheSettingSay) {
 TEST_F(HandsetCommands, PassTheLinksCodesOn) {
   ForEachRow([&](const Row& row) {
     const bool own = row.silence != Result::NoAnswer;
+    const auto gives = [&](Result linksCode) {
+      const Result result = own ? row.silence : linksCode;
+      EXPECT_EQ(row.command.run(phone).result, result);
+      ExpectLog(row, result, !own);
+    };
     Expect(row).WriteFails();
-    EXPECT_EQ(row.command.run(phone).result, own ? row.silence : Result::WriteFailed);
+    gives(Result::WriteFailed);
     if (row.answer.subtype == 2) return;  // a refusal is the answer
     Expect(row).Answer(row.request.type, 2, "00 00 00 00");
-    EXPECT_EQ(row.command.run(phone).result, own ? row.silence : Result::Refused);
+    gives(Result::Refused);
   });
 }
 
