@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <random>
 #include <string>
 #include <vector>
@@ -36,35 +37,6 @@ TEST(ProfileFile, ReadsIntegersAsFarAsTheirDigitsGo) {
   }
 }
 
-TEST(ProfileFile, FindsNamesWithoutRegardToCaseAndBlanks) {
-  const auto profile = ProfileFile::Parse(
-      "  [ Inc Recv Timeout ]  ; note\n"
-      "\t Time Out \t=  250  \n"
-      "path = \"C:\\a b\" \n"
-      "odd = \"x'\n"
-      "eq=a=b\n");
-  EXPECT_EQ(profile.Integer("INC RECV TIMEOUT", "time out", 0), 250U);
-  EXPECT_EQ(profile.Text("inc recv timeout", "PATH", ""), "C:\\a b");
-  EXPECT_EQ(profile.Text("inc recv timeout", "odd", ""), "\"x'");
-  EXPECT_EQ(profile.Text("inc recv timeout", "eq", ""), "a=b");
-  EXPECT_EQ(profile.Text("inc recv timeout", "none", "fallback"), "fallback");
-  EXPECT_EQ(profile.Text("IncRecvTimeout", "eq", "fallback"), "fallback");
-}
-
-TEST(ProfileFile, TakesTheFirstSectionOfANameAndInItTheFirstKey) {
-  const auto profile = ProfileFile::Parse(
-      "Port=1\n"
-      "[Other]\nPort=2\n"
-      ";[Socket]\n;Port=3\n"
-      "[Socket]\nPort\n; Port=4\n Port=5\nPort=6\n"
-      "[Last]\nPort=7\n"
-      "[socket]\nPort=8\nLate=9\n");
-  EXPECT_EQ(profile.Integer("Socket", "Port", 0), 5U);
-  EXPECT_EQ(profile.Integer("Socket", "Late", 0), 0U);
-  EXPECT_EQ(profile.Integer("Last", "Port", 0), 7U);
-  EXPECT_EQ(profile.Integer("", "Port", 0), 0U) << "a key ahead of every section";
-}
-
 std::string Utf16(const std::string& ascii, bool bigEndian) {
   std::string bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
   for (const char c : ascii) {
@@ -75,13 +47,33 @@ std::string Utf16(const std::string& ascii, bool bigEndian) {
   return bytes;
 }
 
-TEST(ProfileFile, TakesByteOrderMarksAndEveryLineEnd) {
-  const std::string text = "[S]\r\n\nK=9\rT=a";
-  for (const std::string& bytes :
-       {"\xEF\xBB\xBF" + text, Utf16(text, false), Utf16(text, true), Utf16(text, false) + "x"}) {
+TEST(ProfileFile, FindsTheFirstSectionOfANameAndInItTheFirstKey) {
+  const std::string text =
+      "Port=1\n"
+      "  [ Inc Recv Timeout ]  ; note\n"
+      "\t Time Out \t=  250  \r\n"
+      "path = \"C:\\a b\" \r"
+      "odd = \"x'\neq=a=b\n\n"
+      ";[Socket]\n;Port=3\n"
+      "[Socket]\nPort\n; Port=4\n Port=5\nPort=6\n"
+      "[Last]\nPort=7\n"
+      "[socket]\nPort=8\nLate=9";
+  const std::array<const char*, 3> found[] = {{"INC RECV TIMEOUT", "time out", "250"},
+                                              {"inc recv timeout", "PATH", "C:\\a b"},
+                                              {"Inc Recv Timeout", "odd", "\"x'"},
+                                              {"Inc Recv Timeout", "eq", "a=b"},
+                                              {"Inc Recv Timeout", "none", "no"},
+                                              {"IncRecvTimeout", "eq", "no"},
+                                              {"Socket", "Port", "5"},
+                                              {"Socket", "Late", "no"},
+                                              {"Last", "Port", "7"},
+                                              {"", "Port", "no"}};
+  for (const std::string& bytes : {text, "\xEF\xBB\xBF" + text, Utf16(text, false),
+                                   Utf16(text, true), Utf16(text, false) + "x"}) {
     const auto profile = ProfileFile::Parse(bytes);
-    EXPECT_EQ(profile.Integer("S", "K", 0), 9U);
-    EXPECT_EQ(profile.Text("S", "T", ""), "a");
+    for (const auto& [section, key, value] : found) {
+      EXPECT_EQ(profile.Text(section, key, "no"), value) << section << " " << key;
+    }
   }
 }
 
@@ -106,17 +98,7 @@ TEST(ProfileFile, SurvivesTextThatIsNoSettingsFile) {
   }
 }
 
-TEST(ProfileFile, LoadsWhatCanBeReadAndTreatsTheRestAsEmpty) {
-  const TempDirectory directory;
-  directory.Write("a.ini", "[S]\r\nK=5\r\n");
-  EXPECT_EQ(ProfileFile::Load(directory / "a.ini").Integer("S", "K", 1), 5U);
-  directory.Write("empty.ini", "");
-  for (const char* name : {"empty.ini", "missing.ini", ".", "missing/a.ini", "a.ini/b"}) {
-    EXPECT_EQ(ProfileFile::Load(directory / name).Integer("S", "K", 1), 1U) << name;
-  }
-}
-
-TEST(ProfileFile, ReadsAHugeFileToItsLastWholeLineWithinTheLimit) {
+TEST(ProfileFile, LoadsWholeLinesWithinTheLimitAndTreatsTheRestAsEmpty) {
   const TempDirectory directory;
   std::string text = "[S]\nFirst=1\n";
   text.resize((1U << 20) - 7, ' ');
@@ -126,6 +108,10 @@ TEST(ProfileFile, ReadsAHugeFileToItsLastWholeLineWithinTheLimit) {
   EXPECT_EQ(profile.Integer("S", "First", 0), 1U);
   EXPECT_EQ(profile.Integer("S", "Cut", 0), 0U);
   EXPECT_EQ(profile.Integer("S", "Late", 0), 0U);
+  directory.Write("empty.ini", "");
+  for (const char* name : {"empty.ini", "missing.ini", ".", "missing/a.ini", "huge.ini/b"}) {
+    EXPECT_EQ(ProfileFile::Load(directory / name).Integer("S", "First", 7), 7U) << name;
+  }
 }
 
 }  // namespace

@@ -59,11 +59,10 @@ TEST(Thread, EndsWhenItsBodyThrowsAndFreesWhatTheBodyHeld) {
 }
 
 TEST(Thread, RunsOnAfterItWasGivenUp) {
-  struct Shared {
-    Event stop;
-    Event ended;
-  };
   for (const bool explicitly : {true, false}) {
+    struct Shared {
+      Event stop, ended;
+    };
     const auto shared = std::make_shared<Shared>();
     {
       Thread thread;
@@ -71,11 +70,9 @@ TEST(Thread, RunsOnAfterItWasGivenUp) {
         shared->stop.WaitMs(UINT32_MAX);
         shared->ended.Set();
       }));
-      if (explicitly) {
-        thread.Abandon();
-        EXPECT_FALSE(thread.Running());
-        EXPECT_TRUE(thread.WaitMs(0));
-      }
+      if (explicitly) thread.Abandon();
+      EXPECT_EQ(thread.Running(), !explicitly);
+      EXPECT_EQ(thread.WaitMs(0), explicitly);
     }
     EXPECT_FALSE(shared->ended.IsSet());
     shared->stop.Set();

@@ -7,7 +7,6 @@ namespace radio_test {
 namespace {
 
 constexpr int32_t kTooFewValues = 13;
-constexpr int32_t kWrongStartMode = 16;
 constexpr int32_t kRefused = 39;
 
 using TdRadio = CalibratedStation;
@@ -49,14 +48,6 @@ TEST_P(TdRadio, ParametersAreKeptBySelector) {
   }
   QV_TD_PARAMETERS more{0x12345678, 3, {}};
   EXPECT_EQ(QV_ReadTDCalParam_MT(kPort, &more), kTooFewValues);
-}
-
-TEST_P(TdRadio, StartModeAndModeRead) {
-  EXPECT_EQ(QV_SetPhoneStartMode_TD_MT(kPort, 17), PC_ERR_SUCCESS);
-  uint8_t mode[8] = {};
-  EXPECT_EQ(QV_ReadMode_TD_MT(kPort, mode, sizeof mode), PC_ERR_SUCCESS);
-  EXPECT_EQ(mode[3], 17);
-  EXPECT_EQ(QV_SetPhoneStartMode_TD_MT(kPort, 3), kWrongStartMode) << "acknowledged as 3, not 17";
 }
 
 }  // namespace
