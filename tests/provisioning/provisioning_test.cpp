@@ -122,28 +122,4 @@ TEST_P(Provisioning, MovesItemsRegistersAndBlocks) {
   EXPECT_EQ(QV_EraseFlash(1000), PC_ERR_SUCCESS);
 }
 
-TEST_P(Provisioning, DrivesPeripheralsAndRadios) {
-  Connect();
-  EXPECT_EQ(QV_VibrationOn(1), PC_ERR_SUCCESS);
-  EXPECT_EQ(QV_PressKeyboard(0x0102), PC_ERR_SUCCESS);
-  EXPECT_EQ(phone->Status("peripherals.vibrator"), "on");
-  EXPECT_EQ(phone->Status("measuring.last_key"), "258");
-  uint32_t voltage = 0;
-  EXPECT_EQ(QV_ReadPhoneVolt_MT(kPort, &voltage), PC_ERR_SUCCESS);
-  EXPECT_GT(voltage, 3000u);
-  EXPECT_LT(voltage, 4500u);
-  EXPECT_EQ(QV_GpsOpen(1), PC_ERR_SUCCESS);
-  EXPECT_EQ(phone->Status("gps.receiver"), "open");
-  EXPECT_EQ(QV_StartBtAFC(1, 5), QV_REFUSED);
-  EXPECT_EQ(QV_EnterEUTMode(1), PC_ERR_SUCCESS);
-  EXPECT_EQ(QV_StartBtAFC(1, 5), PC_ERR_SUCCESS);
-  EXPECT_EQ(phone->Status("bluetooth.channel"), "5");
-  EXPECT_EQ(QV_WIFI_SetPCL(4), PC_ERR_WIFI_OPER_FAIL);
-  EXPECT_EQ(QV_WIFI_EnterEUTMode(1), PC_ERR_SUCCESS);
-  EXPECT_EQ(QV_WIFI_SetTxStatus(1, 0x0102), PC_ERR_SUCCESS);
-  EXPECT_EQ(phone->Status("wifi.transmit_parameter"), "258");
-  EXPECT_EQ(QV_DspDebug_WrRegMemo(0, 4, 0x00100000, 7), PC_ERR_SUCCESS);
-  EXPECT_EQ(QV_DspDebug_WrRegMemo(0, 4, 0, 7), PC_ERR_DSP_DEBUG_OPERATION_FAIL);
-}
-
 }  // namespace
