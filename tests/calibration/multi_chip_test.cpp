@@ -78,9 +78,12 @@ TEST_F(MultiChip, FirstFailingStepEndsACommand) {
   ExpectWriteRefused();
   EXPECT_EQ(TxOn_MChip(phone, 1, 700, 10), Result::Refused);
   EXPECT_EQ(phone.calibration.lastPcl, 0);
+  ExpectStep(0, 19, 2);
+  ExpectStep(0, 20, 3);
   ExpectWriteRefused();
   EXPECT_EQ(AfcStart_MChip(phone, 1, &afc), Result::Refused);
   ExpectRefused(66, CALL(AfcStart_MChip(phone, 1, nullptr)));
+  ExpectStep(0, 19, 700);
   ExpectStep(0, 20, 4);
   ExpectWriteRefused();
   EXPECT_EQ(AgcStart_MChip(phone, 1, &agc, &measured), Result::Refused);
