@@ -37,8 +37,8 @@ Exchange& Exchange::After(std::uint32_t ms) {
 }
 
 Exchange& Exchange::Split(std::size_t pieceBytes) {
-  std::vector<Item> pieces;
-  for (const Item& item : items_) {
+  std::vector<Piece> pieces;
+  for (const Piece& item : items_) {
     if (item.vanish) pieces.push_back(item);
     std::uint32_t delayMs = item.delayMs;
     for (std::size_t at = 0; at < item.bytes.size(); at += pieceBytes) {
@@ -101,7 +101,7 @@ Exchange& ScriptedHandset::Expect(std::uint8_t type, std::uint8_t subtype, const
 
 Exchange& ScriptedHandset::ExpectAnyPayload(std::uint8_t type, std::uint8_t subtype) {
   Exchange& exchange = Expect(type, subtype);
-  exchange.anyPayload_ = true;
+  exchange.payload_.reset();
   return exchange;
 }
 
@@ -126,7 +126,7 @@ void ScriptedHandset::Verify() {
   const std::lock_guard lock(mutex_);
   for (const Exchange& exchange : script_) {
     ADD_FAILURE() << "never came: " << int{exchange.type_} << "/" << int{exchange.subtype_} << " ["
-                  << ToHex(exchange.payload_) << "]";
+                  << ToHex(exchange.payload_.value_or(Bytes())) << "]";
   }
   script_.clear();
 }
@@ -226,18 +226,18 @@ bool ScriptedHandset::Hear(const Bytes& written) {
   const Exchange exchange = std::move(script_.front());
   script_.pop_front();
   if (raw) {
-    EXPECT_EQ(ToHex(written), ToHex(exchange.payload_)) << "written as it is";
+    EXPECT_EQ(ToHex(written), ToHex(*exchange.payload_)) << "written as it is";
   } else {
     EXPECT_EQ(int{frame->type}, int{exchange.type_}) << "type of " << ToHex(written);
     EXPECT_EQ(int{frame->subtype}, int{exchange.subtype_}) << "subtype of " << ToHex(written);
     EXPECT_EQ(frame->sequence, exchange.sequence_) << "sequence of " << ToHex(written);
-    if (!exchange.anyPayload_) {
-      EXPECT_EQ(ToHex(frame->payload), ToHex(exchange.payload_))
+    if (exchange.payload_) {
+      EXPECT_EQ(ToHex(frame->payload), ToHex(*exchange.payload_))
           << "payload of " << int{frame->type} << "/" << int{frame->subtype};
     }
   }
   if (exchange.writeFails_) return false;
-  for (const Exchange::Item& item : exchange.items_) Add({item.bytes, item.delayMs, item.vanish});
+  for (const Piece& piece : exchange.items_) Add(piece);
   return true;
 }
 

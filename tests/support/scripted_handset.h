@@ -29,6 +29,13 @@ struct HeardFrame {
 Bytes WireFrame(bool bigEndian, std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
                 std::uint32_t sequence = 0);
 
+// What a handset says at once, or its end.
+struct Piece {
+  Bytes bytes;
+  std::uint32_t delayMs = 0;  // after the piece before it
+  bool vanish = false;
+};
+
 // One expected request and what it is answered with, in order.
 class Exchange {
  public:
@@ -52,22 +59,15 @@ class Exchange {
 
  private:
   friend class ScriptedHandset;
-  struct Item {
-    Bytes bytes;
-    std::uint32_t delayMs = 0;
-    bool vanish = false;
-  };
-
   bool bigEndian_ = true;
   bool raw_ = false;
-  bool anyPayload_ = false;
   std::uint8_t type_ = 0;
   std::uint8_t subtype_ = 0;
-  Bytes payload_;
+  std::optional<Bytes> payload_;  // none: any
   std::uint32_t sequence_ = 0;
   bool writeFails_ = false;
   std::uint32_t delayMs_ = 0;
-  std::vector<Item> items_;
+  std::vector<Piece> items_;
 };
 
 // One at a time exists; links made with Library() reach it. Reads take what is there or is due
@@ -114,11 +114,6 @@ class ScriptedHandset final : private CassorindChannel {
   const CassorindOpenParameters& OpenedWith() const { return openedWith_; }
 
  private:
-  struct Piece {
-    Bytes bytes;
-    std::uint32_t delayMs = 0;  // after the piece before it
-    bool vanish = false;
-  };
   struct Receiver {
     std::uint32_t messageId;
     std::uint32_t threadId;
