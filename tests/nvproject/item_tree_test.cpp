@@ -86,12 +86,6 @@ TEST(Lookup, IgnoresCaseAndModuleAndTakesTheFirst) {
   EXPECT_EQ(parser->Items().FindExact("SAME"), kNoItem);
 }
 
-TEST(Lookup, ContentIsCutTo255Characters) {
-  const auto parser = Load({{{.name = "a"}}});
-  EXPECT_TRUE(parser->SetItemContent(0, "A", std::string(300, 'c')));
-  EXPECT_EQ(Content(*parser, "a"), std::string(255, 'c'));
-}
-
 // The content of the first item of that path, letter case ignored; "?" when there is none.
 std::string Scan(const ItemList& items, std::string_view path) {
   const auto same = [](char a, char b) {
