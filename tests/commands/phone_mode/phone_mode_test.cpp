@@ -155,7 +155,10 @@ TEST_F(PhoneMode, ReadModeLeavesAShortModeAsItIs) {
 TEST_F(PhoneMode, ReadHandsOutTheNextFrameWhateverItIs) {
   GuardedBuffer<std::uint8_t> data(12);
   std::uint32_t length = 0;
-  const auto read = [&] { return Read(phone, data.Data(), &(length = 12), 100); };
+  const auto read = [&] {
+    length = 12;
+    return Read(phone, data.Data(), &length, 100);
+  };
   handset.SayRaw("99 99");
   handset.Say(0x62, 0x03, "7E 7D 01");
   EXPECT_EQ(read(), Result::Success);
@@ -179,16 +182,17 @@ TEST_F(PhoneMode, WritePassesBytesAsTheyAreAndDropsNothing) {
   EXPECT_EQ(Write(phone, bytes, 4), Result::Success);
   EXPECT_EQ(OperationOf(Result::Success), 14u);
   GuardedBuffer<std::uint8_t> data(16);
-  std::uint32_t length = 16;
   for (const char* expected : {"03 03", "04 04"}) {
-    EXPECT_EQ(Read(phone, data.Data(), &(length = 16), 100), Result::Success);
+    std::uint32_t length = 16;
+    EXPECT_EQ(Read(phone, data.Data(), &length, 100), Result::Success);
     EXPECT_TRUE(data.Hex(8).ends_with(expected)) << data.Hex(8);
   }
   handset.ExpectRaw("7E 41 54 0D").WriteFails();
   EXPECT_EQ(Write(phone, bytes, 4), Result::WriteFailed);
   EXPECT_THAT(Log(), ElementsAre());
   static_cast<void>(phone.link.Close());
-  EXPECT_EQ(Read(phone, data.Data(), &(length = 16), 100), Result::PortNotOpen);
+  std::uint32_t length = 16;
+  EXPECT_EQ(Read(phone, data.Data(), &length, 100), Result::PortNotOpen);
   EXPECT_EQ(Write(phone, bytes, 4), Result::PortNotOpen);
 }
 
