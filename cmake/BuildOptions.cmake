@@ -6,6 +6,12 @@ target_compile_options(merovane_build_options INTERFACE
   # g++ 12 takes optimised string concatenations for overlapping copies.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
+# For code that runs once, as tests and command lines do: optimising it is most of a build's time.
+add_library(merovane_unoptimised INTERFACE)
+if(NOT MEROVANE_SANITIZE)
+  target_compile_options(merovane_unoptimised INTERFACE -O0)
+endif()
+
 if(MEROVANE_SANITIZE)
   add_compile_options(-fsanitize=${MEROVANE_SANITIZE} -fno-omit-frame-pointer -g)
   add_link_options(-fsanitize=${MEROVANE_SANITIZE})
