@@ -105,5 +105,24 @@ TEST_F(ReceiveThread, LeavesFloodsWithinTheRing) {
   EXPECT_EQ(Frame(), "00 00 00 00 00 09 07 07 00");
 }
 
+TEST_F(ReceiveThread, GoesOnWhenTheDiskIsFull) {
+  ASSERT_EQ(real.link.Close(), Result::Success);
+  const std::filesystem::path full = "/dev/full";
+  const auto logs = {usefulLog.File(), allLog.File()};
+  for (const auto& log : logs) {
+    std::filesystem::remove(log);
+    std::filesystem::create_symlink(full, log);
+  }
+  settings.SaveReceivedData(true, full);
+  for (const std::uint32_t mode : {1u, 0u}) {
+    settings.receiveMode = mode;
+    ASSERT_EQ(real.link.Open(port, 9600), Result::Success);
+    handset.Expect(1, 1).Answer(1, 1);
+    EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs), Result::Success);
+    EXPECT_EQ(real.link.Close(), Result::Success);
+  }
+  for (const auto& log : logs) EXPECT_TRUE(std::filesystem::is_symlink(log)) << log;
+}
+
 }  // namespace
 }  // namespace merovane::test
