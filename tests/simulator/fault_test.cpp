@@ -105,7 +105,7 @@ TEST_F(Misbehaving, DisconnectsInsteadOfAnswering) {
     cut.Send(28, 0);
     EXPECT_TRUE(cut.WaitForHangup());
   }
-  ASSERT_TRUE(station::WaitForPath(phone.DevicePath()));
+  ASSERT_TRUE(station::WaitForPort(phone));
   EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
   EXPECT_TRUE(Station(tcp.Address()).Ask(28, 0));
 }

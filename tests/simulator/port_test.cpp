@@ -21,7 +21,6 @@ using handset::HandsetState;
 using handset::TransportKind;
 using station::kPatience;
 using station::Station;
-using station::WaitForPath;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
@@ -121,7 +120,7 @@ TEST(PtyPort, VanishesAfterTheAnswerToARestartAndComesBack) {
   EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
 
   phone.VanishPort(30ms);
-  EXPECT_TRUE(WaitForPath(phone.DevicePath()));
+  EXPECT_TRUE(station::WaitForPort(phone));
   EXPECT_TRUE(Station(phone.Address()).Ask(28, 0)) << "it stayed on all the while";
 }
 

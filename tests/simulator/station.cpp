@@ -9,9 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 #include <stdexcept>
-#include <thread>
 
 namespace station {
 namespace {
@@ -110,14 +108,6 @@ bool Station::WaitForHangup() const {
   while (!ReadRaw(Remaining(deadline)).empty()) {
   }
   return Clock::now() < deadline;
-}
-
-bool WaitForPath(const std::string& path) {
-  auto deadline = Clock::now() + kPatience;
-  while (!std::filesystem::exists(path) && Clock::now() < deadline) {
-    std::this_thread::sleep_for(2ms);
-  }
-  return std::filesystem::exists(path);
 }
 
 }  // namespace station

@@ -46,7 +46,10 @@ class Station {
   handset::FrameDecoder decoder_;
 };
 
-// Waits for the path to name a device.
-bool WaitForPath(const std::string& path);
+// Waits until the handset's port is there.
+inline bool WaitForPort(const handset::Handset& phone) {
+  phone.State();  // Behind the port's end, if that is what the station has just seen.
+  return phone.WaitForState([](const auto& state) { return state.portPresent; }, kPatience);
+}
 
 }  // namespace station
