@@ -59,6 +59,15 @@ class CalibrationMessage {
   std::array<std::uint8_t, Bytes> bytes_{};
 };
 
+// A message that begins with the first fields of a power record.
+template <std::size_t Bytes, typename Record>
+CalibrationMessage<Bytes> PowerMessage(std::uint16_t id, const Record& record) {
+  return CalibrationMessage<Bytes>(id)
+      .U32(16, record.first)
+      .U16(20, record.second)
+      .U16(22, record.third);
+}
+
 // Sends a message and waits for its acknowledgement.
 template <std::size_t Bytes>
 Result Acknowledged(PhoneLink& link, const CalibrationMessage<Bytes>& message) {

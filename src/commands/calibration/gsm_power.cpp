@@ -18,10 +18,6 @@ constexpr FrameId kMaxRxPower{17, 5};
 // Leaves either.
 constexpr FrameId kNormalPower{17, 0};
 
-CalibrationMessage<28> PowerMessage(std::uint16_t id, const QV_POWER_STEP& step) {
-  return CalibrationMessage<28>(id).U32(16, step.first).U16(20, step.second).U16(22, step.third);
-}
-
 Result SwitchPower(Phone& phone, std::uint32_t operationId, std::string_view name, FrameId status) {
   Operation operation(phone, operationId);
   operation.Log(name);
@@ -34,7 +30,7 @@ Result PwrStepFactorSet(Phone& phone, const QV_POWER_STEP* step) {
   Operation operation(phone, 56);
   if (!step) return Result::InvalidParam;
   operation.Log("PwrStepFactorSet:");
-  const auto message = PowerMessage(0xA119, *step).U32(24, step->fourth);
+  const auto message = PowerMessage<28>(0xA119, *step).U32(24, step->fourth);
   return operation.Finish(Acknowledged(phone.link, message));
 }
 
@@ -46,7 +42,7 @@ Result PASetting(Phone& phone, const QV_POWER_STEP* setting) {
   // stands in this machine's memory.
   std::array<std::uint8_t, sizeof(setting->fourth)> last{};
   std::memcpy(last.data(), &setting->fourth, last.size());
-  const auto message = PowerMessage(0xA11A, *setting)
+  const auto message = PowerMessage<28>(0xA11A, *setting)
                            .Raw(24, last)
                            .U16(24, static_cast<std::uint16_t>(setting->fourth));
   return operation.Finish(Acknowledged(phone.link, message));

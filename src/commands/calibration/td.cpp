@@ -1,6 +1,7 @@
 #include "commands/calibration/td.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "commands/calibration/calibration_message.h"
 #include "commands/operation.h"
@@ -14,17 +15,24 @@ constexpr FrameId kReadModeFrame{28, 1};
 constexpr std::uint8_t kStartType = 0xFE;
 constexpr std::uint8_t kStartedSubtype = 0x91;
 
+template <std::size_t Bytes, typename Record>
+Result SendTransmission(Phone& phone, std::uint32_t operationId, std::string_view name,
+                        std::uint16_t id, const Record* record) {
+  Operation operation(phone, operationId);
+  if (!record) return Result::InvalidParam;
+  operation.Log(name);
+  const auto message =
+      PowerMessage<Bytes>(id, *record).U32(24, record->fourth).U16s(28, record->words);
+  return operation.Finish(Acknowledged(phone.link, message));
+}
+
 }  // namespace
 
 Result TDTxSweep(Phone& phone, const QV_TD_TX_SWEEP* sweep) {
   Operation operation(phone, 260);
   if (!sweep || sweep->count > kMaxSweepPoints) return Result::InvalidParam;
   operation.Log("TDTxSweep:");
-  auto message = CalibrationMessage<60>(0xA12A)
-                     .U32(16, sweep->first)
-                     .U16(20, sweep->second)
-                     .U16(22, sweep->third)
-                     .U16(24, sweep->count);
+  auto message = PowerMessage<60>(0xA12A, *sweep).U16(24, sweep->count);
   for (std::size_t point = 0; point < sweep->count; ++point) {
     message.U16s(26 + 4 * point, sweep->points[point]);
   }
@@ -32,29 +40,11 @@ Result TDTxSweep(Phone& phone, const QV_TD_TX_SWEEP* sweep) {
 }
 
 Result TdStartTx(Phone& phone, const QV_TD_TX_START* start) {
-  Operation operation(phone, 222);
-  if (!start) return Result::InvalidParam;
-  operation.Log("TdStartTx:");
-  const auto message = CalibrationMessage<40>(0xA129)
-                           .U32(16, start->first)
-                           .U16(20, start->second)
-                           .U16(22, start->third)
-                           .U32(24, start->fourth)
-                           .U16s(28, start->words);
-  return operation.Finish(Acknowledged(phone.link, message));
+  return SendTransmission<40>(phone, 222, "TdStartTx:", 0xA129, start);
 }
 
 Result PwrStepFactorSweepSet_TD(Phone& phone, const QV_TD_POWER_SWEEP* sweep) {
-  Operation operation(phone, 171);
-  if (!sweep) return Result::InvalidParam;
-  operation.Log("PwrStepFactorSweepSet_TD:");
-  const auto message = CalibrationMessage<36>(0xA128)
-                           .U32(16, sweep->first)
-                           .U16(20, sweep->second)
-                           .U16(22, sweep->third)
-                           .U32(24, sweep->fourth)
-                           .U16s(28, sweep->words);
-  return operation.Finish(Acknowledged(phone.link, message));
+  return SendTransmission<36>(phone, 171, "PwrStepFactorSweepSet_TD:", 0xA128, sweep);
 }
 
 Result PwrStepFactorSet_TD(Phone& phone, const QV_POWER_STEP* step) {
@@ -62,10 +52,7 @@ Result PwrStepFactorSet_TD(Phone& phone, const QV_POWER_STEP* step) {
   if (!step) return Result::InvalidParam;
   operation.Log("PwrStepFactorSet_TD:");
   // The GSM command's id: a handset tells the two apart by the mode it is in.
-  const auto message = CalibrationMessage<32>(0xA119)
-                           .U32(16, step->first)
-                           .U16(20, step->second)
-                           .U16(22, step->third)
+  const auto message = PowerMessage<32>(0xA119, *step)
                            .U32(24, step->fourth)
                            .U16(28, phone.calibration.tdContinuousMode ? 1 : 0);
   return operation.Finish(Acknowledged(phone.link, message));
