@@ -81,6 +81,21 @@ TEST(Layout, AlignmentOfANestedStructureDoesNotWidenTheOuterOne) {
               ElementsAre(Pair(0, 4), Pair(4, 4), Pair(0, 0)));
 }
 
+TEST(Layout, ARunGoesOnFromTheAlignmentsOfTheLast) {
+  // The first run stores "c" in the place of "x" and leaves the structure the alignment of a long.
+  const auto parser = Load({{{.name = "s", .type = kStruct},
+                             {.name = "x", .type = kLong, .parent = 0},
+                             {.name = "c", .type = kChar, .parent = 0, .index = 1}}});
+  EXPECT_THAT(Places(*parser), ElementsAre(Pair(4, 8), Pair(4, 0), Pair(0, 0)));
+  EXPECT_THAT(Places(*parser), ElementsAre(Pair(4, 4), Pair(1, 0), Pair(0, 0)));
+  const auto nested = Load({{{.name = "s", .type = kStruct},
+                             {.name = "n", .type = kStruct, .parent = 0},
+                             {.name = "x", .type = kLong, .parent = 1},
+                             {.name = "c", .type = kChar, .parent = 1, .index = 2}}});
+  EXPECT_THAT(Places(*nested), ElementsAre(Pair(0, 8), Pair(4, 8), Pair(4, 0), Pair(0, 0)));
+  EXPECT_THAT(Places(*nested), ElementsAre(Pair(0, 4), Pair(4, 4), Pair(1, 0), Pair(0, 0)));
+}
+
 TEST(Layout, ListsTopLevelItemsWithTheirPlaceInTheImage) {
   const auto parser = Load({{{.name = "a", .type = kChar, .length = 1},
                              {.name = "b", .type = kShort, .length = 2},
