@@ -8,7 +8,9 @@
 #include <unistd.h>
 
 #include <climits>
+#include <ctime>
 #include <optional>
+#include <thread>
 
 #include "companions/posix/pty_peer.h"
 #include "platform/console.h"
@@ -181,7 +183,14 @@ TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
   SetVariable("CASSORIND_COM231", link.c_str());
   // A pseudo-terminal and a link that names it, as simulated handsets make them.
   std::optional<peers::PtyPeer> terminal;
+  const auto tick = [] {
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME_COARSE, &now);
+    return now.tv_nsec;
+  };
   const auto plug = [&] {
+    // Files made within one tick of the system's clock bear the same time.
+    for (const auto before = tick(); tick() == before;) std::this_thread::yield();
     terminal.reset();
     terminal.emplace();
     std::filesystem::remove(link);
