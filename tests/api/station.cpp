@@ -22,7 +22,12 @@ Event::~Event() { ::close(descriptor_); }
 
 bool Event::Wait(std::chrono::milliseconds patience) const {
   pollfd polled{descriptor_, POLLIN, 0};
-  return ::poll(&polled, 1, static_cast<int>(patience.count())) == 1;
+  if (::poll(&polled, 1, static_cast<int>(patience.count())) != 1) return false;
+  // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
+  eventfd_t value = 0;
+  ::eventfd_read(descriptor_, &value);
+  ::eventfd_write(descriptor_, value);
+  return true;
 }
 
 Reported LastReported() {

@@ -63,7 +63,12 @@ class OwnEvent {
   platform::CallerEvent Get() const { return platform::CallerEvent(descriptor_); }
   bool IsSet(int patienceMs = 0) const {
     pollfd polled{descriptor_, POLLIN, 0};
-    return ::poll(&polled, 1, patienceMs) == 1;
+    if (::poll(&polled, 1, patienceMs) != 1) return false;
+    // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
+    eventfd_t value = 0;
+    ::eventfd_read(descriptor_, &value);
+    ::eventfd_write(descriptor_, value);
+    return true;
   }
 
  private:
