@@ -14,6 +14,11 @@ else()
   find_package(GTest REQUIRED)
 endif()
 
+# An executable, as those that use its headers are: position-independent code differs from a library's.
+add_executable(merovane_test_headers EXCLUDE_FROM_ALL ${CMAKE_BINARY_DIR}/headers.cpp)
+target_link_libraries(merovane_test_headers PRIVATE merovane_build_options merovane_unoptimised GTest::gmock GTest::gtest)
+target_precompile_headers(merovane_test_headers PRIVATE ${MEROVANE_STANDARD_HEADERS} <gmock/gmock.h> <gtest/gtest.h>)
+
 function(merovane_write_wine_tests)
   get_property(programs GLOBAL PROPERTY MEROVANE_WINE_TESTS)
   list(TRANSFORM programs APPEND ".exe\n")
@@ -29,6 +34,7 @@ function(merovane_test name)
   add_executable(${name} ${test_SOURCES})
   target_link_libraries(${name} PRIVATE merovane_build_options merovane_unoptimised ${test_LIBRARIES} GTest::gmock_main GTest::gmock GTest::gtest)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_precompile_headers(${name} REUSE_FROM merovane_test_headers)
   if(NOT WIN32)
     # One CTest entry a program: starting a process per case costs more than the cases.
     add_test(NAME ${name} COMMAND ${name})
