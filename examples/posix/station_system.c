@@ -1,3 +1,4 @@
+// NOLINTNEXTLINE(bugprone-reserved-identifier): the system's own switch
 #define _POSIX_C_SOURCE 200809L
 
 #include <poll.h>

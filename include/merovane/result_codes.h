@@ -13,7 +13,7 @@ typedef enum QV_RESULT {
   PC_ERR_WRITE_DATA_FAIL = 3,
   /** An argument is null, zero or out of range; nothing was sent. */
   PC_ERR_INVALID_PARAM = 4,
-  /** The data does not fit: it was cut to the caller's buffer, or left out where the export says so. */
+  /** The data does not fit: it was cut to the buffer, or left out where the export says so. */
   PC_ERR_IMPORT_BUFFER_SIZE_IS_TOO_SMALL = 5,
   /** Nothing arrived in time. */
   PC_ERR_CAN_NOT_REC_DATA = 6,

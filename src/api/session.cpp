@@ -162,6 +162,7 @@ std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uin
         settings.usefulLog = value2 != 0;
         break;
       case kSaveReceivedData:
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): this property's value is an address
         SaveRecvData(static_cast<std::uint32_t>(value1), reinterpret_cast<const char*>(value2));
         break;
       case kChannelServer:

@@ -49,6 +49,7 @@ struct ChannelPort::Reception {
     while (!stopped && platform::TakeMessage(message, UINT32_MAX)) {
       if (message.id == platform::kQuitMessage) return;
       const auto length = static_cast<std::size_t>(message.second);
+      // NOLINTNEXTLINE(performance-no-int-to-ptr): a message carries an address as a number
       const auto* data = reinterpret_cast<const std::uint8_t*>(message.first);
       if (message.id == kChannelDataMessage) {
         if (data && message.second > 0) TakeChunk({data, length});

@@ -3,7 +3,7 @@
 namespace merovane {
 
 std::shared_ptr<ChannelServer> ChannelServer::Connect(std::uint32_t port) {
-  const std::shared_ptr<ChannelServer> connection(new ChannelServer);
+  std::shared_ptr<ChannelServer> connection(new ChannelServer);
   if (!connection->library_.Load("Tollvane")) return nullptr;
   using InitFunction = TollvaneServer*(COMPANION_CALL*)();
   const auto init = reinterpret_cast<InitFunction>(connection->library_.Find("InitDll"));

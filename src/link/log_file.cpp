@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::uint32_t kMaxBytesPerLine = 16;
 constexpr std::size_t kMaxExtension = 259;
-constexpr std::uint64_t kMb = 1024 * 1024;
+constexpr std::uint64_t kMb = std::uint64_t{1024} * 1024;
 
 std::string_view Mark(LogDirection direction) {
   switch (direction) {

@@ -108,7 +108,7 @@ TEST_F(ExtendedAfc, WildBlockCountEndsWhenTheReportIsFull) {
   ExpectStart().Answer(10, 1, Block(4, 9100));
   ExpectNext().Answer(10, 1, large);
   ExpectNext().Answer(10, 1, Block(0, 9000));
-  ExpectNext().Answer(10, 1, Block(0, kReportBytes - 2 * 9080 - 8980 + 20));
+  ExpectNext().Answer(10, 1, Block(0, kReportBytes - std::size_t{2} * 9080 - 8980 + 20));
   ExpectStop();
   EXPECT_EQ(Start(), Result::Success);
   EXPECT_EQ(run[0].report_bytes, kReportBytes);

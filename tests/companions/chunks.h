@@ -19,6 +19,7 @@ inline std::string TakeChunks(std::uint32_t messageId, std::size_t bytes) {
   Message message;
   while (data.size() < bytes && TakeMessage(message, kPatienceMs)) {
     EXPECT_EQ(message.id, messageId);
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a message carries an address as a number
     data.append(reinterpret_cast<const char*>(message.first),
                 static_cast<std::size_t>(message.second));
   }

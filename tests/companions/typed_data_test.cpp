@@ -37,8 +37,8 @@ TEST(TypedData, TakesTextWithEscapes) {
 }
 
 TEST(HexDump, HasAnOffsetAHexAndACharacterColumn) {
-  std::vector<std::byte> data;
-  for (int i = 0; i < 18; ++i) data.push_back(static_cast<std::byte>(0x70 + i));
+  std::vector<std::byte> data(18);
+  for (std::size_t i = 0; i < data.size(); ++i) data[i] = static_cast<std::byte>(0x70 + i);
   EXPECT_EQ(HexDump(data),
             "  0000  70 71 72 73 74 75 76 77  78 79 7a 7b 7c 7d 7e 7f  |pqrstuvwxyz{|}~.|\n"
             "  0010  80 81                                             |..|\n");

@@ -106,7 +106,7 @@ TEST_F(LogFileTest, NamesFilesByNameFlagsAndKind) {
   const auto opened = [&](std::string_view name, std::uint32_t flags) {
     EXPECT_TRUE(log.Open(name, flags));
     log.Close();
-    const std::vector<std::string> files = Files();
+    std::vector<std::string> files = Files();
     for (const std::string& file : files) std::filesystem::remove(directory / file);
     return files;
   };
@@ -166,7 +166,7 @@ TEST_F(LogFileTest, StartsANewFileWhenOneHasPassedItsLimit) {
   log.Text("first in the next");
   EXPECT_EQ(Text().size(), 1024 * 1024 + 18u);
   EXPECT_EQ(Text("plain_1.txt"), "first in the next\r\n");
-  log.Text(std::string(1024 * 1024, 'b'));
+  log.Text(std::string(std::size_t{1024} * 1024, 'b'));
   log.Text("third");
   EXPECT_EQ(Text("plain_2.txt"), "third\r\n");
 }

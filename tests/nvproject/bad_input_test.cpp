@@ -77,6 +77,7 @@ TEST(BadInput, NumbersInFilesAreNotBelieved) {
 
 TEST(BadInput, DeepNestingIsLaidOut) {
   std::vector<TestItem> items;
+  items.reserve(10001);
   for (int i = 0; i < 10000; ++i) items.push_back({.name = "s", .type = kStruct, .parent = i - 1});
   items.push_back({.name = "m", .type = kShort, .parent = 9999, .content = "7"});
   const auto parser = Load({items});

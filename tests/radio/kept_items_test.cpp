@@ -116,7 +116,8 @@ const std::vector<Item>& Items() {
 Words Pattern(size_t item, unsigned variant) {
   Words words(Items()[item].words);
   for (size_t i = 0; i < words.size(); ++i) {
-    words[i] = static_cast<uint16_t>(0x0100 * (item + 1) + 0x4000 * variant + i + 1);
+    words[i] =
+        static_cast<uint16_t>(size_t{0x0100} * (item + 1) + size_t{0x4000} * variant + i + 1);
   }
   return words;
 }

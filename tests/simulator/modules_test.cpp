@@ -46,7 +46,7 @@ struct Talk {
     const char* why = "";
   };
 
-  explicit Talk(HandsetOptions options = Running())
+  explicit Talk(const HandsetOptions& options = Running())
       : phone(options),
         line((phone.Start(), phone.Address()), options.byteOrder == ByteOrder::Big) {}
 

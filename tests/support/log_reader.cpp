@@ -21,7 +21,7 @@ LogReader::~LogReader() {
 std::filesystem::path LogReader::File() const {
   std::error_code error;
   for (const auto& day : std::filesystem::directory_iterator(folder_, error)) {
-    const auto file = day.path() / fileName_;
+    auto file = day.path() / fileName_;
     if (std::filesystem::exists(file)) return file;
   }
   return {};

@@ -18,9 +18,7 @@ int PrintResults() {
   return tool::kOk;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
   CLI::App app("Merovane's command-line tool");
   app.require_subcommand(1);
   app.set_version_flag("--version", "1.0.0");
@@ -80,8 +78,14 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     return app.exit(error) == 0 ? tool::kOk : tool::kTrouble;
   }
+  return run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   try {
-    return run();
+    return Run(argc, argv);
   } catch (const std::exception& error) {
     std::cerr << "merovane: " << error.what() << '\n';
     return tool::kTrouble;

@@ -160,7 +160,9 @@ std::map<std::int32_t, std::uint64_t> SerialPorts::Present() {
   for (const auto& [port, path] : named) state.Note(port, path);
   for (const std::int32_t number : state.standard.Numbers()) {
     const std::int32_t port = number + 1;
-    if (!named.contains(port)) state.Note(port, (std::string(kDeviceDirectory) + "/").append(kStandardPort) + std::to_string(number));
+    if (!named.contains(port))
+      state.Note(port, (std::string(kDeviceDirectory) + "/").append(kStandardPort) +
+                           std::to_string(number));
   }
   state.seen.swap(state.now);
   std::map<std::int32_t, std::uint64_t> present;

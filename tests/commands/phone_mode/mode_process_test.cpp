@@ -243,7 +243,7 @@ TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {
 }
 
 struct ResetProcess : ArrivingPort {
-  void SetUp() override { CommandFixture::SetUp(); }
+  void SetUp() override { ASSERT_EQ(phone.link.Open(port, 115200), Result::Success); }
   Result Reset(bool throughPort, std::uint32_t kind = 1) {
     return phone.modeProcess.Reset(owner, {.throughPort = throughPort,
                                            .rebootKind = kind,
