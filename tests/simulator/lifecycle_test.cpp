@@ -15,15 +15,8 @@ using handset::HandsetOptions;
 using handset::HandsetState;
 using handset::TransportKind;
 using station::kPatience;
+using station::Running;
 using station::Station;
-
-HandsetOptions Running(TransportKind transport = TransportKind::Pty, uint16_t tcpPort = 0) {
-  HandsetOptions options;
-  options.transport = transport;
-  options.tcpPort = tcpPort;
-  options.startMode = 1;
-  return options;
-}
 
 TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
   std::atomic<int> came{0};

@@ -20,16 +20,10 @@ using handset::HandsetOptions;
 using handset::HandsetState;
 using handset::TransportKind;
 using station::kPatience;
+using station::Running;
 using station::Station;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
-
-HandsetOptions Running(TransportKind transport = TransportKind::Pty) {
-  HandsetOptions options;
-  options.transport = transport;
-  options.startMode = 1;
-  return options;
-}
 
 HandsetOptions Booting() {
   HandsetOptions options;

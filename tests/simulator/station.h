@@ -46,6 +46,16 @@ class Station {
   handset::FrameDecoder decoder_;
 };
 
+// A handset that is up, in a test mode.
+inline handset::HandsetOptions Running(
+    handset::TransportKind transport = handset::TransportKind::Pty, uint16_t tcpPort = 0) {
+  handset::HandsetOptions options;
+  options.transport = transport;
+  options.tcpPort = tcpPort;
+  options.startMode = 1;
+  return options;
+}
+
 // Waits until the handset's port is there.
 inline bool WaitForPort(const handset::Handset& phone) {
   phone.State();  // Behind the port's end, if that is what the station has just seen.
