@@ -33,7 +33,7 @@ function(merovane_test name)
   endif()
   add_executable(${name} ${test_SOURCES})
   target_link_libraries(${name} PRIVATE merovane_build_options merovane_unoptimised ${test_LIBRARIES} GTest::gmock_main GTest::gmock GTest::gtest)
-  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR} ${CMAKE_SOURCE_DIR}/tests)
   target_precompile_headers(${name} REUSE_FROM merovane_test_headers)
   if(NOT WIN32)
     # One CTest entry a program: starting a process per case costs more than the cases.

@@ -1,6 +1,6 @@
 /* Merovane: drives mobile handsets on a factory line.
  *
- * This file is made from src/api/exports; its text is written there.
+ * This file is made from api/exports; its text is written there.
  *
  * A program opens a port with QV_BeginPhoneTest, sends commands and closes with QV_EndPhoneTest.
  * QV_X works on the default phone object, the one opened last by QV_BeginPhoneTest.

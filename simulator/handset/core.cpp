@@ -6,7 +6,7 @@
 #include <future>
 #include <stdexcept>
 
-#include "modules/modules.h"
+#include "parts/modules.h"
 
 namespace handset {
 namespace {

@@ -15,11 +15,11 @@
 #include <vector>
 
 #include "handset/faults.h"
-#include "handset/firmware.h"
+#include "firmware/firmware.h"
 #include "handset/handset.h"
-#include "handset/journal.h"
-#include "handset/outbox.h"
-#include "handset/reply.h"
+#include "firmware/journal.h"
+#include "wire/outbox.h"
+#include "wire/reply.h"
 #include "transport/transport.h"
 
 namespace handset {

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "handset/random.h"
+#include "firmware/random.h"
 
 namespace handset {
 

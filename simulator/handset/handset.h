@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "handset/firmware.h"
-#include "handset/options.h"
-#include "handset/reply.h"
-#include "handset/wire.h"
+#include "firmware/firmware.h"
+#include "firmware/options.h"
+#include "wire/reply.h"
+#include "wire/wire.h"
 
 namespace handset {
 

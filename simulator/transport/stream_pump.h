@@ -9,7 +9,7 @@
 #include <span>
 #include <utility>
 
-#include "handset/wire.h"
+#include "wire/wire.h"
 
 namespace handset {
 

@@ -6,8 +6,8 @@
 #include <span>
 #include <string>
 
-#include "handset/options.h"
-#include "handset/wire.h"
+#include "firmware/options.h"
+#include "wire/wire.h"
 
 namespace handset {
 

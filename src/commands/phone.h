@@ -3,7 +3,7 @@
 
 #include "commands/calibration/calibration_state.h"
 #include "commands/serial_number_layout.h"
-#include "commands/test/mode_process.h"
+#include "commands/handset/mode_process.h"
 #include "link/phone_link.h"
 #include "link/settings.h"
 

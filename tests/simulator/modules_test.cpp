@@ -10,7 +10,7 @@
 #include <string>
 
 #include "handset/handset.h"
-#include "modules/memory/crc16.h"
+#include "parts/memory/crc16.h"
 #include "simulator/station.h"
 
 namespace {

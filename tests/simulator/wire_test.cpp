@@ -1,4 +1,4 @@
-#include "handset/wire.h"
+#include "wire/wire.h"
 
 #include <gmock/gmock.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "handset/random.h"
+#include "firmware/random.h"
 
 namespace handset {
 namespace {

@@ -1,4 +1,4 @@
-#include "commands/test/fixed_nv.h"
+#include "commands/handset/fixed_nv.h"
 
 #include <cstring>
 

@@ -1,4 +1,4 @@
-#include "commands/test/serial_number.h"
+#include "commands/handset/serial_number.h"
 
 #include "commands/crc16.h"
 #include "support/command_fixture.h"

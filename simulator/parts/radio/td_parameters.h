@@ -1,0 +1,20 @@
+#pragma once
+
+#include "firmware/firmware.h"
+
+namespace handset {
+
+// TD-SCDMA calibration parameters, type 36: 16-bit values under a selector, kept in flash.
+class TdParameters {
+ public:
+  explicit TdParameters(Firmware& firmware) : firmware_(firmware) {}
+  void Register(Registry& registry);
+
+ private:
+  void Read(const Frame& frame);
+  void Write(const Frame& frame);
+
+  Firmware& firmware_;
+};
+
+}  // namespace handset

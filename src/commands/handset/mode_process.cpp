@@ -1,0 +1,239 @@
+#include "commands/handset/mode_process.h"
+
+#include <algorithm>
+#include <atomic>
+#include <exception>
+
+#include "commands/operation.h"
+#include "commands/phone.h"
+#include "commands/handset/phone_mode.h"
+#include "link/frame_codec.h"
+#include "platform/message_queue.h"
+
+namespace merovane {
+namespace {
+
+constexpr std::uint32_t kStartDataAttemptMs = 1000;
+constexpr std::uint32_t kStopLimitMs = 3300;
+constexpr std::int32_t kArrivedPortBaudRate = 115200;
+// A handset in this mode does not come back on a port of its own.
+constexpr std::uint32_t kModeWithoutSecondArrival = 10;
+
+std::uint8_t ResetCode(std::uint32_t rebootKind) {
+  switch (rebootKind) {
+    case 1:
+      return 3;
+    case 5:
+      return 9;
+    case 6:
+      return 14;
+    case 7:
+      return 16;
+    case 8:
+      return 15;
+    case 9:
+      return 17;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
+
+// One wait for a handset, on a thread of its own.
+class ModeProcess::Worker {
+ public:
+  Worker(Phone& phone, const Request& request) : link_(phone.link), request_(request) {}
+
+  void Work(Phone& phone) {
+    bool caught = false;
+    link_.Channel().SetCancel(&stop_);
+    try {
+      caught = request_.waitForPort ? WorkOnArrivingPort(phone) : WorkOnOpenLink(phone);
+    } catch (const std::exception&) {
+      // Out of memory: nothing was caught.
+    }
+    request_.monitor.reset();
+    // A worker that was given up has no say any more.
+    if (!givenUp_) {
+      link_.Channel().SetCancel(nullptr);
+      caught_ = caught;
+      if (caught) request_.event.Set();
+    }
+    running_ = false;
+  }
+
+  void Stop() { stop_.Set(); }
+  void GiveUp() { givenUp_ = true; }
+
+  bool IsRunning() const { return running_; }
+  bool HasCaught() const { return caught_; }
+  std::int32_t PortFound() const { return portFound_; }
+
+ private:
+  bool WorkOnOpenLink(Phone& phone);
+  bool WorkOnArrivingPort(Phone& phone);
+  bool Open(std::int32_t port) {
+    return Succeeded(link_.Open(port, kArrivedPortBaudRate)) && !stop_.IsSet();
+  }
+
+  PhoneLink& link_;
+  Request request_;
+  platform::Event stop_;
+  std::atomic<bool> givenUp_{false};
+  std::atomic<bool> running_{true};
+  std::atomic<bool> caught_{false};
+  std::atomic<std::int32_t> portFound_{0};
+};
+
+bool ModeProcess::Worker::WorkOnOpenLink(Phone& phone) {
+  const bool limited = request_.timeLimitMs != 0;
+  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
+  while (!stop_.IsSet() && !(limited && deadline.Passed())) {
+    const std::uint32_t attemptMs =
+        limited ? std::clamp(deadline.RemainingMs(), 1U, kStartDataAttemptMs) : kStartDataAttemptMs;
+    std::uint8_t header[kHeaderBytes];
+    std::uint32_t length = 0;
+    if (!Succeeded(commands::RecvPhoneStartData(phone, header, kHeaderBytes, &length, attemptMs))) {
+      continue;
+    }
+    // That the handset booted is what counts, not what it says to the mode.
+    static_cast<void>(commands::SetPhoneStartMode(phone, request_.mode));
+    return true;
+  }
+  return false;
+}
+
+bool ModeProcess::Worker::WorkOnArrivingPort(Phone& phone) {
+  const bool limited = request_.timeLimitMs != 0;
+  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
+  int arrivals = 0;
+  for (;;) {
+    if (stop_.WaitMs(1) || (limited && deadline.Passed())) return false;
+    std::int32_t port = 0;
+    if (!request_.monitor->TakeArrival(port)) continue;
+    if (request_.expectedPort && port != *request_.expectedPort) continue;
+    portFound_ = port;
+    // The handset coming back after the mode change.
+    if (++arrivals > 1) break;
+
+    if (!Open(port)) return false;
+    if (request_.reopenOnly) return true;
+    const Result mode = commands::SetPhoneStartMode(phone, request_.mode);
+    static_cast<void>(link_.Close());
+    if (!Succeeded(mode)) {
+      arrivals = 0;
+    } else if (request_.mode == kModeWithoutSecondArrival) {
+      static_cast<void>(stop_.WaitMs(100));
+      break;
+    }
+  }
+  return !request_.expectedPort || Open(portFound_);
+}
+
+ModeProcess::~ModeProcess() { Stop(); }
+
+Result ModeProcess::Start(const std::shared_ptr<Phone>& phone, const Request& request) {
+  if (request.event.IsNull()) return Result::InvalidParam;
+  Stop();
+  request.event.Reset();
+  return Begin(phone, request);
+}
+
+Result ModeProcess::Run(const std::shared_ptr<Phone>& phone, const Request& request) {
+  Stop();
+  const Result started = Begin(phone, request);
+  if (!Succeeded(started)) return started;
+  const std::shared_ptr<Worker> worker = Current();
+  std::optional<platform::Message> quit;
+  while (worker->IsRunning()) {
+    platform::Message message;
+    if (!platform::TakeMessage(message, 10)) continue;
+    if (message.id == platform::kQuitMessage) {
+      quit = message;
+    } else {
+      platform::DispatchForeignMessage(message);
+    }
+  }
+  // It is for the caller's own message loop.
+  if (quit) {
+    platform::PostMessageToThread(platform::CurrentThreadId(), quit->id, quit->first, quit->second);
+  }
+  return worker->HasCaught() ? Result::Success : Result::EnterModeFailed;
+}
+
+void ModeProcess::Stop() {
+  const std::shared_ptr<Worker> worker = Current();
+  if (!worker) return;
+  worker->Stop();
+  if (thread_.WaitMs(kStopLimitMs)) return;
+  worker->GiveUp();
+  thread_.Abandon();
+}
+
+std::int32_t ModeProcess::PortFound() const {
+  const std::shared_ptr<Worker> worker = Current();
+  return worker ? worker->PortFound() : 0;
+}
+
+std::shared_ptr<ModeProcess::Worker> ModeProcess::Current() const {
+  const std::lock_guard lock(currentMutex_);
+  return current_;
+}
+
+Result ModeProcess::Begin(const std::shared_ptr<Phone>& phone, const Request& request) {
+  if (request.waitForPort) {
+    if (!request.monitor) return Result::InvalidParam;
+    request.monitor->Start();
+  }
+  return StartWorker(phone, request);
+}
+
+Result ModeProcess::StartWorker(const std::shared_ptr<Phone>& phone, const Request& request) {
+  phone->link.SetNextSequence(request.sequence);
+  const auto worker = std::make_shared<Worker>(*phone, request);
+  {
+    const std::lock_guard lock(currentMutex_);
+    current_ = worker;
+  }
+  const bool started = thread_.Start([worker, owner = phone]() mutable {
+    worker->Work(*owner);
+    // The owner may end here, and the mode process with it.
+    owner.reset();
+  });
+  return started ? Result::Success : Result::EnterModeFailed;
+}
+
+Result ModeProcess::Reset(const std::shared_ptr<Phone>& phone, const Restart& restart) {
+  const commands::Operation operation(*phone, 183);
+  if (restart.event.IsNull()) return Result::InvalidParam;
+  Stop();
+  if (!restart.throughPort) {
+    const Result result = commands::RestartPhone(*phone, restart.timeLimitMs);
+    if (Succeeded(result)) restart.event.Set();
+    return result;
+  }
+  if (!restart.monitor) return Result::InvalidParam;
+  restart.event.Reset();
+  // Before the restart: the device may be back before its absence is noticed.
+  restart.monitor->Start();
+  std::uint32_t reachable = 0;
+  const Result result =
+      commands::UsbChangePhoneMode(*phone, ResetCode(restart.rebootKind), &reachable);
+  if (!Succeeded(result)) return result;
+  if (reachable == 1) {
+    restart.event.Set();
+    return Result::Success;
+  }
+  static_cast<void>(phone->link.Close());
+  Request request;
+  request.waitForPort = true;
+  request.monitor = restart.monitor;
+  request.event = restart.event;
+  request.timeLimitMs = restart.timeLimitMs;
+  request.reopenOnly = true;
+  request.expectedPort = restart.expectedPort;
+  return StartWorker(phone, request);
+}
+
+}  // namespace merovane

@@ -1,0 +1,48 @@
+// The frame of every exported command: the object that it works on, the report of its result, and
+// no exception.
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "library/library.h"
+#include "link/result.h"
+
+namespace merovane::library {
+
+// The command's result; one that ran out of memory could not make its request.
+template <typename Command>
+Result Guarded(Command&& command) noexcept {
+  try {
+    return std::forward<Command>(command)();
+  } catch (...) {
+    return Result::EncodeFailed;
+  }
+}
+
+inline std::int32_t Reported(Result result) {
+  return static_cast<std::int32_t>(TheLibrary().settings.errors.Report(result));
+}
+
+// No command ran: the result is reported under no operation.
+inline std::int32_t ReportedUnreached(Result result) {
+  TheLibrary().settings.errors.ClearReport();
+  return Reported(result);
+}
+
+template <typename Command>
+std::int32_t OnDefaultPhone(Command&& command) noexcept {
+  const auto phone = TheLibrary().registry.Default();
+  if (!phone) return ReportedUnreached(Result::PortNotOpen);
+  return Reported(Guarded([&] { return command(*phone); }));
+}
+
+template <typename Command>
+std::int32_t OnPhone(std::int32_t port, Command&& command) noexcept {
+  Result failure = Result::Success;
+  const auto phone = TheLibrary().registry.Find(port, failure);
+  if (!phone) return ReportedUnreached(failure);
+  return Reported(Guarded([&] { return command(*phone); }));
+}
+
+}  // namespace merovane::library

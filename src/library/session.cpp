@@ -1,0 +1,290 @@
+#include "library/session.h"
+
+#include <bit>
+#include <memory>
+#include <optional>
+
+#include "library/export_frame.h"
+#include "link/byte_order.h"
+#include "platform/device_monitor.h"
+#include "platform/event.h"
+#include "platform/files.h"
+
+namespace merovane::library {
+namespace {
+
+using PhonePointer = SessionRegistry::PhonePointer;
+
+enum Property : std::uint32_t {
+  kUsefulLog = 0,
+  kSaveReceivedData = 1,
+  kChannelServer = 2,
+  kReceiveMode = 3,
+  kBigEndian = 4,
+};
+
+PhonePointer MakePhone() { return std::make_shared<PhoneObject>(TheLibrary().settings); }
+
+// Runs a session export that makes objects; out of memory gives 2, as where a port is opened.
+template <typename Export>
+std::int32_t Session(Export&& run) noexcept {
+  try {
+    return run();
+  } catch (...) {
+    return Reported(Result::CannotOpenPort);
+  }
+}
+
+std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
+  Library& library = TheLibrary();
+  library.settings.errors.BeginOperation(1);
+  return Session([&] {
+    if (port < 1 || baudRate < 1) return Reported(Result::InvalidParam);
+    Result lookup = Result::Success;
+    if (library.registry.Find(port, lookup)) return Reported(Result::PortAlreadyOpened);
+    const PhonePointer phone = MakePhone();
+    const Result opened = phone->link.Open(port, baudRate);
+    if (!Succeeded(opened)) return Reported(opened);
+    library.registry.Enter(port, phone);
+    if (asDefault) library.registry.MakeDefault(port);
+    return Reported(Result::Success);
+  });
+}
+
+Result Close(PhoneObject& phone) {
+  phone.modeProcess.Stop();
+  return phone.link.Close();
+}
+
+platform::CallerEvent EventOf(QV_EVENT event) {
+  // A pointer on Windows, a number elsewhere.
+  return platform::CallerEvent(std::bit_cast<std::intptr_t>(event));
+}
+
+// What the start of a mode process asks for, and how it is run.
+struct ModeStart {
+  std::uint32_t waitForPort;
+  std::uint32_t mode;
+  std::optional<platform::CallerEvent> event;  // none: returns when the process has ended
+  std::uint32_t timeLimitMs;
+};
+
+Result StartMode(const PhonePointer& phone, const ModeStart& start,
+                 std::optional<std::int32_t> expectedPort) {
+  ModeProcess::Request request;
+  request.waitForPort = start.waitForPort != 0;
+  if (request.waitForPort) request.monitor = platform::CreateDeviceMonitor();
+  request.mode = start.mode;
+  request.sequence = TheLibrary().registry.nextSequence;
+  request.event = start.event.value_or(platform::CallerEvent());
+  request.timeLimitMs = start.timeLimitMs;
+  request.expectedPort = expectedPort;
+  return start.event ? phone->modeProcess.Start(phone, request)
+                     : phone->modeProcess.Run(phone, request);
+}
+
+std::int32_t EnterMode(const ModeStart& start) {
+  Library& library = TheLibrary();
+  const bool waits = start.waitForPort != 0;
+  library.settings.errors.BeginOperation(3);
+  const PhonePointer phone =
+      waits ? library.registry.PortWaiting(MakePhone) : library.registry.Default();
+  if (!phone) return ReportedUnreached(Result::PortNotOpen);
+  library.registry.lastWaitedForPort = waits;
+  return Reported(StartMode(phone, start, std::nullopt));
+}
+
+std::int32_t EnterMode(std::int32_t port, const ModeStart& start) {
+  Library& library = TheLibrary();
+  Result lookup = Result::Success;
+  PhonePointer phone = library.registry.Find(port, lookup);
+  if (lookup == Result::InvalidParam) return ReportedUnreached(lookup);
+  if (start.waitForPort == 0) {
+    if (!phone) return ReportedUnreached(lookup);
+    library.settings.errors.BeginOperation(3);
+    return Reported(StartMode(phone, start, std::nullopt));
+  }
+  library.settings.errors.BeginOperation(3);
+  if (start.event && start.event->IsNull()) return Reported(Result::InvalidParam);
+  // A fresh object: the old one's link is of no use once its device goes.
+  if (phone) {
+    static_cast<void>(Close(*phone));
+    library.registry.Remove(port);
+  }
+  phone = MakePhone();
+  library.registry.Enter(port, phone);
+  return Reported(StartMode(phone, start, port));
+}
+
+}  // namespace
+
+std::int32_t BeginPhoneTest(std::int32_t port, std::int32_t baudRate) {
+  return Begin(port, baudRate, true);
+}
+
+std::int32_t BeginPhoneTest_MT(std::int32_t port, std::int32_t baudRate) {
+  return Begin(port, baudRate, false);
+}
+
+bool CloseAll(Library& library) {
+  bool closed = true;
+  for (const PhonePointer& phone : library.registry.RemoveAll()) {
+    closed = Succeeded(Close(*phone)) && closed;
+  }
+  if (const PhonePointer waiting = library.registry.PortWaiting()) waiting->modeProcess.Stop();
+  return closed;
+}
+
+std::int32_t EndPhoneTest() {
+  Library& library = TheLibrary();
+  library.settings.errors.BeginOperation(2);
+  return Reported(
+      Guarded([&] { return CloseAll(library) ? Result::Success : Result::CannotCloseAllPorts; }));
+}
+
+std::int32_t EndPhoneTest_MT(std::int32_t port) {
+  Library& library = TheLibrary();
+  Result lookup = Result::Success;
+  if (!library.registry.Find(port, lookup)) return ReportedUnreached(lookup);
+  library.settings.errors.BeginOperation(2);
+  return Reported(Guarded([&] {
+    if (const PhonePointer phone = library.registry.Remove(port)) static_cast<void>(Close(*phone));
+    return Result::Success;
+  }));
+}
+
+std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uintptr_t value2) {
+  LinkSettings& settings = TheLibrary().settings;
+  settings.errors.ClearReport();
+  return Reported(Guarded([&] {
+    switch (property) {
+      case kUsefulLog:
+        settings.usefulLog = value2 != 0;
+        break;
+      case kSaveReceivedData:
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): this property's value is an address
+        SaveRecvData(static_cast<std::uint32_t>(value1), reinterpret_cast<const char*>(value2));
+        break;
+      case kChannelServer:
+        settings.UseChannelServer(value2 != 0);
+        break;
+      case kReceiveMode:
+        SetRecvMode(static_cast<std::uint32_t>(value2));
+        break;
+      case kBigEndian:
+        SetBigEndian(value2 != 0);
+        break;
+      default:
+        break;
+    }
+    return Result::Success;
+  }));
+}
+
+std::int32_t GetProperty(std::uint32_t property, std::uintptr_t, std::uint32_t* value) {
+  TheLibrary().settings.errors.ClearReport();
+  if (!value) return Reported(Result::InvalidParam);
+  if (property == kBigEndian) *value = BigEndian() ? 1 : 0;
+  return Reported(Result::Success);
+}
+
+void SetRecvMode(std::uint32_t mode) { TheLibrary().settings.receiveMode = mode; }
+
+void SaveRecvData(std::uint32_t on, const char* path) {
+  static_cast<void>(Guarded([&] {
+    const bool records = on != 0 && path && *path;
+    TheLibrary().settings.SaveReceivedData(
+        records, records ? platform::PathFromText(path) : std::filesystem::path());
+    return Result::Success;
+  }));
+}
+
+std::int32_t IsPhoneAssert() {
+  const PhonePointer phone = TheLibrary().registry.Default();
+  return phone && phone->link.IsAssert() ? 1 : 0;
+}
+
+std::int32_t GetUsbPort() {
+  const PhonePointer phone = TheLibrary().registry.PortWaiting();
+  return phone ? phone->modeProcess.PortFound() : 0;
+}
+
+std::int32_t EnterModeProcess(std::uint32_t waitForPort, std::uint32_t mode, QV_EVENT event,
+                              std::uint32_t timeLimitMs) {
+  return Session([&] { return EnterMode({waitForPort, mode, EventOf(event), timeLimitMs}); });
+}
+
+std::int32_t EnterModeProcess_MT(std::int32_t port, std::uint32_t waitForPort, std::uint32_t mode,
+                                 QV_EVENT event, std::uint32_t timeLimitMs) {
+  return Session([&] { return EnterMode(port, {waitForPort, mode, EventOf(event), timeLimitMs}); });
+}
+
+std::int32_t EnterModeProcessEx(std::uint32_t waitForPort, std::uint32_t mode,
+                                std::uint32_t timeLimitMs) {
+  return Session([&] { return EnterMode({waitForPort, mode, std::nullopt, timeLimitMs}); });
+}
+
+std::int32_t EnterModeProcessEx_MT(std::int32_t port, std::uint32_t waitForPort, std::uint32_t mode,
+                                   std::uint32_t timeLimitMs) {
+  return Session([&] { return EnterMode(port, {waitForPort, mode, std::nullopt, timeLimitMs}); });
+}
+
+std::int32_t StopModeProcess() {
+  SessionRegistry& registry = TheLibrary().registry;
+  const PhonePointer phone =
+      registry.lastWaitedForPort ? registry.PortWaiting() : registry.Default();
+  if (!phone) return ReportedUnreached(Result::PortNotOpen);
+  TheLibrary().settings.errors.BeginOperation(4);
+  phone->modeProcess.Stop();
+  return Reported(Result::Success);
+}
+
+std::int32_t StopModeProcess_MT(std::int32_t port) {
+  Result lookup = Result::Success;
+  const PhonePointer phone = TheLibrary().registry.Find(port, lookup);
+  if (!phone) return ReportedUnreached(lookup);
+  TheLibrary().settings.errors.BeginOperation(4);
+  phone->modeProcess.Stop();
+  return Reported(Result::Success);
+}
+
+namespace {
+
+std::int32_t ResetMode(const PhonePointer& phone, std::uint32_t throughPort,
+                       std::uint32_t rebootKind, QV_EVENT event, std::uint32_t timeLimitMs,
+                       std::optional<std::int32_t> expectedPort) {
+  return Reported(Guarded([&] {
+    return phone->modeProcess.Reset(phone, {.throughPort = throughPort != 0,
+                                            .rebootKind = rebootKind,
+                                            .event = EventOf(event),
+                                            .timeLimitMs = timeLimitMs,
+                                            .expectedPort = expectedPort,
+                                            .monitor = platform::CreateDeviceMonitor()});
+  }));
+}
+
+}  // namespace
+
+std::int32_t ResetModeProcess(std::uint32_t throughPort, std::uint32_t rebootKind, QV_EVENT event,
+                              std::uint32_t timeLimitMs) {
+  const PhonePointer phone = TheLibrary().registry.Default();
+  if (!phone) return ReportedUnreached(Result::PortNotOpen);
+  return ResetMode(phone, throughPort, rebootKind, event, timeLimitMs, std::nullopt);
+}
+
+std::int32_t ResetModeProcess_MT(std::int32_t port, std::uint32_t throughPort,
+                                 std::uint32_t rebootKind, QV_EVENT event,
+                                 std::uint32_t timeLimitMs) {
+  Result lookup = Result::Success;
+  const PhonePointer phone = TheLibrary().registry.Find(port, lookup);
+  if (!phone) return ReportedUnreached(lookup);
+  return ResetMode(phone, throughPort, rebootKind, event, timeLimitMs, port);
+}
+
+std::int32_t SetCampParam(std::uint32_t campParameter) {
+  TheLibrary().settings.errors.ClearReport();
+  TheLibrary().registry.nextSequence = campParameter;
+  return Reported(Result::Success);
+}
+
+}  // namespace merovane::library

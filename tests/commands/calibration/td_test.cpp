@@ -1,0 +1,145 @@
+#include "commands/calibration/td.h"
+
+#include <cstring>
+#include <memory>
+
+#include "commands/calibration/calibration_fixture.h"
+
+namespace merovane::test {
+namespace {
+
+struct Td : CalibrationFixture {
+  // What all records begin with.
+  Fields TdMessage(unsigned id, unsigned length) const {
+    return Words(Message(id, length).U32(0x01020304), {5, 6});
+  }
+};
+
+TEST_F(Td, MessagesCarryTheirRecords) {
+  InBothByteOrders([&] {
+    const QV_TD_TX_SWEEP sweep{0x01020304, 5, 6, 2, {{0x0708, 9}, {10, 11}, {12, 13}}};
+    ExpectMessage(Words(TdMessage(0xA12A, 60), {2, 0x0708, 9, 10, 11}).Zeros(26));
+    EXPECT_EQ(TDTxSweep(phone, &sweep), Result::Success);
+
+    const QV_TD_TX_START start{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 14, 0x0F10}};
+    ExpectMessage(Words(TdMessage(0xA129, 40).U32(0x0708090A), {11, 12, 13, 14, 0x0F10, 0}));
+    EXPECT_EQ(TdStartTx(phone, &start), Result::Success);
+
+    const QV_TD_POWER_SWEEP power{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 0x0F10}};
+    ExpectMessage(Words(TdMessage(0xA128, 36).U32(0x0708090A), {11, 12, 13, 0x0F10}));
+    EXPECT_EQ(PwrStepFactorSweepSet_TD(phone, &power), Result::Success);
+
+    const QV_POWER_STEP step{0x01020304, 5, 6, 0x0708090A};
+    for (const std::uint32_t continuous : {0U, 0x10000U}) {
+      EXPECT_EQ(SetTDContTxRxMode(phone, continuous), Result::Success);
+      ExpectMessage(Words(TdMessage(0xA119, 32).U32(0x0708090A), {continuous ? 1U : 0U, 0}));
+      EXPECT_EQ(PwrStepFactorSet_TD(phone, &step), Result::Success);
+    }
+  });
+}
+
+TEST_F(Td, SweepTakesEightPointsAtMost) {
+  QV_TD_TX_SWEEP sweep{};
+  sweep.count = 8;
+  for (auto& point : sweep.points) point[0] = point[1] = 0xFFFF;
+  ExpectMessage(Message(0xA12A, 60).Zeros(8).U16(8).Raw(Bytes(32, 0xFF)).Zeros(2));
+  EXPECT_EQ(TDTxSweep(phone, &sweep), Result::Success);
+  sweep.count = 9;
+  ExpectRefused(260, CALL(TDTxSweep(phone, &sweep)), CALL(TDTxSweep(phone, nullptr)));
+  ExpectRefused(222, CALL(TdStartTx(phone, nullptr)));
+  ExpectRefused(171, CALL(PwrStepFactorSweepSet_TD(phone, nullptr)));
+  ExpectRefused(173, CALL(PwrStepFactorSet_TD(phone, nullptr)));
+}
+
+TEST_F(Td, ModeIsCutToTheBuffer) {
+  GuardedBuffer<std::uint8_t> mode(4);
+  handset.Expect(28, 1).Answer(28, 1, "01 02 03");
+  EXPECT_EQ(ReadMode_TD(phone, mode.Data(), 4), Result::Success);
+  EXPECT_EQ(mode.Hex(4), "01 02 03 A5");
+  handset.Expect(28, 1).Answer(28, 1, "11 12 13 14 15 16 17 18 19 1A");
+  EXPECT_EQ(ReadMode_TD(phone, mode.Data(), 4), Result::BufferTooSmall);
+  EXPECT_EQ(mode.Hex(4), "11 12 13 14");
+  handset.Expect(28, 1).Silent();
+  EXPECT_EQ(ReadMode_TD(phone, mode.Data(), 4), Result::NoAnswer);
+  ExpectRefused(176, CALL(ReadMode_TD(phone, mode.Data(), 0)),
+                CALL(ReadMode_TD(phone, nullptr, 4)));
+}
+
+TEST_F(Td, StartModeIsAcknowledgedByTheNextFrame) {
+  handset.Expect(254, 131).Answer(77, 0x91);
+  EXPECT_EQ(SetPhoneStartMode_TD(phone, 3), Result::Success);
+  ExpectLogged("SetPhoneStartMode_TD:");
+  handset.Expect(254, 127).Answer(254, 127).Answer(254, 0x91);
+  EXPECT_EQ(SetPhoneStartMode_TD(phone, 0xFFFF'FFFF), Result::EnterModeFailed);
+  // Too short to have a subtype.
+  handset.Expect(254, 128).Raw("7E 00 00 00 00 91 7E 7E 7E 7E");
+  EXPECT_EQ(SetPhoneStartMode_TD(phone, 0), Result::EnterModeFailed);
+  const std::uint32_t before = clock.NowMs();
+  handset.Expect(254, 128).Silent();
+  EXPECT_EQ(SetPhoneStartMode_TD(phone, 0), Result::NoData);
+  EXPECT_EQ(clock.NowMs() - before, 3000U);
+}
+
+struct TdParameters : CalibrationFixture {
+  // Memory for two values and no more.
+  QV_TD_PARAMETERS* Record(std::uint16_t count) {
+    auto* record = reinterpret_cast<QV_TD_PARAMETERS*>(memory.Data());
+    const std::uint32_t selector = 0x01020304;
+    std::memcpy(memory.Data(), &selector, sizeof(selector));
+    std::memcpy(memory.Data() + 4, &count, sizeof(count));
+    return record;
+  }
+  GuardedBuffer<std::uint8_t> memory{10};
+};
+
+TEST_F(TdParameters, AreRead) {
+  InBothByteOrders([&] {
+    const Fields request = handset.Message().U32(0x01020304).U16(2).U16(0);
+    handset.Expect(36, 0, request)
+        .Answer(36, 0, handset.Message().U32(0).U16(3).U16(0x0506).U16(0x0708).U16(9));
+    EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::Success);
+    EXPECT_EQ(memory.Hex(10), "04 03 02 01 02 00 06 05 08 07");
+  });
+}
+
+TEST_F(TdParameters, AreNotTakenFromAnAnswerThatLacksThem) {
+  const std::uint32_t values = 0xA5A5A5A5;
+  std::memcpy(memory.Data() + 6, &values, sizeof(values));
+  handset.ExpectAnyPayload(36, 0).Answer(36, 0, "00 00 00 00 00 02 11 11 11");
+  EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::ParseFailed);
+  handset.ExpectAnyPayload(36, 0).Answer(36, 0, "00 00 00 00 00 01 11 11 11 11");
+  EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::WrongDataLength);
+  handset.ExpectAnyPayload(36, 0).Refuse();
+  EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::Refused);
+  EXPECT_EQ(memory.Hex(10), "04 03 02 01 02 00 A5 A5 A5 A5");
+  ExpectRefused(180, CALL(ReadTDCalParam(phone, nullptr)),
+                CALL(ReadTDCalParam(phone, Record(3074))));
+}
+
+TEST_F(TdParameters, AreWrittenAndCounted) {
+  auto record = std::make_unique<QV_TD_PARAMETERS>();
+  InBothByteOrders([&] {
+    record->count = 3073;
+    Fields request = handset.Message().U32(record->selector = 0x01020304).U16(3073);
+    for (unsigned at = 0; at < 3073; ++at) {
+      request.U16(record->values[at] = static_cast<std::uint16_t>(at));
+    }
+    handset.Expect(36, 1, request).Answer(36, 1, handset.Message().U32(0).U16(3073).U16(0));
+    EXPECT_EQ(WriteTDCalParam(phone, record.get()), Result::Success);
+  });
+  record->count = 2;
+  for (const auto& [answer, expected] : {std::pair{"00 00 00 00 02 00 00", Result::ParseFailed},
+                                         {"00 00 00 00 01 00 00 00", Result::WrongDataLength},
+                                         {"00 00 00 00 03 00 00 00", Result::WrongDataLength}}) {
+    handset.ExpectAnyPayload(36, 1).Answer(36, 1, answer);
+    EXPECT_EQ(WriteTDCalParam(phone, record.get()), expected);
+  }
+  for (const int count : {0, 3074, 65535}) {
+    record->count = static_cast<std::uint16_t>(count);
+    ExpectRefused(181, CALL(WriteTDCalParam(phone, record.get())));
+  }
+  ExpectRefused(181, CALL(WriteTDCalParam(phone, nullptr)));
+}
+
+}  // namespace
+}  // namespace merovane::test

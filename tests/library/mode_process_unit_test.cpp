@@ -1,0 +1,303 @@
+#include "commands/handset/mode_process.h"
+
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <deque>
+#include <mutex>
+#include <thread>
+
+#include "platform/message_queue.h"
+#include "support/command_fixture.h"
+
+namespace merovane::test {
+namespace {
+
+constexpr const char* kStartFrame = "7E 00 00 00 00 00 08 FE 01 7E";
+constexpr int kPatienceMs = 20000;
+
+// Arrivals as a test decides them.
+class FakeMonitor final : public platform::DeviceMonitor {
+ public:
+  explicit FakeMonitor(const ScriptedHandset& handset) : handset_(handset) {}
+
+  void Start() override {
+    const std::lock_guard lock(mutex_);
+    arrivals_.clear();
+    heardAtStart_ = handset_.Heard().size();
+    ++starts_;
+  }
+  bool TakeArrival(std::int32_t& port) override {
+    const std::lock_guard lock(mutex_);
+    if (starts_ == 0 || arrivals_.empty()) return false;
+    port = arrivals_.front();
+    arrivals_.pop_front();
+    return true;
+  }
+  void Arrive(std::int32_t port) {
+    const std::lock_guard lock(mutex_);
+    arrivals_.push_back(port);
+  }
+  int Starts() {
+    const std::lock_guard lock(mutex_);
+    return starts_;
+  }
+  std::size_t HeardAtStart() const { return heardAtStart_; }
+
+ private:
+  const ScriptedHandset& handset_;
+  std::mutex mutex_;
+  std::deque<std::int32_t> arrivals_;
+  std::size_t heardAtStart_ = 0;
+  int starts_ = 0;
+};
+
+class OwnEvent {
+ public:
+  OwnEvent() : descriptor_(::eventfd(0, EFD_CLOEXEC)) {}
+  OwnEvent(const OwnEvent&) = delete;
+  OwnEvent& operator=(const OwnEvent&) = delete;
+  ~OwnEvent() { ::close(descriptor_); }
+  platform::CallerEvent Get() const { return platform::CallerEvent(descriptor_); }
+  bool IsSet(int patienceMs = 0) const {
+    pollfd polled{descriptor_, POLLIN, 0};
+    if (::poll(&polled, 1, patienceMs) != 1) return false;
+    // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
+    eventfd_t value = 0;
+    ::eventfd_read(descriptor_, &value);
+    ::eventfd_write(descriptor_, value);
+    return true;
+  }
+
+ private:
+  int descriptor_;
+};
+
+struct ModeProcessTest : CommandFixture {
+  ModeProcess::Request Request(std::uint32_t mode, std::uint32_t timeLimitMs = 5000) {
+    ModeProcess::Request request;
+    request.mode = mode;
+    request.event = event.Get();
+    request.timeLimitMs = timeLimitMs;
+    return request;
+  }
+  Result Start(const ModeProcess::Request& request) {
+    return phone.modeProcess.Start(owner, request);
+  }
+  void ExpectMode(std::uint8_t mode) { handset.Expect(0xFE, mode).Answer(0xFE, mode); }
+  void ExpectCaught() {
+    EXPECT_TRUE(event.IsSet(kPatienceMs));
+    phone.modeProcess.Stop();
+  }
+
+  OwnEvent event;
+};
+
+TEST_F(ModeProcessTest, NeedsAnEventAndForPortsAMonitor) {
+  ModeProcess::Request request;
+  EXPECT_EQ(Start(request), Result::InvalidParam);
+  request = Request(1);
+  request.waitForPort = true;
+  EXPECT_EQ(Start(request), Result::InvalidParam);
+  EXPECT_EQ(phone.modeProcess.Run(owner, request), Result::InvalidParam);
+}
+
+TEST_F(ModeProcessTest, PutsABootingHandsetIntoTheMode) {
+  event.Get().Set();
+  handset.Expect(0xFE, 0x83).Sequence(0x11223344).Answer(0xFE, 0x83);
+  auto request = Request(3, 0);
+  request.sequence = 0x11223344;
+  EXPECT_EQ(Start(request), Result::Success);
+  EXPECT_FALSE(event.IsSet()) << "left over from before";
+  handset.SayRaw("99 7E 7E");
+  handset.SayRaw(kStartFrame);
+  ExpectCaught();
+  // Whatever the mode command gives.
+  event.Get().Reset();
+  handset.SayRaw(kStartFrame);
+  handset.Expect(0xFE, 0x83).Silent();
+  EXPECT_EQ(Start(Request(3)), Result::Success);
+  ExpectCaught();
+}
+
+TEST_F(ModeProcessTest, RunReturnsWhenTheHandsetIsCaughtOrTheLimitPassed) {
+  handset.SayRaw(kStartFrame, 2900);
+  ExpectMode(0x80);
+  EXPECT_EQ(phone.modeProcess.Run(owner, Request(0, 3000)), Result::Success);
+  const std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(phone.modeProcess.Run(owner, Request(0, 3500)), Result::EnterModeFailed);
+  EXPECT_EQ(clock.NowMs() - before, 3500u);
+}
+
+TEST_F(ModeProcessTest, StopEndsAWaitWithoutEndAndThePhoneWorksOn) {
+  EXPECT_EQ(Start(Request(3, 0)), Result::Success);
+  phone.modeProcess.Stop();
+  phone.modeProcess.Stop();
+  EXPECT_FALSE(event.IsSet());
+  handset.Expect(12, 1).Answer(12, 1);
+  EXPECT_EQ(phone.link.SendAndWaitSame({12, 1}, {}, 100), Result::Success);
+  // A second start ends the first one.
+  EXPECT_EQ(Start(Request(3, 0)), Result::Success);
+  ExpectMode(0x84);
+  EXPECT_EQ(Start(Request(4, 0)), Result::Success);
+  handset.SayRaw(kStartFrame);
+  ExpectCaught();
+}
+
+TEST_F(ModeProcessTest, RunLeavesTheQuitMessageToItsCaller) {
+  platform::CreateMessageQueue();
+  platform::PostMessageToThread(platform::CurrentThreadId(), platform::kQuitMessage, 7, 0);
+  EXPECT_EQ(phone.modeProcess.Run(owner, Request(0, 500)), Result::EnterModeFailed);
+  platform::Message message;
+  ASSERT_TRUE(platform::TakeMessage(message, 0));
+  EXPECT_EQ(message.id, platform::kQuitMessage);
+  EXPECT_EQ(message.first, 7u);
+}
+
+TEST_F(ModeProcessTest, MayOutliveEveryOtherOwnerOfItsPhone) {
+  ASSERT_EQ(phone.link.Close(), Result::Success);
+  auto other = std::make_shared<Phone>(settings, clock, handset.Library());
+  const std::weak_ptr<Phone> watched = other;
+  ASSERT_EQ(other->link.Open(port, 9600), Result::Success);
+  EXPECT_EQ(other->modeProcess.Start(other, Request(3, 0)), Result::Success);
+  other.reset();
+  ExpectMode(0x83);
+  handset.SayRaw(kStartFrame);
+  EXPECT_TRUE(event.IsSet(kPatienceMs));
+  // The worker ends the phone, and with it the channel.
+  while (!watched.expired() || handset.ChannelsHeld() > 0) std::this_thread::yield();
+}
+
+struct ArrivingPort : ModeProcessTest {
+  void SetUp() override {}
+  ModeProcess::Request PortRequest(std::uint32_t mode) {
+    ModeProcess::Request request = Request(mode);
+    request.waitForPort = true;
+    request.monitor = monitor;
+    return request;
+  }
+  // Catches the handset while these ports arrive; the port found.
+  std::int32_t PortFound(const ModeProcess::Request& request,
+                         std::initializer_list<std::int32_t> arrivals) {
+    EXPECT_EQ(Start(request), Result::Success);
+    EXPECT_EQ(phone.modeProcess.PortFound(), 0);
+    for (const std::int32_t arrival : arrivals) monitor->Arrive(arrival);
+    ExpectCaught();
+    return phone.modeProcess.PortFound();
+  }
+
+  std::shared_ptr<FakeMonitor> monitor = std::make_shared<FakeMonitor>(handset);
+};
+
+TEST_F(ArrivingPort, IsOpenedForTheModeAndClosedAndAwaitedOnceMore) {
+  ExpectMode(0x83);
+  EXPECT_EQ(PortFound(PortRequest(3), {port, port + 1}), port + 1);
+  EXPECT_EQ(handset.OpenedWith().port, static_cast<std::uint32_t>(port));
+  EXPECT_EQ(handset.OpenedWith().baudRate, 115200u);
+  EXPECT_FALSE(phone.link.IsOpen());
+}
+
+TEST_F(ArrivingPort, IsNotAwaitedOnceMoreForModeTen) {
+  ExpectMode(0x8A);
+  EXPECT_EQ(PortFound(PortRequest(10), {port}), port);
+}
+
+TEST_F(ArrivingPort, CountsAnewAfterAModeCommandThatFailed) {
+  // It takes 4000 of the 5000 ms.
+  handset.Expect(0xFE, 0x83).Silent();
+  ExpectMode(0x83);
+  EXPECT_EQ(PortFound(PortRequest(3), {port, port, port}), port);
+}
+
+TEST_F(ArrivingPort, OfAnotherNumberThanTheExpectedIsIgnored) {
+  ExpectMode(0x83);
+  auto request = PortRequest(3);
+  request.expectedPort = port;
+  EXPECT_EQ(PortFound(request, {port + 1, port, port + 2, port}), port);
+  EXPECT_TRUE(phone.link.IsOpen());
+}
+
+TEST_F(ArrivingPort, ThatCannotBeOpenedEndsTheWaiting) {
+  handset.FailOpen(true);
+  auto request = PortRequest(3);
+  request.timeLimitMs = 0;
+  std::thread arrival([&] {
+    while (monitor->Starts() == 0) std::this_thread::yield();
+    monitor->Arrive(port);
+  });
+  EXPECT_EQ(phone.modeProcess.Run(owner, request), Result::EnterModeFailed);
+  arrival.join();
+  EXPECT_FALSE(event.IsSet());
+}
+
+TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {
+  std::atomic<bool> ended{false};
+  std::thread time([&] {
+    while (!ended) clock.SleepMs(1);
+  });
+  EXPECT_EQ(phone.modeProcess.Run(owner, PortRequest(3)), Result::EnterModeFailed);
+  ended = true;
+  time.join();
+}
+
+struct ResetProcess : ArrivingPort {
+  void SetUp() override { ASSERT_EQ(phone.link.Open(port, 115200), Result::Success); }
+  Result Reset(bool throughPort, std::uint32_t kind = 1) {
+    return phone.modeProcess.Reset(owner, {.throughPort = throughPort,
+                                           .rebootKind = kind,
+                                           .event = event.Get(),
+                                           .timeLimitMs = 700,
+                                           .expectedPort = {},
+                                           .monitor = monitor});
+  }
+};
+
+TEST_F(ResetProcess, RestartsPlainlyWithinTheCallersLimit) {
+  EXPECT_EQ(phone.modeProcess.Reset(owner, {}), Result::InvalidParam);
+  EXPECT_EQ(OperationOf(Result::InvalidParam), 183u);
+  handset.Expect(12, 0).After(699).Answer(12, 0);
+  EXPECT_EQ(Reset(false), Result::Success);
+  EXPECT_TRUE(event.IsSet());
+  event.Get().Reset();
+  handset.Expect(12, 0).Silent();
+  EXPECT_EQ(Reset(false), Result::NoAnswer);
+  EXPECT_FALSE(event.IsSet());
+}
+
+TEST_F(ResetProcess, SendsTheCodeOfTheRebootKind) {
+  for (const auto& [kind, code] :
+       {std::pair<std::uint32_t, std::uint8_t>{1, 3}, {9, 17}, {10, 0}}) {
+    SCOPED_TRACE(kind);
+    event.Get().Reset();
+    handset.Expect(12, code).Answer(12, code, "00 00");
+    EXPECT_EQ(Reset(true, kind), Result::Success);
+    EXPECT_TRUE(event.IsSet());
+    EXPECT_TRUE(phone.link.IsOpen());
+  }
+}
+
+TEST_F(ResetProcess, ReopensThePortOnWhichTheHandsetComesBack) {
+  handset.Expect(12, 3).Refuse();
+  EXPECT_EQ(Reset(true), Result::Refused);
+  EXPECT_TRUE(phone.link.IsOpen());
+  const std::size_t heard = handset.Heard().size();
+  handset.Expect(12, 3).Answer(12, 3, "00");
+  EXPECT_EQ(Reset(true), Result::Success);
+  EXPECT_EQ(monitor->HeardAtStart(), heard) << "the monitor missed the restart";
+  EXPECT_FALSE(event.IsSet());
+  // A second reset, of a handset that is away, ends the first one's wait.
+  EXPECT_NE(Reset(true), Result::Success);
+  EXPECT_FALSE(phone.link.IsOpen());
+  ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
+  handset.Expect(12, 3).Answer(12, 3, "00");
+  EXPECT_EQ(Reset(true), Result::Success);
+  monitor->Arrive(port + 4);
+  ExpectCaught();
+  EXPECT_TRUE(phone.link.IsOpen());
+  EXPECT_EQ(handset.OpenedWith().port, static_cast<std::uint32_t>(port + 4));
+}
+
+}  // namespace
+}  // namespace merovane::test

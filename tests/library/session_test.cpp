@@ -1,0 +1,82 @@
+#include "library/station.h"
+
+namespace api_test {
+namespace {
+
+struct Sessions : StationTest {
+  static int32_t ModeOf(int32_t port) {
+    uint8_t data[4] = {};
+    const int32_t result = port == 0 ? QV_ReadMode(data, 4) : QV_ReadMode_MT(port, data, 4);
+    return result == 0 ? data[3] : -result;
+  }
+
+  static void ExpectReported(int32_t result, uint32_t operation, int32_t code) {
+    EXPECT_EQ(result, code);
+    EXPECT_EQ(LastReported(), (Reported{operation, code}));
+  }
+
+  RunningHandset first{1, 7};
+  RunningHandset second{2, 8};
+};
+
+TEST_F(Sessions, RefuseBadNumbersUnderTheirOperation) {
+  ExpectReported(QV_BeginPhoneTest(0, 115200), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(-1, 115200), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(7, 0), 1, 4);
+  ExpectReported(QV_BeginPhoneTest_MT(7, -1), 1, 4);
+  ExpectReported(QV_BeginPhoneTest(9, 115200), 1, 2);  // no such device
+  ExpectReported(QV_EndPhoneTest(), 2, 0);
+  EXPECT_EQ(QV_EndPhoneTest_MT(0), 4);
+  ExpectReported(QV_EndPhoneTest_MT(7), 0, 1);
+}
+
+TEST_F(Sessions, CommandsLookForTheirPortBeforeTheirArguments) {
+  ExpectReported(QV_ChangePhoneMode(1), 0, 1);
+  ExpectReported(QV_ChangePhoneMode_MT(7, 1), 0, 1);
+  ExpectReported(QV_ChangePhoneMode_MT(0, 1), 0, 4);
+  ExpectReported(QV_RestartPhone(0), 0, 1);
+  EXPECT_EQ(QV_IsPhoneAssert(), 0);
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  ExpectReported(QV_RestartPhone(0), 11, 4);
+  ExpectReported(QV_ReadMode_MT(7, nullptr, 4), 12, 4);
+}
+
+TEST_F(Sessions, SeveralPortsStandSideBySide) {
+  ASSERT_EQ(QV_BeginPhoneTest_MT(8, 115200), 0);
+  EXPECT_EQ(ModeOf(0), -1) << "no default object from this form";
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  EXPECT_EQ(QV_BeginPhoneTest(7, 115200), 26);
+  EXPECT_EQ(QV_BeginPhoneTest_MT(7, 115200), 26);
+  EXPECT_EQ(QV_BeginPhoneTest(8, 115200), 26);
+  EXPECT_EQ(ModeOf(0), 0x81) << "and the default object is still the first";
+  EXPECT_EQ(ModeOf(7), 0x81);
+  EXPECT_EQ(ModeOf(8), 0x82);
+  EXPECT_EQ(QV_EndPhoneTest_MT(7), 0);
+  EXPECT_EQ(LastReported(), (Reported{2, 0}));
+  EXPECT_EQ(ModeOf(0), -1);
+  EXPECT_EQ(ModeOf(7), -1);
+  EXPECT_EQ(ModeOf(8), 0x82);
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0) << "free again";
+  EXPECT_EQ(QV_EndPhoneTest(), 0);
+  EXPECT_EQ(ModeOf(8), -1);
+}
+
+TEST_F(Sessions, OnlyTheByteOrderReadsBack) {
+  uint32_t value = 77;
+  EXPECT_EQ(QV_GetProperty(4, 0, &value), 0);
+  EXPECT_EQ(value, 1u);
+  EXPECT_EQ(QV_SetProperty(4, 0, 0), 0);
+  EXPECT_EQ(QV_GetProperty(4, 0, &value), 0);
+  EXPECT_EQ(value, 0u);
+  value = 77;
+  for (const uint32_t property : {0u, 1u, 2u, 3u, 5u, 1000u}) {
+    EXPECT_EQ(QV_GetProperty(property, 0, &value), 0);
+    EXPECT_EQ(value, 77u) << property;
+  }
+  EXPECT_EQ(QV_GetProperty(4, 0, nullptr), 4);
+  EXPECT_EQ(QV_SetProperty(1000, 1, 1), 0);
+  EXPECT_EQ(LastReported(), (Reported{0, 0}));
+}
+
+}  // namespace
+}  // namespace api_test

@@ -1,0 +1,48 @@
+#include "library/station.h"
+
+#include <poll.h>
+#include <stdlib.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+#include "brimwell/brimwell.h"
+
+namespace api_test {
+
+PortOf::PortOf(const Handset& handset, int32_t port)
+    : variable_("CASSORIND_COM" + std::to_string(port)) {
+  ::setenv(variable_.c_str(), handset.DevicePath().c_str(), 1);
+}
+
+PortOf::~PortOf() { ::unsetenv(variable_.c_str()); }
+
+Event::Event() : descriptor_(::eventfd(0, EFD_CLOEXEC)) {}
+
+Event::~Event() { ::close(descriptor_); }
+
+bool Event::Wait(std::chrono::milliseconds patience) const {
+  pollfd polled{descriptor_, POLLIN, 0};
+  if (::poll(&polled, 1, static_cast<int>(patience.count())) != 1) return false;
+  // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
+  eventfd_t value = 0;
+  ::eventfd_read(descriptor_, &value);
+  ::eventfd_write(descriptor_, value);
+  return true;
+}
+
+Reported LastReported() {
+  BRIMWELL_ERROR error{};
+  EXPECT_EQ(Spec_GetLastError(BRIMWELL_MODULE_PHONE_COMMAND, &error), 1);
+  return {error.operation, error.code};
+}
+
+StationTest::~StationTest() {
+  QV_EndPhoneTest();
+  QV_SetProperty(0, 0, 0);
+  QV_SetProperty(3, 0, 0);
+  QV_SetProperty(4, 0, 1);
+  QV_SaveRecvData(0, nullptr);
+  QV_SetCampParam(0);
+}
+
+}  // namespace api_test

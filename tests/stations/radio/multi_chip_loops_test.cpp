@@ -1,0 +1,114 @@
+// Multi-chip handsets: the same radio by single steps.
+#include <cmath>
+
+#include "stations/radio/calibrated_station.h"
+
+namespace radio_test {
+namespace {
+
+constexpr uint16_t kRssiItem = 25;
+constexpr uint16_t kChannel = 62;
+constexpr int32_t kInvalidRssi = 32;
+constexpr int32_t kNonSignalFailed = 33;
+
+class MultiChipLoops : public CalibratedStation {
+ protected:
+  void SetUp() override {
+    ASSERT_EQ(QV_SetPhoneClassmark_MChip_MT(kPort, 0), PC_ERR_SUCCESS);
+    ASSERT_EQ(QV_Active_MChip_MT(kPort, 1), PC_ERR_SUCCESS);
+  }
+  const Band& Gsm900() const { return *truth->Band(0); }
+};
+
+INSTANTIATE_TEST_SUITE_P(ByteOrders, MultiChipLoops, testing::Values(true, false));
+
+TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
+  QV_AGC_PARAMETERS agc{0, {kChannel, 160, 260, 0}, 0};
+  QV_AGC_RESULT measured{};
+  EXPECT_EQ(QV_AgcStart_MChip_MT(kPort, 1, &agc, &measured), kInvalidRssi) << "nothing to receive";
+  EXPECT_EQ(Heard(1, kRssiItem), 6U);
+
+  ASSERT_TRUE(Ask("AT+SIMGEN=-7000"));
+  for (const uint16_t gainWord : {uint16_t{80}, uint16_t{320}}) {
+    phone->ClearJournal();
+    agc.words[1] = gainWord;
+    ASSERT_EQ(QV_AgcStart_MChip_MT(kPort, 1, &agc, &measured), PC_ERR_SUCCESS);
+    EXPECT_EQ(Heard(1, kRssiItem), 3U) << "two zeros first";
+    const double received = handset::ReceivedDbm(Gsm900(), kChannel, -70);
+    EXPECT_NEAR(measured.rssi, handset::Rssi(received, handset::GainDb(Gsm900(), gainWord)), 12);
+    EXPECT_NEAR(measured.rx_level, handset::ReceiveLevel(received, 0), 2);
+  }
+  EXPECT_EQ(phone->Status("radio.receiver"), "on");
+  EXPECT_EQ(QV_AgcStart_MChip_MT(kPort, 0, &agc, nullptr), PC_ERR_SUCCESS);
+  EXPECT_EQ(phone->Status("radio.receiver"), "off");
+}
+
+TEST_P(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
+  struct Trim {
+    uint32_t mode;
+    QV_AFC_PARAMETERS afc;
+    double steps;
+  };
+  for (const Trim& trim : {Trim{0, {{4300, kChannel, 5, 0}}, 4300},
+                           {0, {{3900, kChannel, 5, 0}}, 3900},
+                           {1, {{3, kChannel, 5, 4000}}, 4000 + 3 * 32},
+                           {1, {{0xFFFE, kChannel, 5, 4000}}, 4000 - 2 * 32}}) {
+    SCOPED_TRACE(trim.steps);
+    ASSERT_EQ(QV_SetPhoneAfcMode_MT(kPort, trim.mode), PC_ERR_SUCCESS);
+    ASSERT_EQ(QV_AfcStart_MChip_MT(kPort, 1, &trim.afc), PC_ERR_SUCCESS);
+    EXPECT_NEAR(FrequencyError(),
+                handset::FrequencyErrorHz(*truth, trim.steps, handset::kRoomTemperature), 4.0);
+  }
+  EXPECT_EQ(QV_AfcStart_MChip_MT(kPort, 0, nullptr), PC_ERR_SUCCESS);
+  EXPECT_EQ(phone->Status("radio.transmitter"), "off");
+}
+
+TEST_P(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
+  struct Place {
+    uint32_t band;
+    uint32_t group;
+    uint16_t level;
+    uint16_t factor;
+  };
+  // The first levels, with their bases, and the last ones.
+  for (const Place& place :
+       {Place{0, 0, 5, 2000}, {0, 4, 20, 300}, {1, 2, 0, 1500}, {4, 3, 9, 777}}) {
+    SCOPED_TRACE(place.factor);
+    const Band& band = *truth->Band(place.band);
+    const uint16_t channel = handset::MiddleOfGroup(band, place.group);
+    const QV_POWER_STEP step{place.band, place.level, place.factor, place.group};
+    ASSERT_EQ(QV_SetPhoneClassmark_MChip_MT(kPort, place.band), PC_ERR_SUCCESS);
+    ASSERT_EQ(QV_TxOn_MChip_MT(kPort, 1, channel, place.level), PC_ERR_SUCCESS);
+    // It acts while the handset transmits.
+    ASSERT_EQ(QV_PwrStepFactorSet_MChip_MT(kPort, &step), PC_ERR_SUCCESS);
+    EXPECT_NEAR(Power(),
+                handset::TransmitPowerDbm(band, channel, place.factor, handset::kRoomTemperature),
+                0.06);
+  }
+  EXPECT_EQ(QV_TxOn_MChip_MT(kPort, 0, 0, 0), PC_ERR_SUCCESS);
+  EXPECT_FALSE(Ask("AT+SIMPOWER?"));
+}
+
+TEST_P(MultiChipLoops, DirectCurrentAndNonSignallingMeasure) {
+  uint16_t first = 0, second = 0;
+  ASSERT_EQ(QV_CalDirectCurr_MT(kPort, &first, &second), PC_ERR_SUCCESS);
+  EXPECT_NEAR(first, truth->directCurrent[0], 6);
+  EXPECT_NEAR(second, truth->directCurrent[1], 6);
+  EXPECT_EQ(phone->Status("radio.receiver"), "off");
+
+  ASSERT_TRUE(Ask("AT+SIMGEN=-7000"));
+  QV_AGC_PARAMETERS agc{0, {kChannel, 160, 260, 0}, 0};
+  QV_AGC_RESULT measured{};
+  ASSERT_EQ(QV_AgcStart_MChip_MT(kPort, 1, &agc, &measured), PC_ERR_SUCCESS);
+  QV_NON_SIGNAL_COMMAND command{0, 6, 0, {1, 2, 3, 4}};
+  QV_NON_SIGNAL_ANSWER answer{};
+  ASSERT_EQ(QV_SendNonSignalCmd_MT(kPort, &command, &answer, 1000), PC_ERR_SUCCESS);
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_NEAR(answer.values[0], measured.rssi, 16);
+  EXPECT_NEAR(answer.values[1], measured.rx_level, 2);
+  command.command_id = 9;
+  EXPECT_EQ(QV_SendNonSignalCmd_MT(kPort, &command, nullptr, 1000), kNonSignalFailed);
+}
+
+}  // namespace
+}  // namespace radio_test
