@@ -14,13 +14,13 @@
 #include <utility>
 #include <vector>
 
-#include "handset/faults.h"
 #include "firmware/firmware.h"
-#include "handset/handset.h"
 #include "firmware/journal.h"
+#include "handset/faults.h"
+#include "handset/handset.h"
+#include "transport/transport.h"
 #include "wire/outbox.h"
 #include "wire/reply.h"
-#include "transport/transport.h"
 
 namespace handset {
 

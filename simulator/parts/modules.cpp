@@ -3,8 +3,8 @@
 #include "parts/identity/identity.h"
 #include "parts/memory/memory.h"
 #include "parts/peripherals/peripherals.h"
-#include "parts/session/session.h"
 #include "parts/radio/radio.h"
+#include "parts/session/session.h"
 
 namespace handset {
 

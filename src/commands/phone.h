@@ -2,8 +2,8 @@
 #pragma once
 
 #include "commands/calibration/calibration_state.h"
-#include "commands/serial_number_layout.h"
 #include "commands/handset/mode_process.h"
+#include "commands/serial_number_layout.h"
 #include "link/phone_link.h"
 #include "link/settings.h"
 

@@ -1,5 +1,3 @@
-#include "commands/handset/mode_process.h"
-
 #include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
@@ -9,6 +7,7 @@
 #include <mutex>
 #include <thread>
 
+#include "commands/handset/mode_process.h"
 #include "platform/message_queue.h"
 #include "support/command_fixture.h"
 

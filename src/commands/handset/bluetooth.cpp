@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "commands/operation.h"
 #include "commands/handset/radio_address.h"
+#include "commands/operation.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {

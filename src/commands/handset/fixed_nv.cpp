@@ -7,11 +7,11 @@
 
 #include "commands/answer_fields.h"
 #include "commands/crc16.h"
+#include "commands/handset/gps_nv_block.h"
+#include "commands/handset/radio_address.h"
 #include "commands/imei.h"
 #include "commands/operation.h"
 #include "commands/storage_frames.h"
-#include "commands/handset/gps_nv_block.h"
-#include "commands/handset/radio_address.h"
 
 namespace merovane::commands {
 namespace {

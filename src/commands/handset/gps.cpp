@@ -5,8 +5,8 @@
 #include <cstring>
 
 #include "commands/answer_fields.h"
-#include "commands/operation.h"
 #include "commands/handset/gps_nv_block.h"
+#include "commands/operation.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {

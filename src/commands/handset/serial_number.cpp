@@ -5,9 +5,9 @@
 #include <cstring>
 #include <string_view>
 
-#include "commands/operation.h"
 #include "commands/handset/flash_nv.h"
 #include "commands/handset/production_block.h"
+#include "commands/operation.h"
 
 namespace merovane::commands {
 namespace {

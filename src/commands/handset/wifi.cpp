@@ -4,8 +4,8 @@
 #include <array>
 
 #include "commands/answer_fields.h"
-#include "commands/operation.h"
 #include "commands/handset/radio_address.h"
+#include "commands/operation.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands {
