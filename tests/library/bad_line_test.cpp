@@ -1,9 +1,9 @@
 #include <optional>
 #include <thread>
 
-#include "library/station.h"
+#include "support/station.h"
 
-namespace api_test {
+namespace merovane::test {
 namespace {
 
 using Clock = std::chrono::steady_clock;
@@ -14,12 +14,7 @@ class BadLine : public StationTest, public ::testing::WithParamInterface<handset
   static constexpr uint32_t kLimitMs = 150;
 
   void SetUp() override {
-    HandsetOptions options;
-    options.transport = GetParam();
-    options.startMode = 1;
-    phone.emplace(options);
-    phone->Start();
-    device.emplace(*phone, kPort);
+    SwitchOn(Running(GetParam()));
     ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
     uint8_t data[4];
     while (QV_ReadMode(data, 4) != 0) {
@@ -38,9 +33,6 @@ class BadLine : public StationTest, public ::testing::WithParamInterface<handset
     EXPECT_EQ(LastReported(), (Reported{11, result}));
     return result;
   }
-
-  std::optional<Handset> phone;
-  std::optional<PortOf> device;
 };
 
 TEST_P(BadLine, EndsByTheLimitWithItsCode) {
@@ -79,4 +71,4 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& each) { return each.param == handset::TransportKind::Pty ? "Pty" : "Tcp"; });
 
 }  // namespace
-}  // namespace api_test
+}  // namespace merovane::test

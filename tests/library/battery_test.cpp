@@ -1,18 +1,15 @@
 #include <optional>
 #include <tuple>
 
-#include "library/station.h"
+#include "support/station.h"
 #include "support/temp_directory.h"
 
 // Calls QV_<name> or QV_<name>_MT, as the test's parameter says.
 #define QV(name, ...) \
   (mt ? QV_##name##_MT(kPort __VA_OPT__(, ) __VA_ARGS__) : QV_##name(__VA_ARGS__))
 
-namespace api_test {
+namespace merovane::test {
 namespace {
-
-using merovane::test::FileText;
-using merovane::test::TempDirectory;
 
 // Form, transport, byte order of the handset, receive mode.
 using Parameters = std::tuple<bool, handset::TransportKind, handset::ByteOrder, uint32_t>;
@@ -27,9 +24,7 @@ class Battery : public StationTest, public ::testing::WithParamInterface<Paramet
     options.byteOrder = order;
     options.startFrameInterval = 20ms;
     options.traceInterval = 5ms;
-    phone.emplace(options);
-    phone->Start();
-    device.emplace(*phone, kPort);
+    SwitchOn(options);
     QV_SetProperty(4, 0, order == handset::ByteOrder::Big);
     QV_SetProperty(3, 0, receiveMode);
   }
@@ -47,8 +42,6 @@ class Battery : public StationTest, public ::testing::WithParamInterface<Paramet
   }
 
   bool mt = false;
-  std::optional<Handset> phone;
-  std::optional<PortOf> device;
 };
 
 TEST_P(Battery, ABootingHandsetIsCaughtAndDriven) {
@@ -149,4 +142,4 @@ INSTANTIATE_TEST_SUITE_P(
     NameOf);
 
 }  // namespace
-}  // namespace api_test
+}  // namespace merovane::test

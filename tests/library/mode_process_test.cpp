@@ -1,8 +1,8 @@
 #include <optional>
 
-#include "library/station.h"
+#include "support/station.h"
 
-namespace api_test {
+namespace merovane::test {
 namespace {
 
 struct ModeProcess : StationTest {
@@ -13,21 +13,11 @@ struct ModeProcess : StationTest {
     options.portVanishes = true;
     options.portAbsence = 200ms;
     options.startMode = startMode;
-    phone.emplace(options);
-    phone->Start();
-    device.emplace(*phone, kPort);
+    SwitchOn(options);
   }
-  bool InMode(uint8_t mode) {
-    return phone->WaitForState(
-        [&](const handset::HandsetState& state) {
-          return state.power == handset::Power::Running && state.mode == mode;
-        },
-        kPatience);
-  }
-
   void ExpectCaught() {
     EXPECT_TRUE(event.Wait(kPatience));
-    EXPECT_TRUE(InMode(3));
+    EXPECT_TRUE(WaitUntilRunning(*phone, 3));
   }
   static uint8_t ModeRead() {
     uint8_t data[4] = {};
@@ -35,8 +25,6 @@ struct ModeProcess : StationTest {
     return data[3];
   }
 
-  std::optional<Handset> phone;
-  std::optional<PortOf> device;
   Event event;
 };
 
@@ -79,7 +67,7 @@ TEST_F(ModeProcess, ReturnsWithTheOutcomeWhenItIsAskedTo) {
   Start();
   ASSERT_EQ(QV_BeginPhoneTest_MT(kPort, 115200), 0);
   EXPECT_EQ(QV_EnterModeProcessEx_MT(kPort, 0, 3, 20000), 0);
-  EXPECT_TRUE(InMode(3));
+  EXPECT_TRUE(WaitUntilRunning(*phone, 3));
 }
 
 TEST_F(ModeProcess, IsEndedByStopAndByTheSessionsEnd) {
@@ -112,7 +100,7 @@ TEST_F(ModeProcess, FindsTheNumberOfANewPort) {
   EXPECT_TRUE(event.Wait(kPatience));
   EXPECT_EQ(QV_GetUsbPort(), kPort);
   EXPECT_EQ(QV_StopModeProcess(), 0);
-  EXPECT_TRUE(InMode(3));
+  EXPECT_TRUE(WaitUntilRunning(*phone, 3));
   ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0) << "the device was left closed";
 }
 
@@ -125,4 +113,4 @@ TEST_F(ModeProcess, ReopensThePortAfterAReset) {
 }
 
 }  // namespace
-}  // namespace api_test
+}  // namespace merovane::test

@@ -1,6 +1,6 @@
-#include "library/station.h"
+#include "support/station.h"
 
-namespace api_test {
+namespace merovane::test {
 namespace {
 
 struct Sessions : StationTest {
@@ -79,4 +79,4 @@ TEST_F(Sessions, OnlyTheByteOrderReadsBack) {
 }
 
 }  // namespace
-}  // namespace api_test
+}  // namespace merovane::test

@@ -3,15 +3,13 @@
 #include <filesystem>
 #include <fstream>
 
-#include "library/station.h"
+#include "support/station.h"
 #include "support/temp_directory.h"
 
-namespace api_test {
+namespace merovane::test {
 namespace {
 
 namespace fs = std::filesystem;
-using merovane::test::FileText;
-using merovane::test::TempDirectory;
 
 // A station program in a directory of its own, with a settings file beside it.
 struct SettingsFile : ::testing::Test {
@@ -88,4 +86,4 @@ TEST_F(SettingsFile, MayNameAChannelServerThatIsNotThere) {
 }
 
 }  // namespace
-}  // namespace api_test
+}  // namespace merovane::test

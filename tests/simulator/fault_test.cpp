@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "handset/handset.h"
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
@@ -15,8 +15,8 @@ using handset::Handset;
 using handset::HandsetOptions;
 using handset::Reply;
 using handset::TransportKind;
-using station::kQuiet;
-using station::Station;
+using merovane::test::kQuiet;
+using merovane::test::WireStation;
 using testing::ElementsAre;
 using namespace std::chrono_literals;
 
@@ -32,7 +32,7 @@ struct Misbehaving : testing::Test {
   }
 
   Handset phone{Options()};
-  Station line{Started(phone).Address()};
+  WireStation line{Started(phone).Address()};
 };
 
 TEST_F(Misbehaving, FaultsStrikeExactlyTheNextAnswers) {
@@ -101,13 +101,13 @@ TEST_F(Misbehaving, DisconnectsInsteadOfAnswering) {
   tcp.Start();
   for (Handset* each : {&phone, &tcp}) {
     each->SetFault("disconnect=next:1");
-    Station cut(each->Address());
+    WireStation cut(each->Address());
     cut.Send(28, 0);
     EXPECT_TRUE(cut.WaitForHangup());
   }
-  ASSERT_TRUE(station::WaitForPort(phone));
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
-  EXPECT_TRUE(Station(tcp.Address()).Ask(28, 0));
+  ASSERT_TRUE(merovane::test::WaitForPort(phone));
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
+  EXPECT_TRUE(WireStation(tcp.Address()).Ask(28, 0));
 }
 
 TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
@@ -123,7 +123,7 @@ TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
       if (answer != std::string::npos) answers.push_back(text.substr(answer));
     };
     Handset each(options);
-    Station listener(Started(each).Address());
+    WireStation listener(Started(each).Address());
     listener.Send(2, 6);
     for (int i = 0; i < 60; ++i) {
       listener.Send(28, static_cast<uint8_t>(i % 2));
@@ -170,7 +170,7 @@ TEST_F(Misbehaving, TheJournalKeepsWhatWasHeard) {
   HandsetOptions options = Options();
   options.journalCapacity = 2;
   Handset forgetful(options);
-  Station other(Started(forgetful).Address());
+  WireStation other(Started(forgetful).Address());
   other.WriteRaw(handset::FromHex("7e 00 00 00 00 00 99 1c 00 7e"));
   for (uint8_t subtype = 50; subtype <= 52; ++subtype) EXPECT_TRUE(other.Ask(200, subtype, {7}));
   EXPECT_EQ(forgetful.ReceivedCount(200, 50), 0u);

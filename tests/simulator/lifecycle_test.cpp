@@ -6,7 +6,7 @@
 #include <string>
 
 #include "handset/handset.h"
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
@@ -14,9 +14,9 @@ using handset::Handset;
 using handset::HandsetOptions;
 using handset::HandsetState;
 using handset::TransportKind;
-using station::kPatience;
-using station::Running;
-using station::Station;
+using merovane::test::kPatience;
+using merovane::test::Running;
+using merovane::test::WireStation;
 
 TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
   std::atomic<int> came{0};
@@ -29,7 +29,7 @@ TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
   Handset phone(options);
   phone.Start();
   for (int stations = 1; stations <= 2; ++stations) {
-    EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+    EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
     ASSERT_TRUE(
         phone.WaitForState([](const HandsetState& s) { return !s.stationConnected; }, kPatience));
     phone.State();  // Behind whatever the departure set off.
@@ -48,7 +48,7 @@ TEST(HandsetLifecycle, ATcpPortThatWasTakenMeanwhileComesBackOnceItIsFree) {
   EXPECT_THROW(phone.PlugPort(), std::runtime_error);
   other.Stop();
   phone.PlugPort();
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
 }
 
 TEST(HandsetLifecycle, OneThatIsNotRunningRefusesWhatNeedsItsPort) {
@@ -64,7 +64,7 @@ TEST(HandsetLifecycle, OneThatIsNotRunningRefusesWhatNeedsItsPort) {
   EXPECT_EQ(phone.Status("power"), "off");
   phone.Start();
   EXPECT_THROW(phone.Start(), std::logic_error);
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0)) << "the second start changed nothing";
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0)) << "the second start changed nothing";
   phone.Stop();
   for (const auto& call : calls) EXPECT_THROW(call(), std::logic_error);
   EXPECT_THROW(phone.Start(), std::logic_error);

@@ -11,7 +11,7 @@
 
 #include "handset/handset.h"
 #include "parts/memory/crc16.h"
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
@@ -22,8 +22,8 @@ using handset::Handset;
 using handset::HandsetOptions;
 using handset::SerialLayout;
 using handset::ToHex;
-using station::kPatience;
-using station::Station;
+using merovane::test::kPatience;
+using merovane::test::WireStation;
 using testing::StartsWith;
 
 HandsetOptions Running(ByteOrder order = ByteOrder::Big) {
@@ -90,7 +90,7 @@ struct Talk {
   }
 
   Handset phone;
-  Station line;
+  WireStation line;
 };
 
 TEST(Modules, ARestartKeepsFlashAndDropsMemory) {

@@ -10,7 +10,7 @@
 
 #include "companions/posix/pty_peer.h"
 #include "handset/handset.h"
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
@@ -19,9 +19,9 @@ using handset::Handset;
 using handset::HandsetOptions;
 using handset::HandsetState;
 using handset::TransportKind;
-using station::kPatience;
-using station::Running;
-using station::Station;
+using merovane::test::kPatience;
+using merovane::test::Running;
+using merovane::test::WireStation;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
@@ -42,7 +42,7 @@ TEST(PtyPort, LinkIsReplacedAndRemovedButNothingElseIs) {
   {
     Started phone(options);
     EXPECT_EQ(phone.DevicePath(), options.link);
-    EXPECT_TRUE(Station(options.link).Ask(28, 0));
+    EXPECT_TRUE(WireStation(options.link).Ask(28, 0));
   }
   EXPECT_FALSE(fs::exists(fs::symlink_status(options.link)));
 
@@ -58,7 +58,7 @@ TEST(PtyPort, NothingThatWasSaidToNobodyGreetsAStation) {
   options.transcript = [&](const std::string& line) { said += line.find("<- ") != line.npos; };
   Started phone(options);
   {
-    Station line(phone.Address());
+    WireStation line(phone.Address());
     ASSERT_TRUE(
         phone.WaitForState([](const HandsetState& s) { return s.stationConnected; }, kPatience));
     // Start frames that this station never reads.
@@ -67,7 +67,7 @@ TEST(PtyPort, NothingThatWasSaidToNobodyGreetsAStation) {
   ASSERT_TRUE(
       phone.WaitForState([](const HandsetState& s) { return !s.stationConnected; }, kPatience));
   phone.OnFrame(0xFE, 131, handset::Reply::Answer(0xFE, 131));
-  Station next(phone.Address());
+  WireStation next(phone.Address());
   next.Send(0xFE, 128 + 2);
   ASSERT_TRUE(phone.NextFrame(0xFE, 130));
   // A few that were sent since it opened, not twenty.
@@ -79,7 +79,7 @@ TEST(PtyPort, NothingThatWasSaidToNobodyGreetsAStation) {
 TEST(PtyPort, BytesOfAStationThatLeftAtOnceAreHeard) {
   Started phone;
   for (int i = 0; i < 5; ++i) {
-    Station(phone.Address()).Send(28, 0);
+    WireStation(phone.Address()).Send(28, 0);
     EXPECT_TRUE(phone.NextFrame(28, 0));
   }
 }
@@ -88,7 +88,7 @@ TEST(PtyPort, AStationThatDoesNotReadGetsAnswersLaterAndLosesTraces) {
   HandsetOptions options = Running();
   options.traceInterval = 1ms;
   Started phone(options);
-  Station line(phone.Address());
+  WireStation line(phone.Address());
   line.Send(2, 4);
   constexpr int kRequests = 200;
   for (int i = 0; i < kRequests; ++i) line.Send(104, 0, Bytes(1000, 'x'));
@@ -104,32 +104,32 @@ TEST(PtyPort, VanishesAfterTheAnswerToARestartAndComesBack) {
   options.portAbsence = 60min;
   options.timeScale = 0.00002;  // The handset's hour is soon over.
   Started phone(options);
-  Station line(phone.Address());
+  WireStation line(phone.Address());
   line.Send(0xFE, 129);
   line.Send(12, 9);
   EXPECT_LT(line.ReceiveType(12).value().payload.size(), 2u)
       << "the station must not count on the port";
   EXPECT_TRUE(line.WaitForHangup());
   EXPECT_TRUE(phone.WaitForState([](const HandsetState& s) { return s.mode == 9; }, kPatience));
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
 
   phone.VanishPort(30ms);
-  EXPECT_TRUE(station::WaitForPort(phone));
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0)) << "it stayed on all the while";
+  EXPECT_TRUE(merovane::test::WaitForPort(phone));
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0)) << "it stayed on all the while";
 }
 
 TEST(TcpPort, TakesOneStationAfterAnotherUnderTheSameNumber) {
   Started phone(Running(TransportKind::Tcp));
   EXPECT_EQ(phone.DevicePath(), "socket://" + phone.Address());
   EXPECT_THAT(phone.Address(), testing::StartsWith("127.0.0.1:"));
-  std::optional<Station> first(phone.Address());
+  std::optional<WireStation> first(phone.Address());
   EXPECT_TRUE(first->Ask(28, 0));
-  Station second(phone.Address());
+  WireStation second(phone.Address());
   first.reset();
   EXPECT_TRUE(second.Ask(28, 0));
   phone.Disconnect();
   EXPECT_TRUE(second.WaitForHangup());
-  EXPECT_TRUE(Station(phone.Address()).Ask(28, 0));
+  EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
 }
 
 TEST(TcpPort, AnAddressInUseOrNoAddressIsAnError) {

@@ -5,14 +5,14 @@
 #include <string>
 #include <vector>
 
-#include "simulator/station.h"
 #include "support/child_program.h"
+#include "support/wire_station.h"
 
 namespace {
 
+using handset::Frame;
 using merovane::test::ChildProgram;
-using station::Frame;
-using station::Station;
+using merovane::test::WireStation;
 using testing::HasSubstr;
 using testing::StartsWith;
 
@@ -35,7 +35,7 @@ struct Program : ChildProgram {
 
 TEST(HandsetProgram, ServesAndTakesCommandsWhileItRuns) {
   Program program({"--mode", "3", "--fault", "drop=next:1"});
-  Station line(program.Address());
+  WireStation line(program.Address());
   line.Send(28, 0);
   EXPECT_EQ(line.Ask(28, 1).value().subtype, 1) << "the first answer was lost";
   EXPECT_EQ(program.Say("assert 2"), "ok assert");
@@ -58,7 +58,7 @@ TEST(HandsetProgram, ServesWithoutAConsoleUntilASignalEndsIt) {
   Program program({"--link", link, "--verbose", "--little-endian", "--mode", "1"});
   EXPECT_EQ(program.Address(), link);
   program.CloseInput();
-  Station line(link, false);
+  WireStation line(link, false);
   EXPECT_TRUE(line.Ask(28, 0));
   EXPECT_THAT(program.Line("station connected"), StartsWith(" "));
   EXPECT_THAT(program.Line(), HasSubstr("-> 28/0"));
@@ -71,7 +71,7 @@ TEST(HandsetProgram, ServesTcp) {
   Program program({"--tcp", "0", "--mode", "1"});
   std::string address = program.Address();
   EXPECT_THAT(address, StartsWith("127.0.0.1:"));
-  EXPECT_TRUE(Station(address).Ask(28, 0));
+  EXPECT_TRUE(WireStation(address).Ask(28, 0));
 }
 
 TEST(HandsetProgram, SaysWhatIsWrongAndFails) {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
@@ -52,7 +52,7 @@ class RadioWire : public testing::TestWithParam<bool> {
     return Ask(type, subtype, payload).subtype;
   }
   std::optional<handset::Handset> phone;
-  std::optional<station::Station> station;
+  std::optional<merovane::test::WireStation> station;
 };
 
 INSTANTIATE_TEST_SUITE_P(ByteOrders, RadioWire, testing::Values(true, false));
@@ -117,7 +117,7 @@ TEST_P(RadioWire, RestartDropsWhatWasNotCommitted) {
   phone->Restart();
   ASSERT_TRUE(
       phone->WaitForState([](const auto& state) { return state.power == handset::Power::Running; },
-                          station::kPatience));
+                          merovane::test::kPatience));
   EXPECT_EQ(Read({0, 0, 2, 0, 2}), 4096U);
   Tell(32, 0, Words({0, 0, 2, 0, 2, 4000}));
   EXPECT_EQ(Tell(32, 0, Words({1, 0, 32, 0, 0})), 0);

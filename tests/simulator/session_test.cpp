@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "handset/handset.h"
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 namespace {
 
+using handset::Frame;
 using handset::Power;
-using station::Frame;
-using station::kQuiet;
-using station::Station;
+using merovane::test::kQuiet;
+using merovane::test::WireStation;
 using namespace std::chrono_literals;
 
 struct Session : testing::Test {
@@ -30,7 +30,7 @@ struct Session : testing::Test {
   }
 
   std::optional<handset::Handset> phone;
-  std::optional<Station> line;
+  std::optional<WireStation> line;
 };
 
 TEST_F(Session, BootsUntilAStartModeIsChosen) {

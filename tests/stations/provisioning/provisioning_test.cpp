@@ -1,63 +1,50 @@
 // Memory, identity and peripherals through the exported functions, on a simulated handset.
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <unistd.h>
-
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <optional>
 
-#include "handset/handset.h"
-#include "merovane/merovane.h"
+#include "support/station.h"
+#include "support/temp_directory.h"
 
+namespace merovane::test {
 namespace {
 
 using handset::Bytes;
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
-constexpr int32_t kPort = 62;
 constexpr const char* kImei = "490154203237518";
 
-class Provisioning : public testing::TestWithParam<bool> {
+class Provisioning : public StationTest, public ::testing::WithParamInterface<bool> {
  protected:
   Provisioning() { QV_SetProperty(4, 0, GetParam()); }
-  ~Provisioning() override {
-    QV_EndPhoneTest();
-    std::filesystem::remove(stateFile);
-  }
 
   // Another handset, or the same one off and on again when the file stays.
-  void Connect(handset::HandsetOptions options = {}) {
-    QV_EndPhoneTest();
-    phone.reset();
-    options.startMode = 1;
-    options.stateFile = stateFile.string();
+  void Connect(HandsetOptions options = Running()) {
+    options.stateFile = (directory_ / "handset.json").string();
     options.byteOrder = GetParam() ? handset::ByteOrder::Big : handset::ByteOrder::Little;
-    phone.emplace(options);
-    phone->Start();
-    setenv(("CASSORIND_COM" + std::to_string(kPort)).c_str(), phone->DevicePath().c_str(), 1);
+    SwitchOn(options);
     ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), PC_ERR_SUCCESS);
   }
-  static std::string SerialNumber(int32_t(MEROVANE_CALL* read)(int32_t, uint8_t*, uint32_t)) {
+  static std::string SerialNumber(std::int32_t(MEROVANE_CALL* read)(std::int32_t, std::uint8_t*,
+                                                                    std::uint32_t)) {
     char number[25] = {};
-    EXPECT_EQ(read(kPort, reinterpret_cast<uint8_t*>(number), 24), PC_ERR_SUCCESS);
+    EXPECT_EQ(read(kPort, reinterpret_cast<std::uint8_t*>(number), 24), PC_ERR_SUCCESS);
     return number;
   }
-  static int32_t WriteSerialNumber(int32_t(MEROVANE_CALL* write)(int32_t, const uint8_t*, uint32_t),
-                                   const std::string& text) {
-    return write(kPort, reinterpret_cast<const uint8_t*>(text.data()),
-                 static_cast<uint32_t>(text.size()));
+  static std::int32_t WriteSerialNumber(std::int32_t(MEROVANE_CALL* write)(std::int32_t,
+                                                                           const std::uint8_t*,
+                                                                           std::uint32_t),
+                                        const std::string& text) {
+    return write(kPort, reinterpret_cast<const std::uint8_t*>(text.data()),
+                 static_cast<std::uint32_t>(text.size()));
   }
 
-  const std::filesystem::path stateFile = std::filesystem::temp_directory_path() /
-                                          ("provisioning-" + std::to_string(getpid()) + ".json");
-  std::optional<handset::Handset> phone;
+ private:
+  TempDirectory directory_;
 };
-INSTANTIATE_TEST_SUITE_P(ByteOrders, Provisioning, testing::Values(true, false));
+INSTANTIATE_TEST_SUITE_P(ByteOrders, Provisioning, ::testing::Values(true, false));
 
 TEST_P(Provisioning, WritesWhatABlankHandsetKeeps) {
-  handset::HandsetOptions blank;
+  HandsetOptions blank = Running();
   blank.blank = true;
   Connect(blank);
   QV_FIXED_NV_INFO info{};
@@ -67,7 +54,7 @@ TEST_P(Provisioning, WritesWhatABlankHandsetKeeps) {
   info.write_bluetooth_address = info.write_second_address = info.write_parameter_block = 1;
   std::strcpy(info.bluetooth_address, "0011223344aa");
   std::strcpy(info.second_address, "a0b0c0d0e0f0");
-  for (uint8_t at = 0; at < 44; ++at) info.parameter_block[at] = at;
+  for (std::uint8_t at = 0; at < 44; ++at) info.parameter_block[at] = at;
   ASSERT_EQ(QV_FastWriteNvInfo(&info), PC_ERR_SUCCESS);
   ASSERT_EQ(WriteSerialNumber(QV_WriteSN_MT, "FIRST-0001"), PC_ERR_SUCCESS);
   ASSERT_EQ(WriteSerialNumber(QV_WriteSN2_MT, "SECOND-0002"), PC_ERR_SUCCESS);
@@ -83,13 +70,13 @@ TEST_P(Provisioning, WritesWhatABlankHandsetKeeps) {
   EXPECT_STREQ(read.bluetooth_address, "0011223344AA");
   EXPECT_STREQ(read.second_address, "A0B0C0D0E0F0");
   EXPECT_EQ(std::memcmp(read.parameter_block, info.parameter_block, 44), 0);
-  uint8_t block[44];
+  std::uint8_t block[44];
   EXPECT_EQ(QV_GpsReadNv(block), PC_ERR_SUCCESS);
   EXPECT_EQ(std::memcmp(block, info.parameter_block, 44), 0) << "the same block";
-  uint32_t imeis = 0;
+  std::uint32_t imeis = 0;
   EXPECT_EQ(QV_FastReaIMEICount(&imeis), PC_ERR_SUCCESS);
   EXPECT_EQ(imeis, 4u);
-  uint8_t address[6];
+  std::uint8_t address[6];
   EXPECT_EQ(QV_LoadBTAddr(address), PC_ERR_SUCCESS);
   EXPECT_THAT(address, ElementsAre(0x00, 0x11, 0x22, 0x33, 0x44, 0xAA));
   EXPECT_EQ(SerialNumber(QV_ReadSN_MT), "FIRST-0001");
@@ -100,7 +87,7 @@ TEST_P(Provisioning, MovesItemsRegistersAndBlocks) {
   Connect();
   const Bytes data{1, 2, 3, 4, 5, 6, 7, 8};
   Bytes read(8);
-  uint32_t length = 0;
+  std::uint32_t length = 0;
   EXPECT_EQ(QV_WriteFlash(9, data.data(), 8, 0), PC_ERR_SUCCESS);
   EXPECT_EQ(QV_ReadFlash_MT(kPort, 9, read.data(), 8, &length, 1000), PC_ERR_SUCCESS);
   EXPECT_EQ(read, data);
@@ -110,8 +97,8 @@ TEST_P(Provisioning, MovesItemsRegistersAndBlocks) {
   EXPECT_EQ(QV_WriteRegister(1, 0x20000000, data.data(), 4), PC_ERR_SUCCESS);
   EXPECT_EQ(QV_ReadRegister(0, 0x20000000, read.data(), 8), PC_ERR_SUCCESS);
   EXPECT_EQ(read, data);
-  const uint16_t words[10] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 0x12FF};
-  uint16_t answered[10] = {};
+  const std::uint16_t words[10] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 0x12FF};
+  std::uint16_t answered[10] = {};
   EXPECT_EQ(QV_Send7310KCommand(77, words, answered, 0), PC_ERR_SUCCESS);
   EXPECT_EQ(answered[9], 0x1300u);
   QV_FLASH_INFO flash{};
@@ -123,3 +110,4 @@ TEST_P(Provisioning, MovesItemsRegistersAndBlocks) {
 }
 
 }  // namespace
+}  // namespace merovane::test

@@ -1,48 +1,29 @@
 #include "stations/radio/calibrated_station.h"
 
-#include <unistd.h>
+namespace merovane::test {
 
-#include <cstdlib>
-
-namespace radio_test {
-
-CalibratedStation::CalibratedStation()
-    : stateFile(std::filesystem::temp_directory_path() /
-                ("radio-test-" + std::to_string(getpid()) + ".json")) {
+CalibratedStation::CalibratedStation() {
   QV_SetProperty(4, 0, bigEndian);
   Connect();
 }
 
-CalibratedStation::~CalibratedStation() {
-  Disconnect();
-  std::filesystem::remove(stateFile);
-}
-
-handset::ByteOrder CalibratedStation::Order(bool bigEndian) {
+handset::ByteOrder CalibratedStation::Order() const {
   return bigEndian ? handset::ByteOrder::Big : handset::ByteOrder::Little;
 }
 
-void CalibratedStation::Connect(uint64_t seed) {
-  Disconnect();
-  if (seed != seed_) std::filesystem::remove(stateFile);
+void CalibratedStation::Connect(std::uint64_t seed) {
+  SwitchOff();
+  if (seed != seed_) std::filesystem::remove(stateFile_);
   seed_ = seed;
   truth.emplace(seed);
-  handset::HandsetOptions options;
+  HandsetOptions options = Running();
   options.seed = seed;
-  options.startMode = 1;
-  options.stateFile = stateFile.string();
-  options.byteOrder = Order(bigEndian);
+  options.stateFile = stateFile_.string();
+  options.byteOrder = Order();
   // Either way of connecting gets its share.
   if (bigEndian) options.transport = handset::TransportKind::Tcp;
-  phone.emplace(options);
-  phone->Start();
-  setenv(("CASSORIND_COM" + std::to_string(kPort)).c_str(), phone->DevicePath().c_str(), 1);
+  SwitchOn(options);
   ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), PC_ERR_SUCCESS);
-}
-
-void CalibratedStation::Disconnect() {
-  QV_EndPhoneTest();
-  phone.reset();
 }
 
 bool CalibratedStation::Ask(const std::string& command) {
@@ -55,15 +36,15 @@ double CalibratedStation::Measure(const std::string& command, double scale) {
   return static_cast<double>(number) / scale;
 }
 
-size_t CalibratedStation::Heard(uint8_t subtype, uint16_t item) const {
-  size_t count = 0;
+std::size_t CalibratedStation::Heard(std::uint8_t subtype, std::uint16_t item) const {
+  std::size_t count = 0;
   for (const handset::Frame& frame : phone->Received()) {
     if (frame.type == 32 && frame.subtype == subtype &&
-        handset::Read16(frame.payload, 4, Order(bigEndian)) == item) {
+        handset::Read16(frame.payload, 4, Order()) == item) {
       ++count;
     }
   }
   return count;
 }
 
-}  // namespace radio_test
+}  // namespace merovane::test

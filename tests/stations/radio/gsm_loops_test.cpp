@@ -4,12 +4,12 @@
 
 #include "stations/radio/calibrated_station.h"
 
-namespace radio_test {
+namespace merovane::test {
 namespace {
 
 class GsmLoops : public CalibratedStation {
  protected:
-  void Begin(uint64_t seed) {
+  void Begin(std::uint64_t seed) {
     Connect(seed);
     ASSERT_EQ(calibration_begin(kPort), PC_ERR_SUCCESS);
   }
@@ -27,10 +27,10 @@ class GsmLoops : public CalibratedStation {
   }
 };
 
-INSTANTIATE_TEST_SUITE_P(ByteOrders, GsmLoops, testing::Values(true, false));
+INSTANTIATE_TEST_SUITE_P(ByteOrders, GsmLoops, ::testing::Values(true, false));
 
 TEST_P(GsmLoops, CrystalLoopFindsEachHandsetsCentreAndSlope) {
-  for (const uint64_t seed : {1, 2, 77}) {
+  for (const std::uint64_t seed : {1, 2, 77}) {
     SCOPED_TRACE(seed);
     Begin(seed);
     GSM_CALIBRATION found{};
@@ -39,7 +39,7 @@ TEST_P(GsmLoops, CrystalLoopFindsEachHandsetsCentreAndSlope) {
     EXPECT_NEAR(found.hz_per_step, truth->hzPerStep, 0.02);
     // The centre moves with the temperature, which a calibration at another one would mistake.
     ASSERT_TRUE(Ask("AT+SIMTEMP=500"));
-    QV_AFC_PARAMETERS afc{{static_cast<uint16_t>(std::lround(found.centre_dac)), 62, 5, 0}};
+    QV_AFC_PARAMETERS afc{{static_cast<std::uint16_t>(std::lround(found.centre_dac)), 62, 5, 0}};
     ASSERT_EQ(QV_AfcStart_MT(kPort, 1, &afc), PC_ERR_SUCCESS);
     EXPECT_NEAR(FrequencyError(), 25 * truth->hzPerDegree, 5.0);
   }
@@ -50,7 +50,7 @@ TEST_P(GsmLoops, WrongOrderPlaceOrBandDoesNotConverge) {
   GSM_CALIBRATION found{};
   // The DAC in another field of the record leaves the crystal where it is.
   double errors[2];
-  for (const uint16_t dac : {uint16_t{3800}, uint16_t{4400}}) {
+  for (const std::uint16_t dac : {std::uint16_t{3800}, std::uint16_t{4400}}) {
     QV_AFC_PARAMETERS afc{{4096, 62, 5, dac}};
     ASSERT_EQ(QV_AfcStart_MT(kPort, 1, &afc), PC_ERR_SUCCESS);
     errors[dac == 4400] = FrequencyError();
@@ -71,8 +71,8 @@ TEST_P(GsmLoops, ExtendedRunGivesTheWholeSweep) {
   Begin(3);
   ASSERT_EQ(QV_SetPhoneClassmark_MT(kPort, 0), PC_ERR_SUCCESS);
   struct Sweep {
-    uint16_t first, last, step;
-    size_t blocks;
+    std::uint16_t first, last, step;
+    std::size_t blocks;
   };
   for (const Sweep& sweep : {Sweep{3900, 4400, 2, 2}, {3000, 4999, 1, 4}, {589, 7500, 1, 14}}) {
     SCOPED_TRACE(sweep.blocks);
@@ -83,15 +83,15 @@ TEST_P(GsmLoops, ExtendedRunGivesTheWholeSweep) {
     run.values[2] = sweep.step;
     run.values[3] = 62;
     ASSERT_EQ(QV_AfcStartEx(1, &run), PC_ERR_SUCCESS);
-    const size_t steps = (sweep.last - sweep.first) / sweep.step + 1U;
+    const std::size_t steps = (sweep.last - sweep.first) / sweep.step + 1U;
     ASSERT_EQ(run.report_bytes, 4 * steps);
     // The start, the blocks behind the first, the stop.
     EXPECT_EQ(phone->ReceivedCount(10, 1), sweep.blocks + 1);
-    for (size_t step = 0; step < steps; ++step) {
-      const auto dac = static_cast<uint16_t>(sweep.first + step * sweep.step);
+    for (std::size_t step = 0; step < steps; ++step) {
+      const auto dac = static_cast<std::uint16_t>(sweep.first + step * sweep.step);
       ASSERT_EQ(run.report[2 * step], dac);
       const double error = handset::FrequencyErrorHz(*truth, dac, handset::kRoomTemperature);
-      ASSERT_NEAR(static_cast<int16_t>(run.report[2 * step + 1]), error, 4.0) << dac;
+      ASSERT_NEAR(static_cast<std::int16_t>(run.report[2 * step + 1]), error, 4.0) << dac;
     }
   }
 }
@@ -106,9 +106,9 @@ TEST_P(GsmLoops, ReceiverLoopFindsGainAndLossOfEachBand) {
     const double loss = -handset::ReceivedDbm(*band, handset::MiddleOfGroup(*band, 2), 0);
     EXPECT_NEAR(found.gain_at_zero_db, band->gainOffsetDb - loss, 0.2);
     for (int group = 0; group < CHANNEL_GROUPS; ++group) {
-      const auto channel = handset::MiddleOfGroup(*band, static_cast<size_t>(group));
+      const auto channel = handset::MiddleOfGroup(*band, static_cast<std::size_t>(group));
       EXPECT_EQ(channel, group_channel(row, group));
-      EXPECT_NEAR(static_cast<int16_t>(found.compensation[group]),
+      EXPECT_NEAR(static_cast<std::int16_t>(found.compensation[group]),
                   -4 * handset::ReceivedDbm(*band, channel, 0), 2.0);
     }
   }
@@ -117,12 +117,12 @@ TEST_P(GsmLoops, ReceiverLoopFindsGainAndLossOfEachBand) {
 TEST_P(GsmLoops, TransmitterLoopFindsTheStepFactors) {
   Begin(5);
   // One of the lower and one of the higher bands.
-  for (const size_t at : {0U, 2U}) {
+  for (const std::size_t at : {0U, 2U}) {
     const auto [row, band] = Bands()[at];
     SCOPED_TRACE(row->name);
     BAND_CALIBRATION found{};
     ASSERT_EQ(calibrate_transmitter(kPort, row, &found), PC_ERR_SUCCESS);
-    for (size_t i = 0; i < STEP_FACTORS; ++i) {
+    for (std::size_t i = 0; i < STEP_FACTORS; ++i) {
       const double factor =
           handset::TrueFactor(*band, handset::MiddleOfGroup(*band, i / POWER_LEVELS),
                               handset::TargetPowerDbm(*band, i % POWER_LEVELS));
@@ -132,7 +132,7 @@ TEST_P(GsmLoops, TransmitterLoopFindsTheStepFactors) {
     ASSERT_EQ(QV_WriteData_Ram_APC_RF_ramppwr_step_factor_MT(kPort, row->band, found.step_factors),
               PC_ERR_SUCCESS);
     QV_AFC_PARAMETERS afc{
-        {4096, group_channel(row, 4), static_cast<uint16_t>(row->first_level + 7), 0}};
+        {4096, group_channel(row, 4), static_cast<std::uint16_t>(row->first_level + 7), 0}};
     ASSERT_EQ(QV_AfcStart_MT(kPort, 1, &afc), PC_ERR_SUCCESS);
     EXPECT_NEAR(Power(), level_power_dbm(row, 7), 0.15);
     ASSERT_TRUE(Ask("AT+SIMTEMP=650"));
@@ -144,7 +144,7 @@ TEST_P(GsmLoops, TransmitterLoopFindsTheStepFactors) {
 TEST_P(GsmLoops, PowerStatesRampsAndAmplifierAreTaken) {
   Begin(6);
   struct State {
-    int32_t (*set)(int32_t);
+    std::int32_t (*set)(std::int32_t);
     const char* power;
   };
   for (const State& state : {State{QV_EnterMaxTxPowerStatus_MT, "highest transmit"},
@@ -157,11 +157,11 @@ TEST_P(GsmLoops, PowerStatesRampsAndAmplifierAreTaken) {
     ASSERT_TRUE(Ask("AT"));
     EXPECT_EQ(phone->Status("radio.power"), state.power);
   }
-  const uint16_t ramp[16] = {1, 2, 3};
+  const std::uint16_t ramp[16] = {1, 2, 3};
   const QV_POWER_STEP amplifier{0, 1, 2, 3};
   EXPECT_EQ(QV_RampSetting_MT(kPort, 1, ramp, ramp, 3), PC_ERR_SUCCESS);
   EXPECT_EQ(QV_PASetting_MT(kPort, &amplifier), PC_ERR_SUCCESS);
 }
 
 }  // namespace
-}  // namespace radio_test
+}  // namespace merovane::test

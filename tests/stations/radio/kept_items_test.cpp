@@ -7,23 +7,20 @@
 
 #include "stations/radio/calibrated_station.h"
 
-namespace radio_test {
+namespace merovane::test {
 namespace {
 
-constexpr uint32_t kBand = 3;
-constexpr uint16_t kIndex = 2;
-constexpr uint32_t kSaveLimitMs = 20000;
+constexpr std::uint32_t kBand = 3;
+constexpr std::uint16_t kIndex = 2;
+constexpr std::uint32_t kSaveLimitMs = 20000;
 
-class KeptItems : public CalibratedStation {
- public:
-  using CalibratedStation::kPort;
-};
-INSTANTIATE_TEST_SUITE_P(ByteOrders, KeptItems, testing::Values(true, false));
+using KeptItems = CalibratedStation;
+INSTANTIATE_TEST_SUITE_P(ByteOrders, KeptItems, ::testing::Values(true, false));
 
 // --- one shape for all exports: the item's 16-bit elements
 
-using Words = std::vector<uint16_t>;
-using Function = std::function<int32_t(Words&)>;
+using Words = std::vector<std::uint16_t>;
+using Function = std::function<std::int32_t(Words&)>;
 
 // What an export takes for the data: a pointer to it, or a value.
 template <typename Data>
@@ -38,25 +35,26 @@ Data As(Words& words) {
 }
 
 template <typename Data>
-Function Call(int32_t (*call)(int32_t, Data)) {
-  return [call](Words& words) { return call(KeptItems::kPort, As<Data>(words)); };
+Function Call(std::int32_t (*call)(std::int32_t, Data)) {
+  return [call](Words& words) { return call(kPort, As<Data>(words)); };
 }
 template <typename Data>
-Function Call(int32_t (*call)(int32_t, uint32_t, Data)) {
-  return [call](Words& words) { return call(KeptItems::kPort, kBand, As<Data>(words)); };
+Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, Data)) {
+  return [call](Words& words) { return call(kPort, kBand, As<Data>(words)); };
 }
 template <typename Data>
-Function Call(int32_t (*call)(int32_t, uint32_t, uint16_t, Data)) {
-  return [call](Words& words) { return call(KeptItems::kPort, kBand, kIndex, As<Data>(words)); };
+Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, std::uint16_t, Data)) {
+  return [call](Words& words) { return call(kPort, kBand, kIndex, As<Data>(words)); };
 }
 template <typename Data>
-Function Call(int32_t (*call)(int32_t, uint32_t, Data*, uint32_t)) {
+Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, Data*, std::uint32_t)) {
   return [call](Words& words) {
-    return call(KeptItems::kPort, kBand, words.data(), static_cast<uint32_t>(words.size()));
+    return call(kPort, kBand, words.data(), static_cast<std::uint32_t>(words.size()));
   };
 }
-Function CallDefault(int32_t (*call)(uint32_t, uint32_t, uint16_t, uint16_t*), uint32_t read,
-                     uint32_t flash) {
+Function CallDefault(std::int32_t (*call)(std::uint32_t, std::uint32_t, std::uint16_t,
+                                          std::uint16_t*),
+                     std::uint32_t read, std::uint32_t flash) {
   return [=](Words& words) { return call(read, flash, kBand, words.data()); };
 }
 
@@ -64,12 +62,12 @@ enum Storage { kRam, kFlash };
 
 struct Item {
   const char* name;
-  size_t words;
+  std::size_t words;
   Function write[2], read[2];  // by storage
 };
 
-Item Made(const char* name, size_t words, Function writeRam, Function writeFlash, Function readRam,
-          Function readFlash) {
+Item Made(const char* name, std::size_t words, Function writeRam, Function writeFlash,
+          Function readRam, Function readFlash) {
   return {name, words, {writeRam, writeFlash}, {readRam, readFlash}};
 }
 
@@ -113,17 +111,17 @@ const std::vector<Item>& Items() {
 }
 
 // Another one for every item, and bytes that a wrong order would exchange.
-Words Pattern(size_t item, unsigned variant) {
+Words Pattern(std::size_t item, unsigned variant) {
   Words words(Items()[item].words);
-  for (size_t i = 0; i < words.size(); ++i) {
-    words[i] =
-        static_cast<uint16_t>(size_t{0x0100} * (item + 1) + size_t{0x4000} * variant + i + 1);
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    words[i] = static_cast<std::uint16_t>(std::size_t{0x0100} * (item + 1) +
+                                          std::size_t{0x4000} * variant + i + 1);
   }
   return words;
 }
 
 void WriteAll(Storage storage, unsigned variant) {
-  for (size_t item = 0; item < Items().size(); ++item) {
+  for (std::size_t item = 0; item < Items().size(); ++item) {
     const Function& write = Items()[item].write[storage];
     Words words = Pattern(item, variant);
     if (write) {
@@ -133,7 +131,7 @@ void WriteAll(Storage storage, unsigned variant) {
 }
 
 void ExpectAll(Storage storage, unsigned variant, bool inRamToo = false) {
-  for (size_t item = 0; item < Items().size(); ++item) {
+  for (std::size_t item = 0; item < Items().size(); ++item) {
     const auto& [name, count, write, read] = Items()[item];
     if (!read[storage] || (inRamToo && !read[kRam])) continue;
     Words words(count);
@@ -160,8 +158,8 @@ TEST_P(KeptItems, RamAndFlashAreApartUntilRestartOrSave) {
 TEST_P(KeptItems, OtherFormsReachTheSamePlaces) {
   // All ramp constants at once, and a pair of multi-chip ramps, which begins with them.
   Words ramp(16), read(16), second(16);
-  for (size_t i = 0; i < ramp.size(); ++i) ramp[i] = static_cast<uint16_t>(0x0A00 + i);
-  uint16_t value = 0;
+  for (std::size_t i = 0; i < ramp.size(); ++i) ramp[i] = static_cast<std::uint16_t>(0x0A00 + i);
+  std::uint16_t value = 0;
   ASSERT_EQ(QV_SetRampTableAllConstUp_Flash_MT(kPort, kBand, ramp.data()), PC_ERR_SUCCESS);
   EXPECT_EQ(QV_ReadRampTableConstUp_Flash_MT(kPort, kBand, 15, &value), PC_ERR_SUCCESS);
   EXPECT_EQ(value, ramp[15]);
@@ -197,4 +195,4 @@ TEST_P(KeptItems, ImeisOutliveASaveAndAreTheHandsetsOwn) {
 }
 
 }  // namespace
-}  // namespace radio_test
+}  // namespace merovane::test

@@ -3,13 +3,13 @@
 
 #include "stations/radio/calibrated_station.h"
 
-namespace radio_test {
+namespace merovane::test {
 namespace {
 
-constexpr uint16_t kRssiItem = 25;
-constexpr uint16_t kChannel = 62;
-constexpr int32_t kInvalidRssi = 32;
-constexpr int32_t kNonSignalFailed = 33;
+constexpr std::uint16_t kRssiItem = 25;
+constexpr std::uint16_t kChannel = 62;
+constexpr std::int32_t kInvalidRssi = 32;
+constexpr std::int32_t kNonSignalFailed = 33;
 
 class MultiChipLoops : public CalibratedStation {
  protected:
@@ -20,7 +20,7 @@ class MultiChipLoops : public CalibratedStation {
   const Band& Gsm900() const { return *truth->Band(0); }
 };
 
-INSTANTIATE_TEST_SUITE_P(ByteOrders, MultiChipLoops, testing::Values(true, false));
+INSTANTIATE_TEST_SUITE_P(ByteOrders, MultiChipLoops, ::testing::Values(true, false));
 
 TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
   QV_AGC_PARAMETERS agc{0, {kChannel, 160, 260, 0}, 0};
@@ -29,7 +29,7 @@ TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
   EXPECT_EQ(Heard(1, kRssiItem), 6U);
 
   ASSERT_TRUE(Ask("AT+SIMGEN=-7000"));
-  for (const uint16_t gainWord : {uint16_t{80}, uint16_t{320}}) {
+  for (const std::uint16_t gainWord : {std::uint16_t{80}, std::uint16_t{320}}) {
     phone->ClearJournal();
     agc.words[1] = gainWord;
     ASSERT_EQ(QV_AgcStart_MChip_MT(kPort, 1, &agc, &measured), PC_ERR_SUCCESS);
@@ -45,7 +45,7 @@ TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
 
 TEST_P(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
   struct Trim {
-    uint32_t mode;
+    std::uint32_t mode;
     QV_AFC_PARAMETERS afc;
     double steps;
   };
@@ -65,17 +65,17 @@ TEST_P(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
 
 TEST_P(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
   struct Place {
-    uint32_t band;
-    uint32_t group;
-    uint16_t level;
-    uint16_t factor;
+    std::uint32_t band;
+    std::uint32_t group;
+    std::uint16_t level;
+    std::uint16_t factor;
   };
   // The first levels, with their bases, and the last ones.
   for (const Place& place :
        {Place{0, 0, 5, 2000}, {0, 4, 20, 300}, {1, 2, 0, 1500}, {4, 3, 9, 777}}) {
     SCOPED_TRACE(place.factor);
     const Band& band = *truth->Band(place.band);
-    const uint16_t channel = handset::MiddleOfGroup(band, place.group);
+    const std::uint16_t channel = handset::MiddleOfGroup(band, place.group);
     const QV_POWER_STEP step{place.band, place.level, place.factor, place.group};
     ASSERT_EQ(QV_SetPhoneClassmark_MChip_MT(kPort, place.band), PC_ERR_SUCCESS);
     ASSERT_EQ(QV_TxOn_MChip_MT(kPort, 1, channel, place.level), PC_ERR_SUCCESS);
@@ -90,7 +90,7 @@ TEST_P(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
 }
 
 TEST_P(MultiChipLoops, DirectCurrentAndNonSignallingMeasure) {
-  uint16_t first = 0, second = 0;
+  std::uint16_t first = 0, second = 0;
   ASSERT_EQ(QV_CalDirectCurr_MT(kPort, &first, &second), PC_ERR_SUCCESS);
   EXPECT_NEAR(first, truth->directCurrent[0], 6);
   EXPECT_NEAR(second, truth->directCurrent[1], 6);
@@ -111,4 +111,4 @@ TEST_P(MultiChipLoops, DirectCurrentAndNonSignallingMeasure) {
 }
 
 }  // namespace
-}  // namespace radio_test
+}  // namespace merovane::test

@@ -3,14 +3,14 @@
 
 #include "stations/radio/calibrated_station.h"
 
-namespace radio_test {
+namespace merovane::test {
 namespace {
 
-constexpr int32_t kTooFewValues = 13;
-constexpr int32_t kRefused = 39;
+constexpr std::int32_t kTooFewValues = 13;
+constexpr std::int32_t kRefused = 39;
 
 using TdRadio = CalibratedStation;
-INSTANTIATE_TEST_SUITE_P(ByteOrders, TdRadio, testing::Values(true, false));
+INSTANTIATE_TEST_SUITE_P(ByteOrders, TdRadio, ::testing::Values(true, false));
 
 TEST_P(TdRadio, MessagesAreTakenInTdModeOnly) {
   const QV_TD_TX_SWEEP sweep{1, 2, 3, 8, {{4, 5}}};
@@ -18,7 +18,7 @@ TEST_P(TdRadio, MessagesAreTakenInTdModeOnly) {
   const QV_TD_POWER_SWEEP powerSweep{1, 2, 3, 4, {5}};
   const QV_POWER_STEP step{0, 5, 1024, 2};
   struct Mode {
-    int32_t mode, td, gsm;
+    std::int32_t mode, td, gsm;
   };
   ASSERT_EQ(QV_Active_MT(kPort, 1), PC_ERR_SUCCESS);
   for (const Mode& mode : {Mode{7, PC_ERR_SUCCESS, kRefused}, {1, kRefused, PC_ERR_SUCCESS}}) {
@@ -36,9 +36,10 @@ TEST_P(TdRadio, MessagesAreTakenInTdModeOnly) {
 
 TEST_P(TdRadio, ParametersAreKeptBySelector) {
   for (const auto& [selector, count] :
-       {std::pair{3U, uint16_t{3073}}, {0x12345678U, uint16_t{2}}}) {
+       {std::pair{3U, std::uint16_t{3073}}, {0x12345678U, std::uint16_t{2}}}) {
     QV_TD_PARAMETERS written{selector, count, {}};
-    for (uint16_t i = 0; i < count; ++i) written.values[i] = static_cast<uint16_t>(0x1200 + i);
+    for (std::uint16_t i = 0; i < count; ++i)
+      written.values[i] = static_cast<std::uint16_t>(0x1200 + i);
     ASSERT_EQ(QV_WriteTDCalParam_MT(kPort, &written), PC_ERR_SUCCESS);
     Restart();
     QV_TD_PARAMETERS read{selector, count, {}};
@@ -51,4 +52,4 @@ TEST_P(TdRadio, ParametersAreKeptBySelector) {
 }
 
 }  // namespace
-}  // namespace radio_test
+}  // namespace merovane::test

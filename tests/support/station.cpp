@@ -1,4 +1,4 @@
-#include "library/station.h"
+#include "support/station.h"
 
 #include <poll.h>
 #include <stdlib.h>
@@ -7,14 +7,19 @@
 
 #include "brimwell/brimwell.h"
 
-namespace api_test {
+namespace merovane::test {
 
-PortOf::PortOf(const Handset& handset, int32_t port)
+PortOf::PortOf(const Handset& handset, std::int32_t port)
     : variable_("CASSORIND_COM" + std::to_string(port)) {
   ::setenv(variable_.c_str(), handset.DevicePath().c_str(), 1);
 }
 
 PortOf::~PortOf() { ::unsetenv(variable_.c_str()); }
+
+RunningHandset::RunningHandset(std::uint8_t mode, std::int32_t port) : phone(RunningIn(mode)) {
+  phone.Start();
+  device.emplace(phone, port);
+}
 
 Event::Event() : descriptor_(::eventfd(0, EFD_CLOEXEC)) {}
 
@@ -45,4 +50,18 @@ StationTest::~StationTest() {
   QV_SetCampParam(0);
 }
 
-}  // namespace api_test
+void StationTest::SwitchOn(const HandsetOptions& options) {
+  SwitchOff();
+  phone.emplace(options);
+  phone->Start();
+  device_.emplace(*phone, kPort);
+}
+
+void StationTest::SwitchOff() {
+  if (!phone) return;
+  QV_EndPhoneTest();
+  device_.reset();
+  phone.reset();
+}
+
+}  // namespace merovane::test

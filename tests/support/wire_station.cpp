@@ -1,4 +1,4 @@
-#include "simulator/station.h"
+#include "support/wire_station.h"
 
 #include <arpa/inet.h>
 #include <fcntl.h>
@@ -11,8 +11,11 @@
 #include <cerrno>
 #include <stdexcept>
 
-namespace station {
+namespace merovane::test {
 namespace {
+
+using handset::Bytes;
+using handset::Frame;
 
 using Clock = std::chrono::steady_clock;
 
@@ -29,7 +32,8 @@ int Connect(const std::string& address) {
   sockaddr_in handset{};
   handset.sin_family = AF_INET;
   handset.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  handset.sin_port = htons(static_cast<uint16_t>(std::stoi(address.substr(address.find(':') + 1))));
+  handset.sin_port =
+      htons(static_cast<std::uint16_t>(std::stoi(address.substr(address.find(':') + 1))));
   int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   if (connect(fd, reinterpret_cast<sockaddr*>(&handset), sizeof handset) == 0) return fd;
   close(fd);
@@ -42,30 +46,31 @@ std::chrono::milliseconds Remaining(Clock::time_point deadline) {
 
 }  // namespace
 
-Station::Station(const std::string& address, bool bigEndian)
+WireStation::WireStation(const std::string& address, bool bigEndian)
     : fd_(address.front() == '/' ? OpenDevice(address) : Connect(address)),
       order_(bigEndian ? handset::ByteOrder::Big : handset::ByteOrder::Little),
       decoder_(
           order_, [this](Frame frame) { frames_.push_back(std::move(frame)); },
           [](std::string_view, const Bytes&) {}) {}
 
-Station::~Station() { close(fd_); }
+WireStation::~WireStation() { close(fd_); }
 
-void Station::WriteRaw(const Bytes& bytes) const {
-  size_t done = 0;
+void WireStation::WriteRaw(const Bytes& bytes) const {
+  std::size_t done = 0;
   while (done < bytes.size()) {
     ssize_t count = write(fd_, bytes.data() + done, bytes.size() - done);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return;  // The line was cut: the reading side notices.
-    done += static_cast<size_t>(count);
+    done += static_cast<std::size_t>(count);
   }
 }
 
-void Station::Send(uint8_t type, uint8_t subtype, const Bytes& payload, uint32_t sequence) {
+void WireStation::Send(std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
+                       std::uint32_t sequence) {
   WriteRaw(handset::EncodeFrame({type, subtype, payload, sequence}, order_));
 }
 
-std::optional<Frame> Station::Receive(std::chrono::milliseconds timeout) {
+std::optional<Frame> WireStation::Receive(std::chrono::milliseconds timeout) {
   auto deadline = Clock::now() + timeout;
   while (frames_.empty()) {
     Bytes more = ReadRaw(Remaining(deadline));
@@ -77,19 +82,20 @@ std::optional<Frame> Station::Receive(std::chrono::milliseconds timeout) {
   return frame;
 }
 
-std::optional<Frame> Station::ReceiveType(uint8_t type) {
+std::optional<Frame> WireStation::ReceiveType(std::uint8_t type) {
   auto deadline = Clock::now() + kPatience;
   auto frame = Receive();
   while (frame && frame->type != type) frame = Receive(Remaining(deadline));
   return frame;
 }
 
-std::optional<Frame> Station::Ask(uint8_t type, uint8_t subtype, const Bytes& payload) {
+std::optional<Frame> WireStation::Ask(std::uint8_t type, std::uint8_t subtype,
+                                      const Bytes& payload) {
   Send(type, subtype, payload);
   return Receive();
 }
 
-Bytes Station::ReadRaw(std::chrono::milliseconds timeout) const {
+Bytes WireStation::ReadRaw(std::chrono::milliseconds timeout) const {
   auto deadline = Clock::now() + timeout;
   Bytes bytes(4096);
   ssize_t count = -1;
@@ -99,15 +105,15 @@ Bytes Station::ReadRaw(std::chrono::milliseconds timeout) const {
     if (ready == 0) return {};
     if (ready > 0) count = read(fd_, bytes.data(), bytes.size());
   } while (count < 0 && errno == EINTR);
-  bytes.resize(static_cast<size_t>(std::max<ssize_t>(count, 0)));
+  bytes.resize(static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
   return bytes;
 }
 
-bool Station::WaitForHangup() const {
+bool WireStation::WaitForHangup() const {
   auto deadline = Clock::now() + kPatience;
   while (!ReadRaw(Remaining(deadline)).empty()) {
   }
   return Clock::now() < deadline;
 }
 
-}  // namespace station
+}  // namespace merovane::test

@@ -1,4 +1,4 @@
-// A station's test: a simulated handset on a port, driven through the exported functions.
+// A station: simulated handsets on ports, driven through the exported functions.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -9,23 +9,17 @@
 #include <optional>
 #include <string>
 
-#include "handset/handset.h"
 #include "merovane/merovane.h"
+#include "support/simulated_handset.h"
 
-namespace api_test {
+namespace merovane::test {
 
-using namespace std::chrono_literals;
-using handset::Handset;
-using handset::HandsetOptions;
-using handset::Reply;
-
-inline constexpr int32_t kPort = 7;
-inline constexpr auto kPatience = 20s;
+inline constexpr std::int32_t kPort = 7;
 
 // Names the handset's device for a port while it lives.
 class PortOf {
  public:
-  PortOf(const Handset& handset, int32_t port);
+  PortOf(const Handset& handset, std::int32_t port);
   PortOf(const PortOf&) = delete;
   PortOf& operator=(const PortOf&) = delete;
   ~PortOf();
@@ -34,17 +28,9 @@ class PortOf {
   std::string variable_;
 };
 
-// A handset that runs in a mode, and its port.
+// A handset that is up, and its port.
 struct RunningHandset {
-  RunningHandset(uint8_t mode, int32_t port) : phone(Options(mode)) {
-    phone.Start();
-    device.emplace(phone, port);
-  }
-  static HandsetOptions Options(uint8_t mode) {
-    HandsetOptions options;
-    options.startMode = mode;
-    return options;
-  }
+  RunningHandset(std::uint8_t mode, std::int32_t port);
 
   Handset phone;
   std::optional<PortOf> device;
@@ -67,8 +53,8 @@ class Event {
 
 // What the error-code library was told last.
 struct Reported {
-  uint32_t operation;
-  int32_t code;
+  std::uint32_t operation;
+  std::int32_t code;
   friend bool operator==(const Reported&, const Reported&) = default;
 };
 Reported LastReported();
@@ -77,6 +63,15 @@ Reported LastReported();
 class StationTest : public ::testing::Test {
  protected:
   ~StationTest() override;
+
+  // Puts a handset on kPort; one that was there goes first.
+  void SwitchOn(const HandsetOptions& options);
+  void SwitchOff();
+
+  std::optional<Handset> phone;
+
+ private:
+  std::optional<PortOf> device_;
 };
 
-}  // namespace api_test
+}  // namespace merovane::test
