@@ -1,5 +1,6 @@
 #include "link/byte_order.h"
 
+#include <algorithm>
 #include <atomic>
 #include <bit>
 #include <cstring>
@@ -12,59 +13,55 @@ static_assert(std::endian::native == std::endian::little, "stations are little-e
 std::atomic<bool> bigEndianHandset{true};
 
 template <typename T>
-void Store(std::span<std::uint8_t> payload, std::size_t offset, T value) {
-  std::memcpy(payload.subspan(offset, sizeof(T)).data(), &value, sizeof(T));
+void Store(std::span<std::uint8_t> data, std::size_t offset, T value) {
+  std::memcpy(data.subspan(offset, sizeof(T)).data(), &value, sizeof(T));
 }
 
 template <typename T>
-T Load(std::span<const std::uint8_t> payload, std::size_t offset) {
-  T value;
-  std::memcpy(&value, payload.subspan(offset, sizeof(T)).data(), sizeof(T));
+T Load(std::span<const std::uint8_t> data, std::size_t offset) {
+  T value = 0;
+  if (offset < data.size()) {
+    std::memcpy(&value, data.data() + offset, std::min(sizeof(T), data.size() - offset));
+  }
   return value;
 }
 
-std::uint32_t Reverse32(std::uint32_t value) { return __builtin_bswap32(value); }
-
 }  // namespace
 
-void SetBigEndian(bool bigEndian) { bigEndianHandset.store(bigEndian, std::memory_order_relaxed); }
-
-bool BigEndian() { return bigEndianHandset.load(std::memory_order_relaxed); }
-
-std::uint16_t Swap16(std::uint16_t value) {
-  return BigEndian() ? static_cast<std::uint16_t>(value << 8 | value >> 8) : value;
+void ByteOrder::PutU16(std::span<std::uint8_t> data, std::size_t offset,
+                       std::uint16_t value) const {
+  Store(data, offset, Swap16(value));
 }
 
-std::uint32_t Swap32(std::uint32_t value) { return BigEndian() ? Reverse32(value) : value; }
-
-void PutU16(std::span<std::uint8_t> payload, std::size_t offset, std::uint16_t value) {
-  Store(payload, offset, Swap16(value));
+void ByteOrder::PutU32(std::span<std::uint8_t> data, std::size_t offset,
+                       std::uint32_t value) const {
+  Store(data, offset, Swap32(value));
 }
 
-void PutU32(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
-  Store(payload, offset, Swap32(value));
+std::uint16_t ByteOrder::GetU16(std::span<const std::uint8_t> data, std::size_t offset) const {
+  return Swap16(Load<std::uint16_t>(data, offset));
 }
 
-std::uint16_t GetU16(std::span<const std::uint8_t> payload, std::size_t offset) {
-  return Swap16(Load<std::uint16_t>(payload, offset));
+std::uint32_t ByteOrder::GetU32(std::span<const std::uint8_t> data, std::size_t offset) const {
+  return Swap32(Load<std::uint32_t>(data, offset));
 }
 
-std::uint32_t GetU32(std::span<const std::uint8_t> payload, std::size_t offset) {
-  return Swap32(Load<std::uint32_t>(payload, offset));
-}
-
-void PutU32BigEndian(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
-  Store(payload, offset, Reverse32(value));
-}
-
-void SwapArray16(std::span<std::uint8_t> data) {
+void ByteOrder::SwapArray16(std::span<std::uint8_t> data) const {
   for (std::size_t at = 0; at + 2 <= data.size(); at += 2)
     PutU16(data, at, Load<std::uint16_t>(data, at));
 }
 
-void SwapArray32(std::span<std::uint8_t> data) {
+void ByteOrder::SwapArray32(std::span<std::uint8_t> data) const {
   for (std::size_t at = 0; at + 4 <= data.size(); at += 4)
     PutU32(data, at, Load<std::uint32_t>(data, at));
 }
+
+void PutU32BigEndian(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
+  ByteOrder::Big().PutU32(payload, offset, value);
+}
+
+void SetBigEndian(bool bigEndian) { bigEndianHandset.store(bigEndian, std::memory_order_relaxed); }
+
+bool BigEndian() { return bigEndianHandset.load(std::memory_order_relaxed); }
 
 }  // namespace merovane

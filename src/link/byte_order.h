@@ -1,5 +1,4 @@
-// The handset's byte order: one switch for the process, applied to frame
-// lengths and to the 16- and 32-bit fields of payloads.
+// The handset's byte order, in which 16- and 32-bit fields of frames and payloads travel.
 #pragma once
 
 #include <cstddef>
@@ -8,24 +7,59 @@
 
 namespace merovane {
 
-void SetBigEndian(bool bigEndian);
-bool BigEndian();
+class ByteOrder {
+ public:
+  static constexpr ByteOrder Big() { return ByteOrder(true); }
+  static constexpr ByteOrder Little() { return ByteOrder(false); }
+  constexpr bool IsBig() const { return big_; }
+  friend constexpr bool operator==(ByteOrder, ByteOrder) = default;
 
-// The value with its bytes reversed when the handset is big-endian, else the value.
-std::uint16_t Swap16(std::uint16_t value);
-std::uint32_t Swap32(std::uint32_t value);
+  // The value as the handset holds it: with its bytes reversed when the order is big-endian.
+  constexpr std::uint16_t Swap16(std::uint16_t value) const {
+    return big_ ? __builtin_bswap16(value) : value;
+  }
+  constexpr std::uint32_t Swap32(std::uint32_t value) const {
+    return big_ ? __builtin_bswap32(value) : value;
+  }
 
-// Fields of a payload in the handset's byte order. The offset must lie inside.
-void PutU16(std::span<std::uint8_t> payload, std::size_t offset, std::uint16_t value);
-void PutU32(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value);
-std::uint16_t GetU16(std::span<const std::uint8_t> payload, std::size_t offset);
-std::uint32_t GetU32(std::span<const std::uint8_t> payload, std::size_t offset);
+  // The field must lie inside.
+  void PutU16(std::span<std::uint8_t> data, std::size_t offset, std::uint16_t value) const;
+  void PutU32(std::span<std::uint8_t> data, std::size_t offset, std::uint32_t value) const;
+  // Bytes beyond the end read as zero.
+  std::uint16_t GetU16(std::span<const std::uint8_t> data, std::size_t offset) const;
+  std::uint32_t GetU32(std::span<const std::uint8_t> data, std::size_t offset) const;
 
-// Fields that are most significant byte first whatever the switch says.
+  // Converts an array of fields in place; an odd rest is left as it is.
+  void SwapArray16(std::span<std::uint8_t> data) const;
+  void SwapArray32(std::span<std::uint8_t> data) const;
+
+ private:
+  constexpr explicit ByteOrder(bool big) : big_(big) {}
+  bool big_;
+};
+
+// A field that is most significant byte first whatever the handset's order.
 void PutU32BigEndian(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value);
 
-// Converts an array of fields in place; an odd rest is left as it is.
-void SwapArray16(std::span<std::uint8_t> data);
-void SwapArray32(std::span<std::uint8_t> data);
+// For callers that do not hold the order yet: one switch for the process.
+void SetBigEndian(bool bigEndian);
+bool BigEndian();
+inline ByteOrder CurrentByteOrder() { return BigEndian() ? ByteOrder::Big() : ByteOrder::Little(); }
+inline std::uint16_t Swap16(std::uint16_t value) { return CurrentByteOrder().Swap16(value); }
+inline std::uint32_t Swap32(std::uint32_t value) { return CurrentByteOrder().Swap32(value); }
+inline void PutU16(std::span<std::uint8_t> payload, std::size_t offset, std::uint16_t value) {
+  CurrentByteOrder().PutU16(payload, offset, value);
+}
+inline void PutU32(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
+  CurrentByteOrder().PutU32(payload, offset, value);
+}
+inline std::uint16_t GetU16(std::span<const std::uint8_t> payload, std::size_t offset) {
+  return CurrentByteOrder().GetU16(payload, offset);
+}
+inline std::uint32_t GetU32(std::span<const std::uint8_t> payload, std::size_t offset) {
+  return CurrentByteOrder().GetU32(payload, offset);
+}
+inline void SwapArray16(std::span<std::uint8_t> data) { CurrentByteOrder().SwapArray16(data); }
+inline void SwapArray32(std::span<std::uint8_t> data) { CurrentByteOrder().SwapArray32(data); }
 
 }  // namespace merovane

@@ -21,6 +21,29 @@ std::size_t CopyCut(std::span<const std::uint8_t> from, std::span<std::uint8_t> 
   return count;
 }
 
+// What a handset sends while it boots: a whole frame without payload.
+std::array<std::uint8_t, kMinFrameBytes> StartFrame() {
+  std::array<std::uint8_t, kMinFrameBytes> frame{};
+  frame.front() = frame.back() = kFlag;
+  BuildHeader({0xFE, 1}, 0, {}, std::span(frame).subspan(1, kHeaderBytes));
+  return frame;
+}
+
+// Looks for the start frame in the held bytes and says how many of them to remove. A start frame
+// that may be arriving in pieces stays.
+std::size_t SearchStartFrame(std::span<const std::uint8_t> held,
+                             std::span<const std::uint8_t> pattern, bool& found) {
+  std::size_t lastFlag = 0;
+  for (std::size_t at = 0; at < held.size(); ++at) {
+    if (held[at] != kFlag) continue;
+    lastFlag = at;
+    if (held.size() - at < pattern.size()) break;
+    found = std::ranges::equal(pattern, held.subspan(at, pattern.size()));
+    if (found) return held.size();
+  }
+  return held.size() >= lastFlag + pattern.size() ? held.size() : lastFlag;
+}
+
 }  // namespace
 
 PhoneLink::PhoneLink(LinkSettings& settings, platform::Clock& clock, ChannelLibrary library)
@@ -84,52 +107,62 @@ Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
   return result;
 }
 
-Result PhoneLink::SendAndWait(FrameId request, FrameId awaited,
-                              std::span<const std::uint8_t> payload, std::span<std::uint8_t> answer,
-                              std::uint32_t* answerLength, std::uint32_t timeoutMs) {
-  if (answer.empty() || !answerLength) return Result::InvalidParam;
-  const Result sent = SendFrame(request, payload);
-  if (!Succeeded(sent)) return sent;
-  // A settings file may take time away as well.
-  const auto incrementMs = static_cast<std::int32_t>(settings_.receiveIncrementMs.load());
-  const std::int64_t limitMs = std::int64_t{timeoutMs} + incrementMs;
-  return WaitForAnswer(
-      awaited, answer, answerLength,
-      static_cast<std::uint32_t>(std::clamp<std::int64_t>(limitMs, 0, UINT32_MAX)));
+Result PhoneLink::WriteRaw(std::span<const std::uint8_t> data) { return channel_.Write(data); }
+
+Answer PhoneLink::SendAndWait(FrameId request, FrameId awaited,
+                              std::span<const std::uint8_t> payload, std::uint32_t timeoutMs) {
+  return Answer(Order(), [&](Answer& answer) {
+    const Result sent = SendFrame(request, payload);
+    return Succeeded(sent) ? Receive(answer, awaited, WithIncrement(timeoutMs)) : sent;
+  });
 }
 
-Result PhoneLink::SendAndWaitSame(FrameId id, std::span<const std::uint8_t> payload,
+Answer PhoneLink::SendAndWaitSame(FrameId id, std::span<const std::uint8_t> payload,
                                   std::uint32_t timeoutMs) {
-  AnswerBuffer answer;
-  std::uint32_t length = 0;
-  return SendAndWait(id, id, payload, answer, &length, timeoutMs);
+  return SendAndWait(id, id, payload, timeoutMs);
 }
 
-Result PhoneLink::WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer,
-                                std::uint32_t* answerLength, std::uint32_t timeoutMs) {
+Answer PhoneLink::WaitForAnswer(FrameId awaited, std::uint32_t timeoutMs) {
+  return Answer(Order(), [&](Answer& answer) { return Receive(answer, awaited, timeoutMs); });
+}
+
+Answer PhoneLink::WaitForIncrement(FrameId awaited) {
+  return WaitForAnswer(awaited, WithIncrement(0));
+}
+
+Frame PhoneLink::ReceiveFrame(std::uint32_t timeoutMs) {
+  return Frame(Order(), [&](Frame& frame) { return Receive(frame, timeoutMs); });
+}
+
+Frame PhoneLink::ReceiveTyped(std::uint32_t timeoutMs) {
+  return Frame(Order(), [&](Frame& frame) {
+    const Result result = Receive(frame, timeoutMs);
+    return Succeeded(result) && frame.bytes_ < kHeaderBytes ? Result::NoAnswer : result;
+  });
+}
+
+// A settings file may take time away as well.
+std::uint32_t PhoneLink::WithIncrement(std::uint32_t timeoutMs) const {
+  const auto incrementMs = static_cast<std::int32_t>(settings_.receiveIncrementMs.load());
+  return static_cast<std::uint32_t>(
+      std::clamp<std::int64_t>(std::int64_t{timeoutMs} + incrementMs, 0, UINT32_MAX));
+}
+
+Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs) {
   const platform::Deadline deadline(clock_, timeoutMs);
-  AnswerBuffer frame;
   while (!deadline.Passed() && !channel_.Cancelled()) {
-    FrameId id{};
-    std::uint32_t length = 0;
-    const Result result = ReceiveTyped(id, frame, length, deadline.RemainingMs());
-    if (!Succeeded(result)) continue;
-    const auto received = std::span<const std::uint8_t>(frame).first(length);
-    if (id == awaited) {
-      const auto payload = received.subspan(kHeaderBytes);
-      CopyCut(payload, answer);
-      *answerLength = static_cast<std::uint32_t>(payload.size());
-      LogReceived(received);
+    if (!Succeeded(Receive(frame, deadline.RemainingMs())) || frame.bytes_ < kHeaderBytes) continue;
+    if (frame.Id() == awaited) {
+      LogReceived(frame.Bytes());
       return Result::Success;
     }
-    if (id == FrameId{awaited.type, kRefusalSubtype}) return Result::Refused;
+    if (frame.Id() == FrameId{awaited.type, kRefusalSubtype}) return Result::Refused;
   }
   return Result::NoAnswer;
 }
 
-Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
-                               std::uint32_t timeoutMs) {
-  length = 0;
+Result PhoneLink::Receive(Frame& received, std::uint32_t timeoutMs) {
+  received.bytes_ = 0;
   platform::Deadline deadline(clock_, timeoutMs);
   bool extended = false;
   bool readFirst = ring_.Count() < kMinFrameBytes;
@@ -156,14 +189,58 @@ Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& le
     }
   }
   if (frameBytes == 0) return Result::NoFrame;
+  received.bytes_ =
+      DecodeFrame(std::span<const std::uint8_t>(frame).first(frameBytes), received.storage_);
+  return received.bytes_ == 0 ? Result::DecodeFailed : Result::Success;
+}
 
-  AnswerBuffer decoded;
-  const std::size_t decodedBytes =
-      DecodeFrame(std::span<const std::uint8_t>(frame).first(frameBytes), decoded);
-  if (decodedBytes == 0 || decodedBytes > frameBytes) return Result::DecodeFailed;
-  length = static_cast<std::uint32_t>(
-      CopyCut(std::span<const std::uint8_t>(decoded).first(decodedBytes), output));
-  return decodedBytes > output.size() ? Result::BufferTooSmall : Result::Success;
+Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header,
+                                    std::uint32_t timeoutMs) {
+  const auto pattern = StartFrame();
+  const platform::Deadline deadline(clock_, timeoutMs);
+  AnswerBuffer chunk;
+  while (!deadline.Passed() && !channel_.Cancelled()) {
+    std::size_t got = 0;
+    if (!Succeeded(channel_.Read(chunk, deadline.RemainingMs(), got))) continue;
+    ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
+    bool found = false;
+    ring_.Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {
+      return SearchStartFrame(held, pattern, found);
+    });
+    if (!found) continue;
+    std::ranges::copy(std::span(pattern).subspan<1, kHeaderBytes>(), header.begin());
+    LogReceived(header);
+    ring_.Clear();
+    return Result::Success;
+  }
+  return Result::NoUsefulData;
+}
+
+Result PhoneLink::SendAndWait(FrameId request, FrameId awaited,
+                              std::span<const std::uint8_t> payload, std::span<std::uint8_t> answer,
+                              std::uint32_t* answerLength, std::uint32_t timeoutMs) {
+  if (answer.empty() || !answerLength) return Result::InvalidParam;
+  const Answer received = SendAndWait(request, awaited, payload, timeoutMs);
+  if (!received) return received.Why();
+  CopyCut(received.Payload(), answer);
+  *answerLength = static_cast<std::uint32_t>(received.Payload().size());
+  return Result::Success;
+}
+
+Result PhoneLink::WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer,
+                                std::uint32_t* answerLength, std::uint32_t timeoutMs) {
+  const Answer received = WaitForAnswer(awaited, timeoutMs);
+  if (!received) return received.Why();
+  CopyCut(received.Payload(), answer);
+  *answerLength = static_cast<std::uint32_t>(received.Payload().size());
+  return Result::Success;
+}
+
+Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
+                               std::uint32_t timeoutMs) {
+  const Frame frame = ReceiveFrame(timeoutMs);
+  length = static_cast<std::uint32_t>(CopyCut(frame.Bytes(), output));
+  return frame.Bytes().size() > output.size() ? Result::BufferTooSmall : frame.Why();
 }
 
 Result PhoneLink::ReceiveTyped(FrameId& id, std::span<std::uint8_t> output, std::uint32_t& length,

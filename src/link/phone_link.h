@@ -7,8 +7,10 @@
 #include <span>
 #include <string_view>
 
+#include "link/byte_order.h"
 #include "link/byte_ring.h"
 #include "link/channel_port.h"
+#include "link/frame.h"
 #include "link/frame_codec.h"
 #include "link/frame_search.h"
 #include "link/port_log.h"
@@ -33,29 +35,29 @@ class PhoneLink {
   // Frames the payload and writes it. What arrived before is dropped first, so that an answer is
   // looked for only in bytes that came after its request.
   Result SendFrame(FrameId id, std::span<const std::uint8_t> payload = {});
+  // Bytes as they are.
+  Result WriteRaw(std::span<const std::uint8_t> data);
 
   // Sends, then waits for a frame of the awaited type and subtype, timeoutMs plus the configured
-  // increment. The payload is cut to the buffer without error; answerLength is always
-  // the whole payload's. 4, and nothing sent, for an empty buffer or a null length; 39 as soon as a
-  // frame of the awaited type with subtype 2 comes (unless that is the awaited one); 11 when the
-  // time is up.
-  Result SendAndWait(FrameId request, FrameId awaited, std::span<const std::uint8_t> payload,
-                     std::span<std::uint8_t> answer, std::uint32_t* answerLength,
+  // increment. Without an answer: what sending gave; 39 as soon as a frame of the awaited type with
+  // subtype 2 comes (unless that is the awaited one); 11 when the time is up.
+  Answer SendAndWait(FrameId request, FrameId awaited, std::span<const std::uint8_t> payload,
                      std::uint32_t timeoutMs);
-  // The answer has the request's type and subtype, and only its arrival matters.
-  Result SendAndWaitSame(FrameId id, std::span<const std::uint8_t> payload,
+  // The answer has the request's type and subtype.
+  Answer SendAndWaitSame(FrameId id, std::span<const std::uint8_t> payload,
                          std::uint32_t timeoutMs);
   // The wait alone, without the increment.
-  Result WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer, std::uint32_t* answerLength,
-                       std::uint32_t timeoutMs);
+  Answer WaitForAnswer(FrameId awaited, std::uint32_t timeoutMs);
+  // The wait alone, for as long as the increment; a negative one counts as 0.
+  Answer WaitForIncrement(FrameId awaited);
 
-  // The next whole frame, decoded, header included. 5 when it was cut to the output; 8 when it does
-  // not decode; 9 when the time ran out with something arriving; else the channel's code.
-  Result ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
-                      std::uint32_t timeoutMs);
-  // The same, and its type and subtype; 11 for a frame shorter than a header.
-  Result ReceiveTyped(FrameId& id, std::span<std::uint8_t> output, std::uint32_t& length,
-                      std::uint32_t timeoutMs);
+  // The next whole frame. 9 when the time ran out with something arriving; else the channel's code.
+  Frame ReceiveFrame(std::uint32_t timeoutMs);
+  // The same; 11 for a frame shorter than a header.
+  Frame ReceiveTyped(std::uint32_t timeoutMs);
+  // The header of the frame that a handset sends while it boots; 31 when none came. It is looked
+  // for in the bytes as they arrive, so that one in the other byte order is none.
+  Result ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header, std::uint32_t timeoutMs);
 
   // Collects, until the time is up, every frame of the type and subtype, whole and header included,
   // into `buffers` of `bufferBytes` each, with `lengths`. Both arrays hold maxCount + 1 entries. 4
@@ -68,9 +70,28 @@ class PhoneLink {
   // Goes into the sequence field of the next frame only.
   void SetNextSequence(std::uint32_t value) { nextSequence_ = value; }
 
+  // The handset's, for fields of payloads.
+  ByteOrder Order() const { return CurrentByteOrder(); }
+  void Sleep(std::uint32_t ms) { clock_.SleepMs(ms); }
+  platform::Deadline StartDeadline(std::uint32_t limitMs) const { return {clock_, limitMs}; }
+
+  // Results are reported under this id from now on.
+  void BeginOperation(std::uint32_t id) { settings_.errors.BeginOperation(id); }
+
   // True once after the handset reported an assert.
   bool IsAssert() { return channel_.TakeAssert(); }
 
+  // What follows until LogLine goes when nothing uses it any more: link insides, and exchanges that
+  // copy what they receive to a caller's buffer.
+  Result SendAndWait(FrameId request, FrameId awaited, std::span<const std::uint8_t> payload,
+                     std::span<std::uint8_t> answer, std::uint32_t* answerLength,
+                     std::uint32_t timeoutMs);
+  Result WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer, std::uint32_t* answerLength,
+                       std::uint32_t timeoutMs);
+  Result ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
+                      std::uint32_t timeoutMs);
+  Result ReceiveTyped(FrameId& id, std::span<std::uint8_t> output, std::uint32_t& length,
+                      std::uint32_t timeoutMs);
   ChannelPort& Channel() { return channel_; }
   // Bytes received and not yet taken as frames.
   ByteRing& FrameRing() { return ring_; }
@@ -83,6 +104,9 @@ class PhoneLink {
   void LogReceived(std::span<const std::uint8_t> decodedFrame);
 
  private:
+  Result Receive(Frame& frame, std::uint32_t timeoutMs);
+  Result Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs);
+  std::uint32_t WithIncrement(std::uint32_t timeoutMs) const;
   PortLog* UsefulLog() const { return settings_.usefulLog ? usefulLog_.get() : nullptr; }
 
   LinkSettings& settings_;

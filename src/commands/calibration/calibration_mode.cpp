@@ -1,6 +1,4 @@
 // Changing between the calibration modes, activation, the band.
-#include <algorithm>
-#include <array>
 #include <string_view>
 
 #include "commands/calibration/calibration_items.h"
@@ -19,7 +17,8 @@ constexpr std::int32_t kTdMode = 7;
 constexpr std::uint16_t kInitGsmItem = 42;
 constexpr std::uint16_t kChangeToTdItem = 43;
 
-constexpr std::size_t kConfirmationBytes = 20;
+// Where the confirmation carries its status.
+constexpr std::size_t kStatusOffset = 16;
 
 // The handset acknowledges, then confirms with its status. The confirmation is awaited for the
 // configured increment alone: without one the wait ends at once, in 11.
@@ -31,17 +30,9 @@ Result AskAndConfirm(Phone& phone, Operation& operation, std::uint16_t messageId
   if (!Succeeded(asked)) return asked;
 
   operation.Log("Read _CNF:");
-  std::array<std::uint8_t, 256> answer{};
-  std::uint32_t length = 0;
-  const Result confirmed =
-      link.WaitForAnswer(kCalibration, answer, &length, link.Settings().receiveIncrementMs);
+  const Answer confirmed = link.WaitForIncrement(kCalibration);
   // A confirmation that ends before its status counts as status 0.
-  std::array<std::uint8_t, kConfirmationBytes> confirmation{};
-  if (Succeeded(confirmed)) {
-    std::copy_n(answer.begin(), std::min<std::size_t>(length, kConfirmationBytes),
-                confirmation.begin());
-  }
-  return GetU32(confirmation, 16) != 0 ? Result::DspDebugFailed : confirmed;
+  return confirmed.U32(kStatusOffset) != 0 ? Result::DspDebugFailed : confirmed.Why();
 }
 
 // The handset changes its software while it answers, so that what comes back says nothing.

@@ -34,12 +34,12 @@ Answer AskWritingData(PhoneLink& link, const DataAddress& address,
   const auto payload = std::span(request).subspan(kDataHeaderBytes);
   std::ranges::copy(data, payload.begin());
   ConvertInPlace(payload, element);
-  return {link, kWriteData, request, timeoutMs};
+  return link.SendAndWaitSame(kWriteData, request, timeoutMs);
 }
 
 Result WriteData(PhoneLink& link, const DataAddress& address, std::span<const std::uint8_t> data,
                  Element element, std::uint32_t timeoutMs) {
-  return AskWritingData(link, address, data, element, timeoutMs).result;
+  return AskWritingData(link, address, data, element, timeoutMs).Why();
 }
 
 Result WriteWord(PhoneLink& link, const DataAddress& address, std::uint16_t value) {
@@ -52,8 +52,8 @@ Result ReadData(PhoneLink& link, const DataAddress& address, std::span<std::uint
                 Element element, std::uint32_t timeoutMs) {
   std::array<std::uint8_t, kDataHeaderBytes> request{};
   PutHeader(request, address, data.size());
-  const Answer answer(link, kReadData, request, timeoutMs);
-  if (!answer) return answer.result;
+  const Answer answer = link.SendAndWaitSame(kReadData, request, timeoutMs);
+  if (!answer) return answer.Why();
   if (answer.Payload().size() <= kAnswerHeaderBytes) return Result::WrongDataLength;
   const auto received = answer.Payload().subspan(kAnswerHeaderBytes);
   const auto filled = data.first(std::min(data.size(), received.size()));

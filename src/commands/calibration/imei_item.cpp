@@ -14,8 +14,8 @@ constexpr std::uint16_t kImeiItem = 5;
 
 Result ReadPacked(PhoneLink& link, PackedImei& imei) {
   const auto request = NvHeader(kImeiItem);
-  const Answer answer(link, kReadNv, request, 1000);
-  if (!answer) return answer.result;
+  const Answer answer = link.SendAndWaitSame(kReadNv, request, 1000);
+  if (!answer) return answer.Why();
   const auto payload = answer.Payload();
   if (payload.size() < request.size() + imei.size() ||
       !std::ranges::equal(payload.first(request.size()), request)) {

@@ -135,7 +135,7 @@ Result SendNonSignalCmd(Phone& phone, const QV_NON_SIGNAL_COMMAND* command,
   PutU16(data, 12, static_cast<std::uint16_t>(command->second));
   const Answer answer = AskWritingData(phone.link, {Storage::Ram, 0, kNonSignalItem, 0}, data,
                                        Element::Byte, timeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  if (!answer) return operation.Finish(answer.Why());
   const auto payload = answer.Payload();
   if (payload.size() < sizeof(QV_NON_SIGNAL_ANSWER)) {
     return operation.Finish(Result::NonSignalFailed);

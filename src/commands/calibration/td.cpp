@@ -67,10 +67,10 @@ Result ReadMode_TD(Phone& phone, std::uint8_t* data, std::uint32_t capacity) {
   Operation operation(phone, 176);
   if (!data || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("ReadMode_TD:");
-  const Answer answer(phone.link, kReadModeFrame, {}, 1000);
+  const Answer answer = phone.link.SendAndWaitSame(kReadModeFrame, {}, 1000);
   const auto payload = answer.Payload();
   std::ranges::copy(payload.first(std::min<std::size_t>(payload.size(), capacity)), data);
-  return operation.Finish(payload.size() > capacity ? Result::BufferTooSmall : answer.result);
+  return operation.Finish(payload.size() > capacity ? Result::BufferTooSmall : answer.Why());
 }
 
 Result SetPhoneStartMode_TD(Phone& phone, std::uint32_t mode) {

@@ -29,8 +29,8 @@ Result ReadTDCalParam(Phone& phone, QV_TD_PARAMETERS* parameters) {
   std::array<std::uint8_t, 8> request{};
   PutU32(request, 0, parameters->selector);
   PutU16(request, 4, parameters->count);
-  const Answer answer(phone.link, kReadParameters, request, kTransferTimeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer = phone.link.SendAndWaitSame(kReadParameters, request, kTransferTimeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   const auto payload = answer.Payload();
   if (payload.size() < kTransferHeaderBytes + std::size_t{2} * parameters->count) {
     return operation.Finish(Result::ParseFailed);
@@ -56,8 +56,8 @@ Result WriteTDCalParam(Phone& phone, const QV_TD_PARAMETERS* parameters) {
   for (std::size_t at = 0; at < parameters->count; ++at) {
     PutU16(request, kTransferHeaderBytes + 2 * at, parameters->values[at]);
   }
-  const Answer answer(phone.link, kWriteParameters, request, kTransferTimeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer = phone.link.SendAndWaitSame(kWriteParameters, request, kTransferTimeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   const auto payload = answer.Payload();
   if (payload.size() < 8) return operation.Finish(Result::ParseFailed);
   return operation.Finish(GetU16(payload, kTransferredOffset) == parameters->count

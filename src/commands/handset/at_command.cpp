@@ -23,8 +23,8 @@ std::span<const std::uint8_t> Bytes(std::string_view text) {
 }
 
 Result SendCommand(Phone& phone, std::string_view command) {
-  return Answer(phone.link, kAtRequest, kAtAcknowledgement, Bytes(command), kAcknowledgementMs)
-      .result;
+  return phone.link.SendAndWait(kAtRequest, kAtAcknowledgement, Bytes(command), kAcknowledgementMs)
+      .Why();
 }
 
 // A scan that counts matched characters and starts again at a mismatch without testing that

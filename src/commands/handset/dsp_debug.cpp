@@ -13,12 +13,12 @@ constexpr std::uint8_t kType = 50;
 constexpr std::uint32_t kTimeoutMs = 4000;
 
 Answer Ask(Phone& phone, std::uint8_t subtype, std::span<const std::uint8_t> payload) {
-  return Answer(phone.link, {kType, subtype}, payload, kTimeoutMs);
+  return phone.link.SendAndWaitSame({kType, subtype}, payload, kTimeoutMs);
 }
 
 // The exchange's result, unless the handset's own status says otherwise.
 Result Verdict(const Answer& answer) {
-  return TellsFailure(answer.Payload()) ? Result::DspDebugFailed : answer.result;
+  return TellsFailure(answer.Payload()) ? Result::DspDebugFailed : answer.Why();
 }
 
 bool KnownWidth(std::uint32_t width) { return width == 1 || width == 2 || width == 4; }

@@ -134,7 +134,7 @@ Result CheckFixedNV(Phone& phone, std::uint32_t mode) {
   const bool block = mode == kInformationBlockMode;
   const FrameId request = block ? FrameId{kType, 0xC0} : FrameId{kStorageType, 7};
   const FrameId awaited = block ? kAnswer : kStorageAnswer;
-  return operation.Finish(Answer(phone.link, request, awaited, kEmptyBlock, 1000).result);
+  return operation.Finish(phone.link.SendAndWait(request, awaited, kEmptyBlock, 1000).Why());
 }
 
 Result NvWriteDirect(Phone& phone, const QV_FIXED_NV_INFO* info) {
@@ -146,7 +146,7 @@ Result NvWriteDirect(Phone& phone, const QV_FIXED_NV_INFO* info) {
   // As long as a block with its checksum, which stays zero here.
   const auto payload = FirstBytes<kBlockBytes + kChecksumBytes>(writing.block);
   return operation.Finish(
-      Answer(phone.link, {kType, writing.mask}, kAnswer, payload, kTimeoutMs).result);
+      phone.link.SendAndWait({kType, writing.mask}, kAnswer, payload, kTimeoutMs).Why());
 }
 
 Result FastWriteNvInfo(Phone& phone, const QV_FIXED_NV_INFO* info) {
@@ -157,8 +157,9 @@ Result FastWriteNvInfo(Phone& phone, const QV_FIXED_NV_INFO* info) {
   PutUncheckedFields(writing, *info);
   operation.Log("Write NV");
   return operation.Finish(
-      Answer(phone.link, {kType, writing.mask}, kAnswer, WithChecksum(writing.block), kTimeoutMs)
-          .result);
+      phone.link
+          .SendAndWait({kType, writing.mask}, kAnswer, WithChecksum(writing.block), kTimeoutMs)
+          .Why());
 }
 
 Result FastReadNvInfo(Phone& phone, QV_FIXED_NV_INFO* info) {
@@ -166,9 +167,10 @@ Result FastReadNvInfo(Phone& phone, QV_FIXED_NV_INFO* info) {
   Operation operation(phone, 238);
   if (!info) return Result::InvalidParam;
   operation.Log("Read NV");
-  const Answer answer(phone.link, {kType, kReadSubtype}, kAnswer, kEmptyBlock, kTimeoutMs);
+  const Answer answer =
+      phone.link.SendAndWait({kType, kReadSubtype}, kAnswer, kEmptyBlock, kTimeoutMs);
   const auto payload = answer.Payload();
-  Result result = answer.result;
+  Result result = answer.Why();
   if (answer) {
     // An empty or damaged block leaves the record as it was, and is not logged.
     if (payload.size() <= kChecksumBytes) return Result::NoData;

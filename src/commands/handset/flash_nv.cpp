@@ -51,8 +51,9 @@ Result ReadFlash(Phone& phone, std::uint16_t item, std::uint8_t* data, std::int3
   if (asked > kMaxFlashBytes) return Result::InvalidParam;
   operation.Log("ReadFlash:");
 
-  const Answer answer(phone.link, kReadFlash, kStorageAnswer, FlashHeader(item, asked), timeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer =
+      phone.link.SendAndWait(kReadFlash, kStorageAnswer, FlashHeader(item, asked), timeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   const auto payload = answer.Payload();
   if (payload.size() <= kFlashHeaderBytes) {
     *dataLength = 0;
@@ -73,14 +74,15 @@ Result WriteFlash(Phone& phone, std::uint16_t item, const std::uint8_t* data, st
   operation.Log("WriteFlash:");
   const auto request = Joined(FlashHeader(item, length), data, length);
   const std::uint32_t limitMs = timeoutMs == 0 ? 4000 : timeoutMs;
-  return operation.Finish(Answer(phone.link, kWriteFlash, kStorageAnswer, request, limitMs).result);
+  return operation.Finish(
+      phone.link.SendAndWait(kWriteFlash, kStorageAnswer, request, limitMs).Why());
 }
 
 Result EraseFlash(Phone& phone, std::uint32_t timeoutMs) {
   Operation operation(phone, 25);
   if (timeoutMs == 0) return Result::InvalidParam;
   operation.Log("EraseFlash:");
-  return operation.Finish(Answer(phone.link, kEraseFlash, kStorageAnswer, {}, timeoutMs).result);
+  return operation.Finish(phone.link.SendAndWait(kEraseFlash, kStorageAnswer, {}, timeoutMs).Why());
 }
 
 Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_t capacity,
@@ -89,8 +91,8 @@ Result ReadNv(Phone& phone, std::uint16_t item, std::uint8_t* data, std::uint32_
   if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
   operation.Log("ReadNv:");
 
-  const Answer answer(phone.link, kReadNv, kStorageAnswer, NvHeader(item), timeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer = phone.link.SendAndWait(kReadNv, kStorageAnswer, NvHeader(item), timeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   // Without sign: an answer shorter than the item id counts as one that is too long.
   const std::size_t arrived = answer.Payload().size() - kNvHeaderBytes;
   const std::size_t delivered = std::min<std::size_t>(arrived, capacity);
@@ -104,7 +106,7 @@ Result WriteNv(Phone& phone, std::uint16_t item, const std::uint8_t* data, std::
   if (!data || length > kMaxNvWriteBytes) return Result::InvalidParam;
   operation.Log("WriteNv:");
   const auto request = Joined(NvHeader(item), data, length);
-  return operation.Finish(Answer(phone.link, kWriteNv, kStorageAnswer, request, 1000).result);
+  return operation.Finish(phone.link.SendAndWait(kWriteNv, kStorageAnswer, request, 1000).Why());
 }
 
 Result ReadNvFromHandset(Phone& phone, std::uint16_t item, std::uint32_t offset,
@@ -114,8 +116,8 @@ Result ReadNvFromHandset(Phone& phone, std::uint16_t item, std::uint32_t offset,
   const Operation operation(phone, 47);
   if (!data || !IsCapacity(capacity) || !dataLength) return Result::InvalidParam;
 
-  const Answer answer(phone.link, kReadNv, kStorageAnswer, NvHeader(item), 2000);
-  if (!answer) return answer.result;
+  const Answer answer = phone.link.SendAndWait(kReadNv, kStorageAnswer, NvHeader(item), 2000);
+  if (!answer) return answer.Why();
   const std::size_t arrived = answer.Payload().size();
   if (offset > arrived || length > arrived - offset) return Result::InvalidParam;
   const std::uint32_t delivered = std::min(length, capacity);

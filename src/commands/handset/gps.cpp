@@ -36,10 +36,10 @@ GpsMessage NvRequest(std::uint32_t command) {
 // size is not looked at.
 Result Verdict(const Answer& answer, const GpsMessage& request, std::size_t repeatedBytes) {
   const auto payload = answer.Payload();
-  if (payload.size() < request.size()) return answer.result;
+  if (payload.size() < request.size()) return answer.Why();
   const bool repeated =
       std::equal(request.begin(), request.begin() + repeatedBytes, payload.begin());
-  return repeated ? answer.result : Result::GpsFailed;
+  return repeated ? answer.Why() : Result::GpsFailed;
 }
 
 }  // namespace
@@ -49,7 +49,7 @@ Result GpsOpen(Phone& phone, std::uint32_t open) {
   operation.Log(open ? "GpsOpen:" : "GpsClose:");
   GpsMessage request{};
   PutU32(request, 0, open ? kOpen : kClose);
-  const Answer answer(phone.link, kGps, request, kTimeoutMs);
+  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   return operation.Finish(Verdict(answer, request, kCommandBytes));
 }
 
@@ -61,7 +61,7 @@ Result GpsWriteNv(Phone& phone, const std::uint8_t* block) {
   const auto data = std::span(request).subspan<kDataOffset, kGpsNvBytes>();
   std::memcpy(data.data(), block, data.size());
   ConvertGpsNvBlock(data);
-  const Answer answer(phone.link, kGps, request, kTimeoutMs);
+  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   return operation.Finish(Verdict(answer, request, kCommandAndLengthBytes));
 }
 
@@ -70,7 +70,7 @@ Result GpsReadNv(Phone& phone, std::uint8_t* block) {
   if (!block) return Result::InvalidParam;
   operation.Log("GpsReadNv:");
   const GpsMessage request = NvRequest(kReadNv);
-  const Answer answer(phone.link, kGps, request, kTimeoutMs);
+  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   if (answer) {
     // Delivered from an answer to something else as well.
     const std::span<std::uint8_t, kGpsNvBytes> out(block, kGpsNvBytes);

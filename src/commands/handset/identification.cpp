@@ -26,9 +26,9 @@ constexpr std::size_t kFlashRegionBytes = 12;
 constexpr std::uint32_t kMaxFlashRegions = 31;
 
 Result ReadWord(Phone& phone, Operation& operation, std::uint8_t subtype, std::uint32_t* word) {
-  const Answer answer(phone.link, {kIdentificationType, subtype}, {}, 1000);
+  const Answer answer = phone.link.SendAndWaitSame({kIdentificationType, subtype}, {}, 1000);
   if (answer) *word = GetU32(FirstBytes<4>(answer.Payload()), 0);
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 // An answer has all ten words or the first three; the output keeps what a shorter one lacks.
@@ -72,8 +72,8 @@ Result GetFlashInfo(Phone& phone, QV_FLASH_INFO* info) {
   Operation operation(phone, 43);
   if (!info) return Result::InvalidParam;
   operation.Log("GetFlashInfo:");
-  const Answer answer(phone.link, {kIdentificationType, 4}, {}, 1000);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer = phone.link.SendAndWaitSame({kIdentificationType, 4}, {}, 1000);
+  if (!answer) return operation.Finish(answer.Why());
   auto description = FirstBytes<sizeof(QV_FLASH_INFO)>(answer.Payload());
   const std::uint32_t regions = GetU32(description, 8);
   // Alone among the failures of this command not logged.
@@ -88,12 +88,12 @@ Result GetMSVersion(Phone& phone, char* version, std::uint32_t capacity) {
   Operation operation(phone, 22);
   if (!version || !IsCapacity(capacity)) return Result::InvalidParam;
   operation.Log("GetMSVersion:");
-  const Answer answer(phone.link, {0, 0}, {}, 1000);
+  const Answer answer = phone.link.SendAndWaitSame({0, 0}, {}, 1000);
   const auto text = answer.Payload();
   if (!text.empty()) {
     std::memcpy(version, text.data(), std::min<std::size_t>(text.size(), capacity));
   }
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result Send7310KCommand(Phone& phone, std::uint8_t command, const std::uint16_t* words,
@@ -103,10 +103,10 @@ Result Send7310KCommand(Phone& phone, std::uint8_t command, const std::uint16_t*
   operation.Log("Send7310KCommand ID:" + std::to_string(command));
   std::array<std::uint8_t, 2 * k7310KWords> request;
   for (std::size_t at = 0; at < k7310KWords; ++at) PutU16(request, 2 * at, words[at]);
-  const Answer answer(phone.link, {k7310KType, command}, request,
-                      timeoutMs == 0 ? kDefault7310KMs : timeoutMs);
+  const Answer answer = phone.link.SendAndWaitSame({k7310KType, command}, request,
+                                                   timeoutMs == 0 ? kDefault7310KMs : timeoutMs);
   Take7310KWords(answer.Payload(), answeredWords);
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result Recv7310KCommand(Phone& phone, std::uint8_t command, std::uint16_t* answeredWords,

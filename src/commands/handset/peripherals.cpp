@@ -51,7 +51,7 @@ Result ADCCalibration(Phone& phone, std::uint8_t channel, std::uint8_t* value,
   Operation operation(phone, 17);
   if (!value || timeoutMs == 0) return Result::InvalidParam;
   operation.Log("ADCCalibration:");
-  const Answer answer(phone.link, {kAdcType, channel}, kAdcAnswer, {}, timeoutMs);
+  const Answer answer = phone.link.SendAndWait({kAdcType, channel}, kAdcAnswer, {}, timeoutMs);
   if (answer) {
     // Callers get it most significant byte first.
     auto bytes = FirstBytes<2>(answer.Payload());
@@ -59,7 +59,7 @@ Result ADCCalibration(Phone& phone, std::uint8_t channel, std::uint8_t* value,
     value[0] = bytes[0];
     value[1] = bytes[1];
   }
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result ReadAdcValue(Phone& phone, std::uint8_t channel, std::uint16_t* value,
@@ -67,25 +67,25 @@ Result ReadAdcValue(Phone& phone, std::uint8_t channel, std::uint16_t* value,
   Operation operation(phone, 17);
   if (!value) return Result::InvalidParam;
   operation.Log("ReadAdcValue:");
-  const Answer answer(phone.link, {kAdcType, channel}, kAdcAnswer, {},
-                      timeoutMs == 0 ? 1000 : timeoutMs);
+  const Answer answer = phone.link.SendAndWait({kAdcType, channel}, kAdcAnswer, {},
+                                               timeoutMs == 0 ? 1000 : timeoutMs);
   if (answer) {
     const auto bytes = FirstBytes<4>(answer.Payload());
     *value = GetU16(bytes, 0);
     if (thirdByte) *thirdByte = bytes[2];
     if (fourthByte) *fourthByte = bytes[3];
   }
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result ReadPhoneVolt(Phone& phone, std::uint32_t* voltage) {
   Operation operation(phone, 18);
   if (!voltage) return Result::InvalidParam;
   operation.Log("ReadPhoneVolt:");
-  const Answer answer(phone.link, kVoltage, {}, 1000);
+  const Answer answer = phone.link.SendAndWaitSame(kVoltage, {}, 1000);
   // Whatever came of the exchange: without an answer it reads 0.
   *voltage = GetU32(FirstBytes<4>(answer.Payload()), 0);
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result PressKeyboard(Phone& phone, std::uint32_t key) {

@@ -6,7 +6,6 @@
 #include <span>
 
 #include "commands/operation.h"
-#include "link/byte_order.h"
 #include "link/frame_codec.h"
 
 namespace merovane::commands {
@@ -14,35 +13,6 @@ namespace {
 
 constexpr std::uint8_t kStartType = 0xFE;
 constexpr std::uint8_t kModeChangeType = 12;
-
-// What a handset sends while it boots: a whole frame of type 0xFE, subtype 1, without payload. It
-// is compared as it arrives, so a frame in the other byte order is not one.
-std::array<std::uint8_t, kMinFrameBytes> StartFrame() {
-  std::array<std::uint8_t, kMinFrameBytes> frame{};
-  frame.front() = frame.back() = kFlag;
-  BuildHeader({kStartType, 1}, 0, {}, std::span(frame).subspan(1, kHeaderBytes));
-  return frame;
-}
-
-// Looks for the start frame in the held bytes and says how many of them to remove. A start frame
-// that may be arriving in pieces stays.
-std::size_t FindStartFrame(std::span<const std::uint8_t> held, bool& found,
-                           std::span<std::uint8_t, kHeaderBytes> header) {
-  const auto pattern = StartFrame();
-  std::size_t lastFlag = 0;
-  for (std::size_t at = 0; at < held.size(); ++at) {
-    if (held[at] != kFlag) continue;
-    lastFlag = at;
-    if (held.size() - at < pattern.size()) break;
-    if (std::equal(pattern.begin(), pattern.end(),
-                   held.begin() + static_cast<std::ptrdiff_t>(at))) {
-      found = true;
-      std::memcpy(header.data(), &held[at + 1], kHeaderBytes);
-      return held.size();
-    }
-  }
-  return held.size() >= lastFlag + pattern.size() ? held.size() : lastFlag;
-}
 
 std::uint8_t StartModeSubtype(std::uint32_t mode) { return static_cast<std::uint8_t>(mode + 128); }
 
@@ -60,26 +30,13 @@ Result RecvPhoneStartData(Phone& phone, std::uint8_t* data, std::uint32_t capaci
   if (!data || !IsCapacity(capacity) || !length) return Result::InvalidParam;
   operation.Log("RecvPhoneStartData:");
 
-  PhoneLink& link = phone.link;
-  const platform::Deadline deadline(link.Clock(), timeoutMs);
-  AnswerBuffer chunk;
-  while (!deadline.Passed() && !link.Channel().Cancelled()) {
-    std::size_t got = 0;
-    if (!Succeeded(link.Channel().Read(chunk, deadline.RemainingMs(), got))) continue;
-    link.FrameRing().Append(std::span<const std::uint8_t>(chunk).first(got));
-    bool found = false;
-    std::array<std::uint8_t, kHeaderBytes> header;
-    link.FrameRing().Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {
-      return FindStartFrame(held, found, header);
-    });
-    if (!found) continue;
+  std::array<std::uint8_t, kHeaderBytes> header;
+  const Result result = phone.link.ReceiveStartFrame(header, timeoutMs);
+  if (Succeeded(result)) {
     *length = std::min<std::uint32_t>(capacity, kHeaderBytes);
     std::memcpy(data, header.data(), *length);
-    link.LogReceived(header);
-    link.FrameRing().Clear();
-    return operation.Finish(Result::Success);
   }
-  return operation.Finish(Result::NoUsefulData);
+  return operation.Finish(result);
 }
 
 Result SetPhoneStartMode(Phone& phone, std::uint32_t mode) {
@@ -88,10 +45,8 @@ Result SetPhoneStartMode(Phone& phone, std::uint32_t mode) {
   const FrameId id{kStartType, StartModeSubtype(mode)};
   const Result sent = phone.link.SendFrame(id);
   if (!Succeeded(sent)) return sent;
-  std::array<std::uint8_t, 10> answer;
-  std::uint32_t length = 0;
   // Alone of its kind in not logging its result.
-  return phone.link.WaitForAnswer(id, answer, &length, 4000);
+  return phone.link.WaitForAnswer(id, 4000).Why();
 }
 
 Result SetPhoneStartModeEx(Phone& phone, std::uint32_t mode, std::uint32_t timeoutMs) {
@@ -134,9 +89,9 @@ Result UsbChangePhoneMode(Phone& phone, std::uint8_t mode, std::uint32_t* answer
   Operation operation(phone, 10);
   if (!answered) return Result::InvalidParam;
   operation.Log("UsbChangePhoneMode:");
-  const Answer answer(phone.link, {kModeChangeType, mode}, {}, 4000);
+  const Answer answer = phone.link.SendAndWaitSame({kModeChangeType, mode}, {}, 4000);
   if (answer) *answered = answer.Payload().size() >= 2 ? 1 : 0;
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result UsbChangeModeAndSetCampParam(Phone& phone, std::uint8_t mode,
@@ -177,17 +132,20 @@ Result EnterDeepSleepMode(Phone& phone) {
 Result Read(Phone& phone, std::uint8_t* data, std::uint32_t* length, std::uint32_t timeoutMs) {
   Operation operation(phone, 13);
   if (!data || !length || !IsCapacity(*length) || timeoutMs == 0) return Result::InvalidParam;
-  std::uint32_t received = 0;
-  const Result result = phone.link.ReceiveFrame({data, *length}, received, timeoutMs);
-  *length = received;
-  // Silence is no whole frame, too.
-  return result == Result::NoData ? Result::NoFrame : result;
+  const Frame frame = phone.link.ReceiveFrame(timeoutMs);
+  const auto bytes = frame.Bytes();
+  const auto capacity = *length;
+  *length = std::min(capacity, static_cast<std::uint32_t>(bytes.size()));
+  if (*length > 0) std::memcpy(data, bytes.data(), *length);
+  if (bytes.size() > capacity) return Result::BufferTooSmall;
+  // Silence, too, means that no whole frame came.
+  return frame.Why() == Result::NoData ? Result::NoFrame : frame.Why();
 }
 
 Result Write(Phone& phone, const std::uint8_t* data, std::int32_t length) {
   Operation operation(phone, 14);
   if (!data || length <= 0) return Result::InvalidParam;
-  return phone.link.Channel().Write({data, static_cast<std::size_t>(length)});
+  return phone.link.WriteRaw({data, static_cast<std::size_t>(length)});
 }
 
 }  // namespace merovane::commands

@@ -29,8 +29,9 @@ Result ReadBlock(Phone& phone, std::uint8_t type, std::uint8_t* block, std::uint
   // The version block is logged under this name as well.
   operation.Log("Read Product Info");
 
-  const Answer answer(phone.link, {type, 0x81}, {type, kAnswerSubtype}, kEmptyBlock, kTimeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer =
+      phone.link.SendAndWait({type, 0x81}, {type, kAnswerSubtype}, kEmptyBlock, kTimeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   const auto payload = answer.Payload().first(std::min(answer.Payload().size(), kMaxAnswerBytes));
   if (payload.size() < kChecksumBytes) return operation.Finish(Result::WrongDataLength);
   // Not logged, and nothing of the damaged block is delivered.
@@ -69,9 +70,9 @@ Result FastReaIMEICount(Phone& phone, std::uint32_t* count) {
   Operation operation(phone, 220);
   if (!count) return Result::InvalidParam;
   operation.Log("Read IMEI count:");
-  const Answer answer(phone.link, {kImeiCountType, 0x80}, {kImeiCountType, kAnswerSubtype},
-                      kEmptyBlock, kNoTimeoutMs);
-  if (!answer) return operation.Finish(answer.result);
+  const Answer answer = phone.link.SendAndWait(
+      {kImeiCountType, 0x80}, {kImeiCountType, kAnswerSubtype}, kEmptyBlock, kNoTimeoutMs);
+  if (!answer) return operation.Finish(answer.Why());
   // As it arrived, whatever the handset's byte order, and from an answer that is too short as well.
   std::memcpy(count, FirstBytes<4>(answer.Payload()).data(), sizeof *count);
   return operation.Finish(answer.Payload().size() < kMinAnswerBytes ? Result::WrongDataLength

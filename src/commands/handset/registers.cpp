@@ -44,12 +44,12 @@ Result ReadRegister(Phone& phone, std::uint32_t accessWidth, std::uint32_t addre
   operation.Log("ReadRegister:");
   std::array<std::uint8_t, kRequestHeaderBytes> request;
   PutHeader(request, kRead, accessWidth, address, count);
-  const Answer answer(phone.link, kRegister, request, 1000);
+  const Answer answer = phone.link.SendAndWaitSame(kRegister, request, 1000);
   // What was asked for is delivered whole, however much of it the answer holds.
   if (answer) {
     CopyZeroFilled(answer.Payload(), kRequestHeaderBytes, {data, static_cast<std::size_t>(bytes)});
   }
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result WriteRegister(Phone& phone, std::uint32_t accessWidth, std::uint32_t address,

@@ -19,9 +19,9 @@ constexpr std::uint32_t kFactorWriteMs = 8000;
 // A request of which only the status matters. A failure that the handset reports is not logged.
 Result Tell(Phone& phone, Operation& operation, std::uint8_t subtype,
             std::span<const std::uint8_t> payload, std::uint32_t timeoutMs) {
-  const Answer answer(phone.link, {kType, subtype}, payload, timeoutMs);
+  const Answer answer = phone.link.SendAndWaitSame({kType, subtype}, payload, timeoutMs);
   if (TellsFailure(answer.Payload())) return Result::WifiFailed;
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result TellWord(Phone& phone, Operation& operation, std::uint8_t subtype, std::uint32_t word,
@@ -80,14 +80,14 @@ Result WIFI_LoadAddr(Phone& phone, std::uint8_t* address) {
   Operation operation(phone, 263);
   if (!address) return Result::InvalidParam;
   operation.Log("LoadWifiAddr:");
-  const Answer answer(phone.link, {kType, 2}, {}, kQuickMs);
+  const Answer answer = phone.link.SendAndWaitSame({kType, 2}, {}, kQuickMs);
   if (answer) {
     const auto payload = answer.Payload();
     if (TellsFailure(payload) || payload.size() < kStatusBytes + kAddressBytes)
       return Result::WifiFailed;
     std::copy_n(payload.begin() + kStatusBytes, kAddressBytes, address);
   }
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result WIFI_SetChannel(Phone& phone, std::uint32_t channel) {
@@ -127,13 +127,13 @@ Result WIFI_ReadRxValue(Phone& phone, std::uint32_t* first, std::uint32_t* secon
   Operation operation(phone, 270);
   if (!first || !second) return Result::InvalidParam;
   operation.Log("ReadRecPackage:");
-  const Answer answer(phone.link, {kType, 9}, {}, kQuickMs);
+  const Answer answer = phone.link.SendAndWaitSame({kType, 9}, {}, kQuickMs);
   if (TellsFailure(answer.Payload())) return Result::WifiFailed;
   // Without an answer the counts read 0.
   const auto words = FirstBytes<12>(answer.Payload());
   *first = GetU32(words, 4);
   *second = GetU32(words, 8);
-  return operation.Finish(answer.result);
+  return operation.Finish(answer.Why());
 }
 
 Result WIFI_OperFactor(Phone& phone, std::uint32_t factorOperation, QV_WIFI_FACTOR* factor) {
@@ -147,13 +147,13 @@ Result WIFI_OperFactor(Phone& phone, std::uint32_t factorOperation, QV_WIFI_FACT
 
   if (factorOperation == kRead) {
     operation.Log("ReadWifiFactor:");
-    const Answer answer(phone.link, {kType, kFirstSubtype}, {}, kQuickMs);
+    const Answer answer = phone.link.SendAndWaitSame({kType, kFirstSubtype}, {}, kQuickMs);
     if (TellsFailure(answer.Payload())) return Result::WifiFailed;
     if (answer) {
       const auto words = FirstBytes<12>(answer.Payload());
       *factor = {0, GetU32(words, 4), GetU32(words, 8)};
     }
-    return operation.Finish(answer.result);
+    return operation.Finish(answer.Why());
   }
 
   // Refused as the handset itself would refuse it, and not logged.
