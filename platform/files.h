@@ -17,6 +17,9 @@ std::filesystem::path TemporaryDirectory();
 // A path as callers and project files write it: bytes in the system's narrow encoding, both
 // separators taken on every system.
 std::filesystem::path PathFromText(std::string_view text);
+// Whether such a path stands by itself: from a drive or a network share on Windows, from the root
+// elsewhere.
+bool IsAbsolutePath(std::string_view text);
 // The way back: the path in the system's narrow encoding, never an exception.
 std::string TextFromPath(const std::filesystem::path& path);
 

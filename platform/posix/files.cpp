@@ -28,6 +28,8 @@ std::filesystem::path PathFromText(std::string_view text) {
   return path;
 }
 
+bool IsAbsolutePath(std::string_view text) { return text.starts_with('/'); }
+
 std::string TextFromPath(const std::filesystem::path& path) { return path.string(); }
 
 bool AppendFile::Open(const std::filesystem::path& path) {

@@ -17,6 +17,12 @@ std::filesystem::path TemporaryDirectory() {
 
 std::filesystem::path PathFromText(std::string_view text) { return WideFromNarrow(text); }
 
+bool IsAbsolutePath(std::string_view text) {
+  const auto isSeparator = [](char c) { return c == '\\' || c == '/'; };
+  if (text.size() < 2) return false;
+  return text[1] == ':' || (isSeparator(text[0]) && isSeparator(text[1]));
+}
+
 std::string TextFromPath(const std::filesystem::path& path) {
   return NarrowFromWide(path.native());
 }

@@ -5,20 +5,16 @@
 #include <string>
 #include <string_view>
 
+#include "platform/files.h"
+
 namespace merovane::nvproject {
 
 constexpr std::string_view kSeparators = "\\/";
 
-// From the root, or from a drive's root.
-inline bool IsAbsolutePath(std::string_view path) {
-  if (path.size() > 2 && path[1] == ':') path.remove_prefix(2);
-  return !path.empty() && kSeparators.find(path.front()) != std::string_view::npos;
-}
-
 // The path seen from the directory of `file`; an absolute one as it is. None when
 // `file` has no directory part to join it with.
 inline std::optional<std::string> JoinPath(std::string_view file, std::string_view path) {
-  if (IsAbsolutePath(path)) return std::string(path);
+  if (platform::IsAbsolutePath(path)) return std::string(path);
   const std::size_t separator = file.find_last_of(kSeparators);
   if (separator == std::string_view::npos) return std::nullopt;
   return std::string(file.substr(0, separator + 1)).append(path);

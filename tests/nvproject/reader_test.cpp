@@ -146,16 +146,21 @@ TEST(Reader, ProjectWithoutDirectoryEndsAtTheFirstPathAndStaysOpen) {
   EXPECT_FALSE(std::filesystem::exists(directory.Path("new")));
 }
 
-TEST(Reader, AbsolutePathsAreTakenAsTheyAre) {
-  for (const std::string module : {"/x/m", "\\x\\m", "D:\\x\\m", "D:/x/m"}) {
-    auto parser = ParserOf({{"p", "TARGET = /t\nMODULE = " + module + "\n"}, {module, ""}});
-    EXPECT_TRUE(parser->LoadProject("p"));
-    EXPECT_THAT(parser->Modules(), SizeIs(1)) << module;
-    EXPECT_EQ(parser->Project().target, "/t");
-  }
-  auto parser = ParserOf({{"a/b\\p", "MODULE = c/m\nTARGET =\n"}, {"a/b\\c/m", ""}});
-  EXPECT_TRUE(parser->LoadProject("a/b\\p"));
-  EXPECT_EQ(parser->Project().target, "");
+TEST(Reader, OnlyAbsolutePathsDoNotFollowTheProjectsFolder) {
+  const std::string root = std::filesystem::temp_directory_path().string();
+  auto absolute =
+      ParserOf({{"p", "TARGET = " + root + "/t\nMODULE = " + root + "/m\n"}, {root + "/m", ""}});
+  EXPECT_TRUE(absolute->LoadProject("p"));
+  EXPECT_THAT(absolute->Modules(), SizeIs(1));
+  EXPECT_EQ(absolute->Project().target, root + "/t");
+
+  // A leading separator alone names no place of its own.
+  auto leading = ParserOf({{"d\\p", "TARGET = \\t\nMODULE = \\x\\m\n"}, {"d\\\\x\\m", ""}});
+  EXPECT_TRUE(leading->LoadProject("d\\p"));
+  EXPECT_EQ(leading->Project().target, "d\\\\t");
+  auto nested = ParserOf({{"a/b\\p", "MODULE = c/m\nTARGET =\n"}, {"a/b\\c/m", ""}});
+  EXPECT_TRUE(nested->LoadProject("a/b\\p"));
+  EXPECT_EQ(nested->Project().target, "");
 }
 
 }  // namespace

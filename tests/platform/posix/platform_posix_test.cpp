@@ -222,6 +222,13 @@ TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
   SetVariable("CASSORIND_COM231", nullptr);
 }
 
+TEST(PosixPaths, AreAbsoluteFromTheRootOnly) {
+  EXPECT_TRUE(IsAbsolutePath("/x"));
+  for (const char* const path : {"", "x", "\\x", "D:\\x", "D:/x", "\\\\server\\x"}) {
+    EXPECT_FALSE(IsAbsolutePath(path)) << path;
+  }
+}
+
 TEST(PosixSerialPorts, AreTheStandardDevicesWhereNothingElseIsNamed) {
   const bool exists = std::filesystem::exists("/dev/ttyS0");
   SerialPorts ports;

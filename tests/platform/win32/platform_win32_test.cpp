@@ -55,6 +55,15 @@ TEST(Win32Files, KeepTheirOtherAttributes) {
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
+TEST(Win32Files, AreAbsoluteWithADriveOrAShareOnly) {
+  for (const char* const path : {"D:\\x", "d:/x", "D:x", "\\\\server\\x", "//server/x"}) {
+    EXPECT_TRUE(IsAbsolutePath(path)) << path;
+  }
+  for (const char* const path : {"", "x", "\\", "\\x", "/x", "x\\y:"}) {
+    EXPECT_FALSE(IsAbsolutePath(path)) << path;
+  }
+}
+
 TEST(Win32Files, AreNamedInTheAnsiCodePage) {
   const TempDirectory directory;
   const std::wstring wide = L"\u00E9.txt";
