@@ -75,6 +75,11 @@ void ItemStore::SetPlace(const Module& module, std::uint32_t position, std::uint
   }
 }
 
+void ItemStore::StoreBack(const Module& module, Item record) {
+  const std::uint32_t target = WriteBackPosition(module, record.index);
+  if (target != kNoItem) Replace(target, std::move(record));
+}
+
 void ItemStore::Replace(std::uint32_t position, Item item) {
   Item& old = items_[position];
   if (old == item) return;

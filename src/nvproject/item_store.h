@@ -48,6 +48,9 @@ class ItemStore {
   // Writes an item back with other figures of the layout.
   void SetPlace(const Module& module, std::uint32_t position, std::uint32_t offset,
                 std::uint32_t length);
+  // Stores a record that was copied before at the position that its index names, whatever stands
+  // there now.
+  void StoreBack(const Module& module, Item record);
 
   // Whether every item stands where its index says, so that writing one back touches no other.
   bool IsOrderly() const { return orderly_; }

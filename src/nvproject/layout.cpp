@@ -1,6 +1,7 @@
 #include "nvproject/layout.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace merovane::nvproject {
 namespace {
@@ -51,7 +52,9 @@ Layout::State Layout::StateOf(const ItemStore& items, std::uint32_t start) {
 Layout::Placed Layout::PlaceStructure(ItemStore& items, const ItemStore::Module& module,
                                       std::uint32_t position) {
   std::uint32_t at = 0;  // in the top-level item's data
-  open_.assign(1, {position, items[module.first + position].offset});
+  const auto open = [&](const Item& record) { open_.push_back({position, record.offset, record}); };
+  open_.clear();
+  open(items[module.first + position]);
   for (++position; !open_.empty();) {
     OpenStructure& structure = open_.back();
     if (position == module.count ||
@@ -59,7 +62,9 @@ Layout::Placed Layout::PlaceStructure(ItemStore& items, const ItemStore::Module&
       if (structure.alignment == 2 || structure.alignment == 4) {
         at = RoundUp(at, structure.alignment);
       }
-      items.SetPlace(module, module.first + structure.position, structure.alignment, at);
+      structure.record.offset = structure.alignment;
+      structure.record.length = at;
+      items.StoreBack(module, std::move(structure.record));
       open_.pop_back();
       continue;
     }
@@ -71,7 +76,7 @@ Layout::Placed Layout::PlaceStructure(ItemStore& items, const ItemStore::Module&
       items.SetPlace(module, module.first + position, at, member.length);
       at += width;
     } else if (member.type == ItemType::Struct || member.type == ItemType::Array) {
-      open_.push_back({position, member.offset});
+      open(member);
     }
     ++position;
   }

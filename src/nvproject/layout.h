@@ -43,6 +43,7 @@ class Layout {
   struct OpenStructure {
     std::uint32_t position;  // in the module
     std::uint32_t alignment;
+    Item record;  // as it was opened: a member of the same index takes its place meanwhile
   };
 
   struct Placed {

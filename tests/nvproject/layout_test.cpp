@@ -96,6 +96,21 @@ TEST(Layout, ARunGoesOnFromTheAlignmentsOfTheLast) {
   EXPECT_THAT(Places(*nested), ElementsAre(Pair(0, 4), Pair(4, 4), Pair(1, 0), Pair(0, 0)));
 }
 
+TEST(Layout, AStructureReturnsToThePlaceThatAMemberOfItsIndexTook) {
+  const auto parser =
+      Load({{{.name = "s", .type = kStruct, .id = 1},
+             {.name = "x", .type = kArray, .parent = 0, .size = 1, .index = 0},
+             {.name = "l", .type = kLong, .parent = 0, .content = "0xAABBCCDD"},
+             {.name = "t", .type = kShort, .length = 2, .content = "0x2222", .id = 4}}});
+  for (int run = 0; run < 2; ++run) {
+    std::vector<std::uint8_t> image;
+    ASSERT_EQ(Generate(*parser, image), Result::Success);
+    EXPECT_THAT(std::vector(image.begin() + 4, image.end()),
+                ElementsAre(0, 1, 0, 4, 0xAA, 0xBB, 0xCC, 0xDD, 0, 4, 0, 2, 0x22, 0x22, 0, 0));
+    EXPECT_EQ(parser->Items()[0].fullPath, "s");
+  }
+}
+
 TEST(Layout, ListsTopLevelItemsWithTheirPlaceInTheImage) {
   const auto parser = Load({{{.name = "a", .type = kChar, .length = 1},
                              {.name = "b", .type = kShort, .length = 2},
