@@ -25,7 +25,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int32_t kFirstPort = 200;
+constexpr std::int32_t kFirstPort = 200;
 constexpr double kSleepBeforeReport = 0.2;  // in every receive measurement
 
 double CpuSeconds(clockid_t clock) {
@@ -37,7 +37,7 @@ double CpuSeconds(clockid_t clock) {
 // A handset with its station thread.
 class Station {
  public:
-  Station(int32_t port, std::chrono::milliseconds answerTime)
+  Station(std::int32_t port, std::chrono::milliseconds answerTime)
       : port_(port), phone_(Options(answerTime)) {
     phone_.Start();
     setenv(("CASSORIND_COM" + std::to_string(port)).c_str(), phone_.DevicePath().c_str(), 1);
@@ -56,11 +56,11 @@ class Station {
     QV_EndPhoneTest_MT(port_);
   }
 
-  int32_t Result() const { return result_; }
+  std::int32_t Result() const { return result_; }
   const GSM_CALIBRATION& Found() const { return found_; }
   double StationCpu() const { return stationCpu_; }
   double HandsetCpu() const { return handsetCpu_; }
-  size_t Exchanges() const { return phone_.Received().size(); }
+  std::size_t Exchanges() const { return phone_.Received().size(); }
   double RequiredSleep() const {
     const auto frames = phone_.Received();
     return kSleepBeforeReport *
@@ -79,9 +79,9 @@ class Station {
     return options;
   }
 
-  int32_t port_;
+  std::int32_t port_;
   GSM_CALIBRATION found_{};
-  int32_t result_ = -1;
+  std::int32_t result_ = -1;
   double stationCpu_ = 0;
   std::atomic<double> handsetCpu_{0};
   handset::Handset phone_;
@@ -150,7 +150,7 @@ int main(int argc, char** argv) {
   std::printf("  handset's thread on a processor %5.2f s\n", station.HandsetCpu());
 
   const Round many = Run(count, answerTime);
-  size_t different = 0;
+  std::size_t different = 0;
   for (const auto& each : many.stations) {
     different += each->Result() != PC_ERR_SUCCESS || !Same(each->Found(), station.Found());
   }

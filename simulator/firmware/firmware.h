@@ -1,3 +1,4 @@
+// What the parts of a handset stand on, and what a part is.
 #pragma once
 
 #include <cstdint>
@@ -24,8 +25,7 @@ enum class Power {
 
 using StatusMap = std::map<std::string, std::string>;
 
-// What the parts of a handset (its modules) stand on. Everything here is called on the
-// handset's own thread.
+// What the parts of a handset stand on. Everything here is called on the handset's own thread.
 class Firmware {
  public:
   virtual const HandsetOptions& Options() const = 0;
@@ -34,25 +34,25 @@ class Firmware {
   virtual Random& Noise() = 0;
 
   // An answer to a command; the frames of one answer leave in the order of the calls.
-  virtual void Answer(uint8_t type, uint8_t subtype, Bytes payload) = 0;
+  virtual void Answer(std::uint8_t type, std::uint8_t subtype, Bytes payload) = 0;
   void Answer(const Frame& request, Bytes payload = {}) {
     Answer(request.type, request.subtype, std::move(payload));
   }
   // Subtype 2 of the answer's type.
   virtual void Refuse(const Frame& request) = 0;
   // Something nobody asked for: lost when no station listens or reads.
-  virtual void Report(uint8_t type, uint8_t subtype, Bytes payload) = 0;
+  virtual void Report(std::uint8_t type, std::uint8_t subtype, Bytes payload) = 0;
 
   // Runs the task after this much of the handset's time, unless it restarts before.
   virtual void After(milliseconds delay, std::function<void()> task) = 0;
 
   virtual Power PowerState() const = 0;
-  virtual uint8_t Mode() const = 0;
-  virtual void EnterMode(uint8_t mode) = 0;
+  virtual std::uint8_t Mode() const = 0;
+  virtual void EnterMode(std::uint8_t mode) = 0;
   virtual void Sleep() = 0;
   // Off and on again, after what was answered has left: into a mode, or booting without one. The
   // port stays, or vanishes and comes back.
-  virtual void Restart(std::optional<uint8_t> mode, bool portVanishes) = 0;
+  virtual void Restart(std::optional<std::uint8_t> mode, bool portVanishes) = 0;
 
   virtual void Note(const std::string& line) = 0;
 
@@ -60,10 +60,10 @@ class Firmware {
   ~Firmware() = default;
 };
 
-// A part of the handset that answers commands and keeps the state behind them.
-class Module {
+// A part of the handset: it answers commands and keeps what they change.
+class Part {
  public:
-  virtual ~Module() = default;
+  virtual ~Part() = default;
 
   // Names its status values ("<name>.<value>") and its factory data.
   virtual std::string Name() const = 0;

@@ -1,3 +1,4 @@
+// How a simulated handset is to be.
 #pragma once
 
 #include <chrono>
@@ -7,35 +8,24 @@
 #include <string>
 #include <vector>
 
+#include "transport/transport.h"
 #include "wire/wire.h"
 
 namespace handset {
 
 using std::chrono::milliseconds;
 
-enum class TransportKind { Pty, Tcp, Serial };
-
 // Where a handset keeps its serial numbers: in production flash item 0, or in the
 // production-information block.
 enum class SerialLayout { Flash, Production };
 
-struct HandsetOptions {
-  TransportKind transport = TransportKind::Pty;
-  // Pty: the symbolic link that names the device; empty makes one in a temporary folder.
-  std::string link;
-  // TCP: loopback and a free port unless told otherwise.
-  std::string address = "127.0.0.1";
-  uint16_t tcpPort = 0;
-  // Serial: a device of this machine.
-  std::string serialDevice;
-  unsigned baudRate = 115200;
-
+struct HandsetOptions : PortOptions {
   ByteOrder byteOrder = ByteOrder::Big;
 
   // A booting handset repeats its start frame until a station picks a start mode. With a mode
   // given here it boots straight into that mode and sends none.
   milliseconds startFrameInterval{100};
-  std::optional<uint8_t> startMode;
+  std::optional<std::uint8_t> startMode;
 
   // What the port does at a restart or a mode change: stays, or vanishes and comes back.
   bool portVanishes = false;
@@ -58,12 +48,12 @@ struct HandsetOptions {
   bool refuseUnknown = true;
 
   // The same seed repeats the same faults and the same noise.
-  uint64_t seed = 1;
+  std::uint64_t seed = 1;
   // As `Handset::SetFault` takes them.
   std::vector<std::string> faults;
 
   // Received frames kept for inspection; older ones are forgotten.
-  size_t journalCapacity = 10'000;
+  std::size_t journalCapacity = 10'000;
   // Called on the handset's thread with one line per frame and event.
   std::function<void(const std::string&)> transcript;
 };

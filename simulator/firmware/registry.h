@@ -1,3 +1,6 @@
+// Who answers which command. A type and subtype may have several handlers, which are all called
+// in the order in which they registered: some commands mean one thing to several parts of the
+// handset. A handler of a whole type hears the subtypes that nobody named.
 #pragma once
 
 #include <cstdint>
@@ -13,21 +16,20 @@
 
 namespace handset {
 
-// Who answers which command. A type and subtype may have several handlers, which are all called
-// in the order in which they registered: some commands mean one thing to several parts of the
-// handset. A handler of a whole type hears the subtypes that nobody named.
 class Registry {
  public:
   using Handler = std::function<void(const Frame&)>;
 
-  void On(uint8_t type, uint8_t subtype, Handler handler) {
+  void On(std::uint8_t type, std::uint8_t subtype, Handler handler) {
     exact_[{type, subtype}].push_back(std::move(handler));
   }
-  void OnType(uint8_t type, Handler handler) { wholeTypes_[type].push_back(std::move(handler)); }
+  void OnType(std::uint8_t type, Handler handler) {
+    wholeTypes_[type].push_back(std::move(handler));
+  }
 
   // For commands whose answers carry another type than they do: a refusal goes by that type.
-  void SetAnswerType(uint8_t request, uint8_t answer) { answerTypes_[request] = answer; }
-  uint8_t AnswerType(uint8_t request) const {
+  void SetAnswerType(std::uint8_t request, std::uint8_t answer) { answerTypes_[request] = answer; }
+  std::uint8_t AnswerType(std::uint8_t request) const {
     auto found = answerTypes_.find(request);
     return found == answerTypes_.end() ? request : found->second;
   }
@@ -46,8 +48,8 @@ class Registry {
   }
 
   // Everything else is not heard before a start mode was chosen.
-  void AllowWhileBooting(uint8_t type) { whileBooting_.insert(type); }
-  bool AllowedWhileBooting(uint8_t type) const { return whileBooting_.contains(type); }
+  void AllowWhileBooting(std::uint8_t type) { whileBooting_.insert(type); }
+  bool AllowedWhileBooting(std::uint8_t type) const { return whileBooting_.contains(type); }
 
   // False when nobody knows the command.
   bool Dispatch(const Frame& frame) const {
@@ -63,10 +65,10 @@ class Registry {
     return true;
   }
 
-  std::map<std::pair<uint8_t, uint8_t>, std::vector<Handler>> exact_;
-  std::map<uint8_t, std::vector<Handler>> wholeTypes_;
-  std::map<uint8_t, uint8_t> answerTypes_;
-  std::set<uint8_t> whileBooting_;
+  std::map<std::pair<std::uint8_t, std::uint8_t>, std::vector<Handler>> exact_;
+  std::map<std::uint8_t, std::vector<Handler>> wholeTypes_;
+  std::map<std::uint8_t, std::uint8_t> answerTypes_;
+  std::set<std::uint8_t> whileBooting_;
   std::vector<std::pair<std::string, AtHandler>> at_;
 };
 

@@ -20,7 +20,7 @@ void Storage::Open(const std::string& path, bool blank) {
   if (path.empty() || blank || !std::filesystem::exists(path)) return;
   try {
     std::ifstream file(path);
-    auto json = nlohmann::json::parse(file);
+    const auto json = nlohmann::json::parse(file);
     if (json.at("version") != kFormatVersion) throw std::runtime_error("another version");
     for (const auto& part : json.at("made")) made_.insert(part.get<std::string>());
     for (const auto& [name, hex] : json.at("items").items()) {
@@ -33,7 +33,7 @@ void Storage::Open(const std::string& path, bool blank) {
 }
 
 const Bytes* Storage::Find(const std::string& name) const {
-  auto found = items_.find(name);
+  const auto found = items_.find(name);
   return found == items_.end() ? nullptr : &found->second;
 }
 
@@ -64,7 +64,7 @@ void Storage::Save() {
   json["items"] = nlohmann::json::object();
   for (const auto& [name, bytes] : items_) json["items"][name] = ToHex(bytes);
 
-  std::string next = path_ + ".new";
+  const std::string next = path_ + ".new";
   {
     std::ofstream file(next, std::ios::trunc);
     file << json.dump(1) << '\n';

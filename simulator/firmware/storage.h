@@ -1,3 +1,6 @@
+// What a handset keeps when it is switched off: named items of bytes, such as "flash/0" or
+// "nv/5". With a file, every change that was saved survives the program too: the file is
+// replaced as a whole, so that it never holds half a change.
 #pragma once
 
 #include <functional>
@@ -11,9 +14,6 @@
 
 namespace handset {
 
-// What a handset keeps when it is switched off: named items of bytes, such as "flash/0" or
-// "nv/5". With a file, every change that was saved survives the program too: the file is
-// replaced as a whole, so that it never holds half a change.
 class Storage {
  public:
   // An empty path keeps everything in memory. Throws std::runtime_error on a file that is there

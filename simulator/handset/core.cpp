@@ -6,16 +6,16 @@
 #include <future>
 #include <stdexcept>
 
-#include "parts/modules.h"
+#include "parts/parts.h"
 
 namespace handset {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr uint8_t kRefusedSubtype = 2;
-// A station that does not read loses unsolicited frames, as behind a line without flow control.
-constexpr size_t kUnsolicitedBacklogLimit = 65536;
+constexpr std::uint8_t kRefusedSubtype = 2;
+// A station that does not read loses unsolicited frames, as on a line without flow control.
+constexpr std::size_t kUnsolicitedBacklogLimit = 65536;
 constexpr milliseconds kDrainPoll{5};
 constexpr milliseconds kDrainLimit{2000};
 // From the last byte of an answer to the fall: a station must get the chance to read it.
@@ -23,13 +23,13 @@ constexpr milliseconds kRestartDelay{100};
 constexpr milliseconds kPortRetry{100};
 // A handset without time of its own still leaves some to the machine.
 constexpr milliseconds kShortestTask{1};
-constexpr size_t kTranscriptPayloadBytes = 64;
+constexpr std::size_t kTranscriptPayloadBytes = 64;
 
 std::string Describe(const char* direction, const Frame& frame) {
   std::string line = std::string(direction) + " " + std::to_string(frame.type) + "/" +
                      std::to_string(frame.subtype);
   if (frame.sequence != 0) line += " sequence " + std::to_string(frame.sequence);
-  size_t shown = std::min(frame.payload.size(), kTranscriptPayloadBytes);
+  const std::size_t shown = std::min(frame.payload.size(), kTranscriptPayloadBytes);
   if (shown > 0) line += "  " + ToHex(std::span(frame.payload).first(shown));
   if (shown < frame.payload.size()) {
     line += " … (" + std::to_string(frame.payload.size()) + " bytes)";
@@ -62,14 +62,14 @@ Core::~Core() { Stop(); }
 void Core::SetUp() {
   started_ = Clock::now();
   flash_.Open(options_.stateFile, options_.blank);
-  modules_ = MakeModules(*this);
-  for (auto& module : modules_) {
-    module->Register(registry_);
-    if (flash_.NeedsFactoryData(module->Name())) module->WriteFactoryData(flash_);
+  parts_ = MakeParts(*this);
+  for (auto& part : parts_) {
+    part->Register(registry_);
+    if (flash_.NeedsFactoryData(part->Name())) part->WriteFactoryData(flash_);
   }
   flash_.Save();
   transport_ = MakeTransport(io_, options_,
-                             {[this](std::span<const uint8_t> bytes) { decoder_.Feed(bytes); },
+                             {[this](std::span<const std::uint8_t> bytes) { decoder_.Feed(bytes); },
                               [this](bool connected) {
                                 Note(connected ? "station connected" : "station gone");
                                 decoder_.Reset();
@@ -83,19 +83,19 @@ void Core::SetUp() {
 }
 
 void Core::Start() {
-  std::lock_guard lock(lifecycle_);
+  const std::lock_guard lock(lifecycle_);
   if (std::exchange(startedOnce_, true)) throw std::logic_error("a handset starts only once");
   SetUp();
   thread_ = std::thread([this] {
     ownThread_ = std::this_thread::get_id();
-    auto work = asio::make_work_guard(io_);
+    const auto work = asio::make_work_guard(io_);
     io_.run();
   });
   running_ = true;
 }
 
 void Core::Stop() {
-  std::lock_guard lock(lifecycle_);
+  const std::lock_guard lock(lifecycle_);
   if (!std::exchange(running_, false)) return;
   io_.stop();
   thread_.join();
@@ -108,7 +108,7 @@ void Core::Invoke(const std::function<void()>& function, WhenStopped whenStopped
     function();
     return;
   }
-  std::lock_guard lock(lifecycle_);
+  const std::lock_guard lock(lifecycle_);
   if (!running_) {
     if (whenStopped == WhenStopped::Throw) throw std::logic_error("not running");
     function();
@@ -131,19 +131,19 @@ void Core::Invoke(const std::function<void()>& function, WhenStopped whenStopped
 
 // --- power and modes
 
-void Core::PowerUp(std::optional<uint8_t> mode) {
+void Core::PowerUp(std::optional<std::uint8_t> mode) {
   ++boot_;
   mode_ = 0;
   SetPower(Power::Booting);
-  for (auto& module : modules_) module->PowerOn();
+  for (auto& part : parts_) part->PowerOn();
   if (mode) EnterMode(*mode);
   SaveFlash();
 }
 
-void Core::EnterMode(uint8_t mode) {
+void Core::EnterMode(std::uint8_t mode) {
   mode_ = mode;
   SetPower(Power::Running);
-  for (auto& module : modules_) module->ModeEntered();
+  for (auto& part : parts_) part->ModeEntered();
 }
 
 void Core::SetPower(Power power) {
@@ -153,14 +153,14 @@ void Core::SetPower(Power power) {
 
 void Core::Publish() {
   {
-    std::lock_guard lock(stateMutex_);
+    const std::lock_guard lock(stateMutex_);
     state_ = {power_, mode_, portPresent_, transport_ && transport_->Connected()};
   }
   stateChanged_.notify_all();
 }
 
 HandsetState Core::State() const {
-  std::lock_guard lock(stateMutex_);
+  const std::lock_guard lock(stateMutex_);
   return state_;
 }
 
@@ -173,35 +173,35 @@ bool Core::WaitForState(const std::function<bool(const HandsetState&)>& predicat
 StatusMap Core::Status() const {
   static constexpr const char* kPowerNames[] = {"booting", "running", "asleep", "off"};
   StatusMap status;
-  status["power"] = kPowerNames[static_cast<size_t>(power_)];
+  status["power"] = kPowerNames[static_cast<std::size_t>(power_)];
   status["mode"] = std::to_string(mode_);
   status["port"] = portPresent_ ? "present" : "away";
   status["station"] = transport_ && transport_->Connected() ? "connected" : "absent";
   status["faults"] = faults_.Describe();
-  for (const auto& module : modules_) {
+  for (const auto& part : parts_) {
     StatusMap own;
-    module->Describe(own);
-    for (auto& [name, value] : own) status[module->Name() + "." + name] = std::move(value);
+    part->Describe(own);
+    for (auto& [name, value] : own) status[part->Name() + "." + name] = std::move(value);
   }
   return status;
 }
 
-void Core::Restart(std::optional<uint8_t> mode, bool portVanishes) {
+void Core::Restart(std::optional<std::uint8_t> mode, bool portVanishes) {
   ++boot_;
   SetPower(Power::Off);
   Note("restarts");
   RestartWhenDrained(mode, portVanishes, Clock::now() + kDrainLimit);
 }
 
-void Core::RestartWhenDrained(std::optional<uint8_t> mode, bool portVanishes,
+void Core::RestartWhenDrained(std::optional<std::uint8_t> mode, bool portVanishes,
                               Clock::time_point limit) {
   Later(kDrainPoll, [this, mode, portVanishes, limit, boot = boot_] {
     if (boot != boot_) return;
-    bool drained = outbox_.Empty() && transport_->Drained();
+    const bool drained = outbox_.Empty() && transport_->Drained();
     if (!drained && Clock::now() < limit) return RestartWhenDrained(mode, portVanishes, limit);
     Later(kRestartDelay, [this, mode, portVanishes, boot] {
       if (boot != boot_) return;
-      auto powerUp = [this, mode, boot] {
+      const auto powerUp = [this, mode, boot] {
         if (boot == boot_) PowerUp(mode);
       };
       if (!portVanishes) return powerUp();
@@ -296,11 +296,11 @@ std::optional<Reply> Core::ScriptedReply(const Frame& frame) {
     if (queued->second.empty()) once_.erase(queued);
     return maker(frame);
   }
-  auto standing = always_.find(key);
+  const auto standing = always_.find(key);
   return standing == always_.end() ? std::nullopt : standing->second(frame);
 }
 
-void Core::Script(uint8_t type, uint8_t subtype, ReplyMaker maker, bool once) {
+void Core::Script(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker, bool once) {
   if (once) {
     once_[{type, subtype}].push_back(std::move(maker));
   } else {
@@ -325,7 +325,7 @@ void Core::Play(const Reply& reply) {
 
 // --- what is said
 
-void Core::Answer(uint8_t type, uint8_t subtype, Bytes payload) {
+void Core::Answer(std::uint8_t type, std::uint8_t subtype, Bytes payload) {
   Frame answer{type, subtype, std::move(payload)};
   if (editor_) editor_(request_, answer);
   Send(answer, options_.latency, false);
@@ -335,15 +335,15 @@ void Core::Refuse(const Frame& request) {
   Answer(registry_.AnswerType(request.type), kRefusedSubtype, {});
 }
 
-void Core::Report(uint8_t type, uint8_t subtype, Bytes payload) {
-  bool heard = transport_->Connected() && transport_->Backlog() < kUnsolicitedBacklogLimit;
-  bool able = power_ == Power::Booting || power_ == Power::Running;
+void Core::Report(std::uint8_t type, std::uint8_t subtype, Bytes payload) {
+  const bool heard = transport_->Connected() && transport_->Backlog() < kUnsolicitedBacklogLimit;
+  const bool able = power_ == Power::Booting || power_ == Power::Running;
   if (!heard || !able || faults_.Always(FaultKind::Silent)) return;
   Send({type, subtype, std::move(payload)}, milliseconds::zero(), true);
 }
 
 void Core::Send(const Frame& frame, milliseconds delay, bool unsolicited) {
-  std::string fault = outbox_.SendFrame(EncodeFrame(frame, Order()), delay, unsolicited);
+  const std::string fault = outbox_.SendFrame(EncodeFrame(frame, Order()), delay, unsolicited);
   if (options_.transcript) {
     Note(Describe("<-", frame) + (fault.empty() ? "" : " [" + fault + "]"));
   }
@@ -352,7 +352,7 @@ void Core::Send(const Frame& frame, milliseconds delay, bool unsolicited) {
 // --- time and notes
 
 void Core::After(milliseconds delay, std::function<void()> task) {
-  Clock::duration scaled = std::max<Clock::duration>(Scaled(delay), kShortestTask);
+  const Clock::duration scaled = std::max<Clock::duration>(Scaled(delay), kShortestTask);
   Later(scaled, [this, task = std::move(task), boot = boot_] {
     if (boot != boot_) return;
     task();
@@ -361,7 +361,7 @@ void Core::After(milliseconds delay, std::function<void()> task) {
 }
 
 void Core::Later(Clock::duration delay, std::function<void()> task) {
-  auto timer = std::make_shared<asio::steady_timer>(io_, delay);
+  const auto timer = std::make_shared<asio::steady_timer>(io_, delay);
   timer->async_wait([timer, task = std::move(task)](const asio::error_code& error) {
     if (!error) task();
   });

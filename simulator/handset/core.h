@@ -1,3 +1,4 @@
+// Joins the port, the parts, the faults and the scripts; everything runs on one thread.
 #pragma once
 
 #include <asio/executor_work_guard.hpp>
@@ -15,16 +16,15 @@
 #include <vector>
 
 #include "firmware/firmware.h"
-#include "firmware/journal.h"
 #include "handset/faults.h"
 #include "handset/handset.h"
+#include "handset/outbox.h"
 #include "transport/transport.h"
-#include "wire/outbox.h"
+#include "wire/journal.h"
 #include "wire/reply.h"
 
 namespace handset {
 
-// Joins the port, the modules, the faults and the scripts; everything runs on one thread.
 class Core final : public Firmware {
  public:
   explicit Core(HandsetOptions options);
@@ -45,7 +45,7 @@ class Core final : public Firmware {
   Journal& Heard() { return journal_; }
   Faults& FaultRules() { return faults_; }
 
-  void Script(uint8_t type, uint8_t subtype, ReplyMaker maker, bool once);
+  void Script(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker, bool once);
   void EditAnswers(Handset::AnswerEditor editor) { editor_ = std::move(editor); }
   void ClearScripts();
   void Play(const Reply& reply);
@@ -58,22 +58,22 @@ class Core final : public Firmware {
   Storage& Flash() override { return flash_; }
   Random& Noise() override { return noise_; }
   using Firmware::Answer;
-  void Answer(uint8_t type, uint8_t subtype, Bytes payload) override;
+  void Answer(std::uint8_t type, std::uint8_t subtype, Bytes payload) override;
   void Refuse(const Frame& request) override;
-  void Report(uint8_t type, uint8_t subtype, Bytes payload) override;
+  void Report(std::uint8_t type, std::uint8_t subtype, Bytes payload) override;
   void After(milliseconds delay, std::function<void()> task) override;
   Power PowerState() const override { return power_; }
-  uint8_t Mode() const override { return mode_; }
-  void EnterMode(uint8_t mode) override;
+  std::uint8_t Mode() const override { return mode_; }
+  void EnterMode(std::uint8_t mode) override;
   void Sleep() override { SetPower(Power::Asleep); }
-  void Restart(std::optional<uint8_t> mode, bool portVanishes) override;
+  void Restart(std::optional<std::uint8_t> mode, bool portVanishes) override;
   void Note(const std::string& line) override;
 
  private:
-  using Key = std::pair<uint8_t, uint8_t>;
+  using Key = std::pair<std::uint8_t, std::uint8_t>;
 
   void SetUp();
-  void PowerUp(std::optional<uint8_t> mode);
+  void PowerUp(std::optional<std::uint8_t> mode);
   void SetPower(Power power);
   void Publish();
   void Hear(Frame frame);
@@ -81,7 +81,7 @@ class Core final : public Firmware {
   std::optional<Reply> ScriptedReply(const Frame& frame);
   void Send(const Frame& frame, milliseconds delay, bool unsolicited);
   void SaveFlash();
-  void RestartWhenDrained(std::optional<uint8_t> mode, bool portVanishes,
+  void RestartWhenDrained(std::optional<std::uint8_t> mode, bool portVanishes,
                           std::chrono::steady_clock::time_point limit);
   void AppearAfter(milliseconds delay, std::function<void()> then);
   // A timer of the port's or the restart's own: After's tasks end with a restart.
@@ -95,7 +95,7 @@ class Core final : public Firmware {
   Faults faults_;
   Journal journal_;
   Registry registry_;
-  std::vector<std::unique_ptr<Module>> modules_;
+  std::vector<std::unique_ptr<Part>> parts_;
   std::unique_ptr<Transport> transport_;
   FrameDecoder decoder_;
   Outbox outbox_;
@@ -108,7 +108,7 @@ class Core final : public Firmware {
   Frame request_;  // the last one carried out
 
   Power power_ = Power::Off;
-  uint8_t mode_ = 0;
+  std::uint8_t mode_ = 0;
   bool portPresent_ = false;
   unsigned boot_ = 0;        // counts power-ups and -downs: a task of an earlier one is void
   unsigned portChange_ = 0;  // the same for the port's coming and going

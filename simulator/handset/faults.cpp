@@ -48,7 +48,7 @@ double ParseProbability(std::string_view digits, std::string_view text) {
 }
 
 std::string_view CutField(std::string_view& rest) {
-  size_t comma = rest.find(',');
+  const std::size_t comma = rest.find(',');
   std::string_view field = rest.substr(0, comma);
   rest = comma == std::string_view::npos ? "" : rest.substr(comma + 1);
   return field;
@@ -56,8 +56,8 @@ std::string_view CutField(std::string_view& rest) {
 
 }  // namespace
 
-Faults::Faults(uint64_t seed) {
-  for (size_t kind = 0; kind < kFaultKinds; ++kind) {
+Faults::Faults(std::uint64_t seed) {
+  for (std::size_t kind = 0; kind < kFaultKinds; ++kind) {
     answerStreams_.emplace_back(seed, 2 * kind + 1);
     unsolicitedStreams_.emplace_back(seed, 2 * kind + 2);
   }
@@ -68,9 +68,9 @@ void Faults::Set(std::string_view text) {
     rules_.fill({});
     return;
   }
-  size_t equals = text.find('=');
+  const std::size_t equals = text.find('=');
   if (equals == std::string_view::npos) Refuse(text);
-  size_t kind = 0;
+  std::size_t kind = 0;
   while (kind < kFaultKinds && kNames[kind].name != text.substr(0, equals)) ++kind;
   if (kind == kFaultKinds) Refuse(text);
 
@@ -87,10 +87,10 @@ void Faults::Set(std::string_view text) {
   }
   while (!rest.empty()) {
     std::string_view field = CutField(rest);
-    size_t colon = field.find(':');
+    const std::size_t colon = field.find(':');
     if (colon == 0 || colon == std::string_view::npos) Refuse(text);
-    std::string_view key = field.substr(0, colon);
-    unsigned value = ParseNumber(field.substr(colon + 1), text);
+    const std::string_view key = field.substr(0, colon);
+    const unsigned value = ParseNumber(field.substr(colon + 1), text);
     if (key == name.timeKey) {
       rule.time = std::chrono::milliseconds(value);
     } else if (key == name.countKey && value > 0) {
@@ -103,7 +103,7 @@ void Faults::Set(std::string_view text) {
 }
 
 bool Faults::Strikes(FaultKind kind, bool unsolicited) {
-  FaultRule& rule = rules_[static_cast<size_t>(kind)];
+  FaultRule& rule = rules_[static_cast<std::size_t>(kind)];
   if (rule.next > 0) {
     if (unsolicited) return false;
     --rule.next;
@@ -111,17 +111,17 @@ bool Faults::Strikes(FaultKind kind, bool unsolicited) {
   }
   if (rule.probability <= 0) return false;
   auto& streams = unsolicited ? unsolicitedStreams_ : answerStreams_;
-  return streams[static_cast<size_t>(kind)].Uniform() < rule.probability;
+  return streams[static_cast<std::size_t>(kind)].Uniform() < rule.probability;
 }
 
-uint32_t Faults::Draw(uint32_t bound, bool unsolicited) {
+std::uint32_t Faults::Draw(std::uint32_t bound, bool unsolicited) {
   auto& streams = unsolicited ? unsolicitedStreams_ : answerStreams_;
-  return streams[static_cast<size_t>(FaultKind::Corrupt)].Below(bound);
+  return streams[static_cast<std::size_t>(FaultKind::Corrupt)].Below(bound);
 }
 
 std::string Faults::Describe() const {
   std::ostringstream text;
-  for (size_t kind = 0; kind < kFaultKinds; ++kind) {
+  for (std::size_t kind = 0; kind < kFaultKinds; ++kind) {
     const FaultRule& rule = rules_[kind];
     if (rule.next == 0 && rule.probability <= 0) continue;
     if (text.tellp() > 0) text << ' ';
@@ -132,7 +132,7 @@ std::string Faults::Describe() const {
       text << rule.probability;
     }
   }
-  std::string described = text.str();
+  const std::string described = text.str();
   return described.empty() ? "none" : described;
 }
 

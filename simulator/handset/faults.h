@@ -1,3 +1,5 @@
+// Misbehaviour on demand. Answers and unsolicited frames draw from streams of their own, since
+// the number of unsolicited ones depends on the clock and would make runs differ.
 #pragma once
 
 #include <array>
@@ -22,7 +24,7 @@ enum class FaultKind {
   Silent,      // a command is not heard at all
   Disconnect,  // the line is cut instead of sending a frame
 };
-inline constexpr size_t kFaultKinds = 9;
+inline constexpr std::size_t kFaultKinds = 9;
 
 struct FaultRule {
   double probability = 0;
@@ -31,11 +33,9 @@ struct FaultRule {
   unsigned count = 0;
 };
 
-// Misbehaviour on demand. Answers and unsolicited frames draw from streams of their own, since
-// the number of unsolicited ones depends on the clock and would make runs differ.
 class Faults {
  public:
-  explicit Faults(uint64_t seed);
+  explicit Faults(std::uint64_t seed);
 
   // "drop=0.1", "split=1,pieces:4,gap:5", "delay=next:2,ms:300", "corrupt=0.05,bytes:2",
   // "merge=next:1,hold:50", "refuse=next:1", "silent=1", "disconnect=next:1", "none".
@@ -44,8 +44,8 @@ class Faults {
 
   bool Strikes(FaultKind kind, bool unsolicited = false);
   bool Always(FaultKind kind) const { return Rule(kind).probability >= 1; }
-  const FaultRule& Rule(FaultKind kind) const { return rules_[static_cast<size_t>(kind)]; }
-  uint32_t Draw(uint32_t bound, bool unsolicited = false);
+  const FaultRule& Rule(FaultKind kind) const { return rules_[static_cast<std::size_t>(kind)]; }
+  std::uint32_t Draw(std::uint32_t bound, bool unsolicited = false);
   std::string Describe() const;
 
  private:

@@ -8,8 +8,8 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kAssertType = 0xFF;
-constexpr uint8_t kLastAssertKind = 2;
+constexpr std::uint8_t kAssertType = 0xFF;
+constexpr std::uint8_t kLastAssertKind = 2;
 
 ReplyMaker Always(Reply reply) {
   return [reply = std::move(reply)](const Frame&) { return reply; };
@@ -40,14 +40,14 @@ void Handset::Start() { core_->Start(); }
 void Handset::Stop() { core_->Stop(); }
 
 std::string Handset::DevicePath() const {
-  bool tcp = core_->Options().transport == TransportKind::Tcp;
+  const bool tcp = core_->Options().transport == TransportKind::Tcp;
   return (tcp ? "socket://" : "") + core_->Address();
 }
 
 std::string Handset::Address() const { return core_->Address(); }
 
 HandsetState Handset::State() const {
-  // Behind whatever the handset is doing at the moment.
+  // After whatever the handset is doing at the moment.
   return OnOwnThread([&] { return core_->State(); });
 }
 
@@ -61,8 +61,8 @@ StatusMap Handset::Status() const {
 }
 
 std::string Handset::Status(const std::string& name) const {
-  StatusMap status = Status();
-  auto found = status.find(name);
+  const StatusMap status = Status();
+  const auto found = status.find(name);
   return found == status.end() ? "" : found->second;
 }
 
@@ -80,33 +80,33 @@ void Handset::Store(const std::string& name, Bytes bytes) {
   });
 }
 
-std::optional<Frame> Handset::NextFrame(uint8_t type, uint8_t subtype,
+std::optional<Frame> Handset::NextFrame(std::uint8_t type, std::uint8_t subtype,
                                         std::chrono::milliseconds timeout) {
   return core_->Heard().Next(type, subtype, timeout);
 }
 
 std::vector<Frame> Handset::Received() const { return core_->Heard().Frames(); }
 
-size_t Handset::ReceivedCount(uint8_t type, uint8_t subtype) const {
+std::size_t Handset::ReceivedCount(std::uint8_t type, std::uint8_t subtype) const {
   return core_->Heard().Count(type, subtype);
 }
 
 std::vector<std::string> Handset::Rejected() const { return core_->Heard().Rejects(); }
 void Handset::ClearJournal() { core_->Heard().Clear(); }
 
-void Handset::ExpectOnce(uint8_t type, uint8_t subtype, Reply reply) {
+void Handset::ExpectOnce(std::uint8_t type, std::uint8_t subtype, Reply reply) {
   ExpectOnce(type, subtype, Always(std::move(reply)));
 }
 
-void Handset::ExpectOnce(uint8_t type, uint8_t subtype, ReplyMaker maker) {
+void Handset::ExpectOnce(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker) {
   OnOwnThread([&] { core_->Script(type, subtype, std::move(maker), true); });
 }
 
-void Handset::OnFrame(uint8_t type, uint8_t subtype, Reply reply) {
+void Handset::OnFrame(std::uint8_t type, std::uint8_t subtype, Reply reply) {
   OnFrame(type, subtype, Always(std::move(reply)));
 }
 
-void Handset::OnFrame(uint8_t type, uint8_t subtype, ReplyMaker maker) {
+void Handset::OnFrame(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker) {
   OnOwnThread([&] { core_->Script(type, subtype, std::move(maker), false); });
 }
 
@@ -118,11 +118,11 @@ void Handset::ClearScripts() {
   OnOwnThread([&] { core_->ClearScripts(); });
 }
 
-void Handset::SendFrame(uint8_t type, uint8_t subtype, Bytes payload) {
+void Handset::SendFrame(std::uint8_t type, std::uint8_t subtype, Bytes payload) {
   WhileRunning([&] { core_->Play(Reply::Answer(type, subtype, std::move(payload))); });
 }
 
-void Handset::SendRaw(Bytes bytes, size_t pieceBytes, std::chrono::milliseconds gap) {
+void Handset::SendRaw(Bytes bytes, std::size_t pieceBytes, std::chrono::milliseconds gap) {
   WhileRunning([&] { core_->Play(Reply::Raw(std::move(bytes)).InPieces(pieceBytes, gap)); });
 }
 
@@ -130,7 +130,7 @@ void Handset::SetFault(const std::string& text) {
   OnOwnThread([&] { core_->FaultRules().Set(text); });
 }
 
-void Handset::Assert(uint8_t kind) {
+void Handset::Assert(std::uint8_t kind) {
   if (kind > kLastAssertKind) throw std::invalid_argument("assert kinds are 0 to 2");
   WhileRunning([&] { core_->Report(kAssertType, kind, ToBytes("assert in layer1.c line 271")); });
 }

@@ -1,3 +1,10 @@
+// A simulated handset:
+//   Handset phone({.startMode = 1});
+//   phone.Start();
+//   setenv("CASSORIND_COM5", phone.DevicePath().c_str(), 1);
+// Everything but Start and Stop may be called from any thread at any time, also from within a
+// scripted answer. What needs a handset that is on (SendFrame, SendRaw, Assert, Restart and all
+// that is done to the port) throws std::logic_error before Start and after Stop.
 #pragma once
 
 #include <chrono>
@@ -19,18 +26,11 @@ class Core;
 
 struct HandsetState {
   Power power = Power::Booting;
-  uint8_t mode = 0;
+  std::uint8_t mode = 0;
   bool portPresent = false;
   bool stationConnected = false;
 };
 
-// A simulated handset:
-//   Handset phone({.startMode = 1});
-//   phone.Start();
-//   setenv("CASSORIND_COM5", phone.DevicePath().c_str(), 1);
-// Everything but Start and Stop may be called from any thread at any time, also from within a
-// scripted answer. What needs a handset that is on (SendFrame, SendRaw, Assert, Restart and all
-// that is done to the port) throws std::logic_error before Start and after Stop.
 class Handset {
  public:
   explicit Handset(HandsetOptions options);
@@ -63,35 +63,35 @@ class Handset {
 
   // --- what it heard
   // The next frame of that kind, waiting for it; frames before it are passed over.
-  std::optional<Frame> NextFrame(uint8_t type, uint8_t subtype,
+  std::optional<Frame> NextFrame(std::uint8_t type, std::uint8_t subtype,
                                  std::chrono::milliseconds timeout = std::chrono::seconds(10));
   std::vector<Frame> Received() const;
-  size_t ReceivedCount(uint8_t type, uint8_t subtype) const;
+  std::size_t ReceivedCount(std::uint8_t type, std::uint8_t subtype) const;
   // Why bytes between flags were no frame.
   std::vector<std::string> Rejected() const;
   void ClearJournal();
 
   // --- putting words in its mouth
   // For the next such frame only; several queue up.
-  void ExpectOnce(uint8_t type, uint8_t subtype, Reply reply);
-  void ExpectOnce(uint8_t type, uint8_t subtype, ReplyMaker maker);
+  void ExpectOnce(std::uint8_t type, std::uint8_t subtype, Reply reply);
+  void ExpectOnce(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker);
   // For every such frame; the maker runs on the handset's thread.
-  void OnFrame(uint8_t type, uint8_t subtype, Reply reply);
-  void OnFrame(uint8_t type, uint8_t subtype, ReplyMaker maker);
+  void OnFrame(std::uint8_t type, std::uint8_t subtype, Reply reply);
+  void OnFrame(std::uint8_t type, std::uint8_t subtype, ReplyMaker maker);
   // Changes each answer before it leaves, to cut it short for instance.
   using AnswerEditor = std::function<void(const Frame& request, Frame& answer)>;
   void EditAnswers(AnswerEditor editor);
   void ClearScripts();
   // Unasked, and untouched by faults.
-  void SendFrame(uint8_t type, uint8_t subtype, Bytes payload = {});
-  void SendRaw(Bytes bytes, size_t pieceBytes = 0, std::chrono::milliseconds gap = {});
+  void SendFrame(std::uint8_t type, std::uint8_t subtype, Bytes payload = {});
+  void SendRaw(Bytes bytes, std::size_t pieceBytes = 0, std::chrono::milliseconds gap = {});
 
   // --- making it misbehave
   // "drop=0.1", "split=next:2,pieces:4,gap:10", "none"; see README.md. Throws
   // std::invalid_argument.
   void SetFault(const std::string& text);
   // Reports an assert (kind 0 to 2).
-  void Assert(uint8_t kind);
+  void Assert(std::uint8_t kind);
   // Off and on again, as the restart command does it; the port does what the options say.
   void Restart();
   // The port goes away, and comes back after that time.

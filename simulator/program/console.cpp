@@ -38,7 +38,7 @@ void Run(Handset& handset, const std::string& verb, std::istringstream& words) {
   if (verb == "fault") {
     handset.SetFault(Rest(words));
   } else if (verb == "assert") {
-    handset.Assert(static_cast<uint8_t>(Number(words, 2)));
+    handset.Assert(static_cast<std::uint8_t>(Number(words, 2)));
   } else if (verb == "restart") {
     handset.Restart();
   } else if (verb == "vanish") {
@@ -50,8 +50,8 @@ void Run(Handset& handset, const std::string& verb, std::istringstream& words) {
   } else if (verb == "disconnect") {
     handset.Disconnect();
   } else if (verb == "frame") {
-    auto type = static_cast<uint8_t>(Number(words, 255));
-    auto subtype = static_cast<uint8_t>(Number(words, 255));
+    const auto type = static_cast<std::uint8_t>(Number(words, 255));
+    const auto subtype = static_cast<std::uint8_t>(Number(words, 255));
     handset.SendFrame(type, subtype, FromHex(Rest(words)));
   } else if (verb == "raw") {
     handset.SendRaw(FromHex(Rest(words)));

@@ -1,3 +1,5 @@
+// Carries out one line that was typed or piped to the running program; false on "quit". What it
+// has to say goes to standard output.
 #pragma once
 
 #include <string>
@@ -6,8 +8,6 @@
 
 namespace handset {
 
-// Carries out one line that was typed or piped to the running program; false on "quit". What it
-// has to say goes to standard output.
 bool RunConsoleLine(Handset& handset, const std::string& line);
 
 }  // namespace handset

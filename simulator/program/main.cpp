@@ -1,3 +1,4 @@
+// merovane-handset: a simulated handset until "quit" or a signal.
 #include <CLI/CLI.hpp>
 #include <asio/io_context.hpp>
 #include <asio/signal_set.hpp>
@@ -17,8 +18,8 @@ using handset::HandsetOptions;
 using handset::TransportKind;
 
 void TakeTcpAddress(const std::string& text, HandsetOptions& options) {
-  size_t colon = text.rfind(':');
-  std::string port = colon == std::string::npos ? text : text.substr(colon + 1);
+  const std::size_t colon = text.rfind(':');
+  const std::string port = colon == std::string::npos ? text : text.substr(colon + 1);
   std::string host = colon == std::string::npos ? "" : text.substr(0, colon);
   int number = -1;
   if (!CLI::detail::lexical_cast(port, number) || number < 0 || number > 65535) {
@@ -28,7 +29,7 @@ void TakeTcpAddress(const std::string& text, HandsetOptions& options) {
     host = host.substr(1, host.size() - 2);
   }
   options.transport = TransportKind::Tcp;
-  options.tcpPort = static_cast<uint16_t>(number);
+  options.tcpPort = static_cast<std::uint16_t>(number);
   if (!host.empty()) options.address = host;
 }
 
@@ -39,7 +40,8 @@ struct CommandLine {
 
 void Declare(CLI::App& app, CommandLine& line) {
   HandsetOptions& o = line.options;
-  auto milliseconds = [&app](const char* name, std::chrono::milliseconds& value, const char* help) {
+  const auto milliseconds = [&app](const char* name, std::chrono::milliseconds& value,
+                                   const char* help) {
     app.add_option_function<unsigned>(
            name, [&value](unsigned ms) { value = std::chrono::milliseconds(ms); }, help)
         ->type_name("MS");
@@ -64,7 +66,7 @@ void Declare(CLI::App& app, CommandLine& line) {
       "--little-endian", [&o] { o.byteOrder = handset::ByteOrder::Little; },
       "Fields least significant byte first");
   app.add_option_function<unsigned>(
-         "--mode", [&o](unsigned mode) { o.startMode = static_cast<uint8_t>(mode); },
+         "--mode", [&o](unsigned mode) { o.startMode = static_cast<std::uint8_t>(mode); },
          "Boot straight into this mode instead of waiting for a start mode")
       ->check(CLI::Range(0, 255));
   milliseconds("--start-interval-ms", o.startFrameInterval, "Time between start frames");

@@ -1,3 +1,5 @@
+// Reads and writes one non-blocking Asio stream. Writing goes to the system at once, and queues
+// only what it does not take.
 #pragma once
 
 #include <array>
@@ -13,12 +15,10 @@
 
 namespace handset {
 
-// Reads and writes one non-blocking Asio stream. Writing goes to the system at once, and queues
-// only what it does not take.
 template <typename Stream>
 class StreamPump : public std::enable_shared_from_this<StreamPump<Stream>> {
  public:
-  using Received = std::function<void(std::span<const uint8_t>)>;
+  using Received = std::function<void(std::span<const std::uint8_t>)>;
   using Ended = std::function<void()>;
 
   StreamPump(Stream stream, Received received, Ended ended)
@@ -28,16 +28,17 @@ class StreamPump : public std::enable_shared_from_this<StreamPump<Stream>> {
 
   // Reads until the stream ends, which may be tried again where the stream allows.
   void Read() {
-    stream_.async_read_some(asio::buffer(input_), [self = this->shared_from_this()](
-                                                      const asio::error_code& error, size_t count) {
-      if (self->closed_) return;
-      if (error) {
-        self->ended_();
-        return;
-      }
-      self->received_(std::span(self->input_).first(count));
-      if (!self->closed_) self->Read();
-    });
+    stream_.async_read_some(
+        asio::buffer(input_),
+        [self = this->shared_from_this()](const asio::error_code& error, std::size_t count) {
+          if (self->closed_) return;
+          if (error) {
+            self->ended_();
+            return;
+          }
+          self->received_(std::span(self->input_).first(count));
+          if (!self->closed_) self->Read();
+        });
   }
 
   void Write(Bytes bytes) {
@@ -59,7 +60,7 @@ class StreamPump : public std::enable_shared_from_this<StreamPump<Stream>> {
     stream_.close(ignored);
   }
 
-  size_t Backlog() const { return backlog_; }
+  std::size_t Backlog() const { return backlog_; }
   Stream& Native() { return stream_; }
 
  private:
@@ -67,7 +68,7 @@ class StreamPump : public std::enable_shared_from_this<StreamPump<Stream>> {
     while (!queue_.empty()) {
       asio::error_code error;
       auto rest = asio::buffer(queue_.front()) + written_;
-      size_t count = stream_.write_some(rest, error);
+      std::size_t count = stream_.write_some(rest, error);
       if (error == asio::error::would_block || error == asio::error::try_again) {
         WaitForRoom();
         return;
@@ -97,10 +98,10 @@ class StreamPump : public std::enable_shared_from_this<StreamPump<Stream>> {
   Stream stream_;
   Received received_;
   Ended ended_;
-  std::array<uint8_t, 16384> input_{};
+  std::array<std::uint8_t, 16384> input_{};
   std::deque<Bytes> queue_;
-  size_t written_ = 0;  // of the front of the queue
-  size_t backlog_ = 0;
+  std::size_t written_ = 0;  // of the front of the queue
+  std::size_t backlog_ = 0;
   bool waiting_ = false;
   bool closed_ = false;
 };

@@ -1,3 +1,4 @@
+// A TCP port that serves one station at a time.
 #include <asio/ip/tcp.hpp>
 #include <optional>
 #include <stdexcept>
@@ -13,7 +14,7 @@ using asio::ip::tcp;
 
 class TcpPort final : public Transport {
  public:
-  TcpPort(asio::io_context& io, const HandsetOptions& options, TransportEvents events)
+  TcpPort(asio::io_context& io, const PortOptions& options, TransportEvents events)
       : acceptor_(io), port_(options.tcpPort), events_(std::move(events)) {
     asio::error_code error;
     address_ = asio::ip::make_address(options.address, error);
@@ -54,7 +55,7 @@ class TcpPort final : public Transport {
 
   bool Connected() const override { return station_ != nullptr; }
   bool Drained() const override { return Backlog() == 0; }
-  size_t Backlog() const override { return station_ ? station_->Backlog() : 0; }
+  std::size_t Backlog() const override { return station_ ? station_->Backlog() : 0; }
 
   void Write(Bytes bytes) override {
     if (station_) station_->Write(std::move(bytes));
@@ -97,14 +98,14 @@ class TcpPort final : public Transport {
 
   tcp::acceptor acceptor_;
   asio::ip::address address_;
-  uint16_t port_;
+  std::uint16_t port_;
   TransportEvents events_;
   std::shared_ptr<StreamPump<tcp::socket>> station_;
 };
 
 }  // namespace
 
-std::unique_ptr<Transport> MakeTcp(asio::io_context& io, const HandsetOptions& options,
+std::unique_ptr<Transport> MakeTcp(asio::io_context& io, const PortOptions& options,
                                    TransportEvents events) {
   return std::make_unique<TcpPort>(io, options, std::move(events));
 }

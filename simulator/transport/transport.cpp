@@ -4,7 +4,7 @@
 
 namespace handset {
 
-std::unique_ptr<Transport> MakeTransport(asio::io_context& io, const HandsetOptions& options,
+std::unique_ptr<Transport> MakeTransport(asio::io_context& io, const PortOptions& options,
                                          TransportEvents events) {
   switch (options.transport) {
     case TransportKind::Tcp:

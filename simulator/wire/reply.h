@@ -1,3 +1,6 @@
+// What a test makes the handset say instead of its usual answer:
+//   Reply::Answer(13, 0, bytes).After(50ms).ThenRaw(noise).InPieces(1, 2ms)
+// The modifiers act on the item added last.
 #pragma once
 
 #include <chrono>
@@ -12,25 +15,22 @@
 
 namespace handset {
 
-// What a test makes the handset say instead of its usual answer:
-//   Reply::Answer(13, 0, bytes).After(50ms).ThenRaw(noise).InPieces(1, 2ms)
-// The modifiers act on the item added last.
 class Reply {
  public:
   struct Item {
     std::variant<Frame, Bytes> content;
     std::chrono::milliseconds delay{0};  // after the item before it
-    size_t pieceBytes = 0;
+    std::size_t pieceBytes = 0;
     std::chrono::milliseconds gap{0};
   };
 
   static Reply Nothing() { return {}; }
-  static Reply Answer(uint8_t type, uint8_t subtype, Bytes payload = {}) {
+  static Reply Answer(std::uint8_t type, std::uint8_t subtype, Bytes payload = {}) {
     return Reply().Then(type, subtype, std::move(payload));
   }
   static Reply Raw(Bytes bytes) { return Reply().ThenRaw(std::move(bytes)); }
 
-  Reply Then(uint8_t type, uint8_t subtype, Bytes payload = {}) && {
+  Reply Then(std::uint8_t type, std::uint8_t subtype, Bytes payload = {}) && {
     items_.push_back(Item{Frame{type, subtype, std::move(payload)}});
     return std::move(*this);
   }
@@ -42,7 +42,7 @@ class Reply {
     items_.back().delay = delay;
     return std::move(*this);
   }
-  Reply InPieces(size_t pieceBytes, std::chrono::milliseconds gap = {}) && {
+  Reply InPieces(std::size_t pieceBytes, std::chrono::milliseconds gap = {}) && {
     items_.back().pieceBytes = pieceBytes;
     items_.back().gap = gap;
     return std::move(*this);

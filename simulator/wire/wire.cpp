@@ -6,13 +6,13 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kFlag = 0x7E;
-constexpr uint8_t kEscape = 0x7D;
-constexpr uint8_t kEscapeMask = 0x20;
-constexpr size_t kHeaderBytes = 8;
-constexpr size_t kLargestFrameBytes = 0xFFFF;
+constexpr std::uint8_t kFlag = 0x7E;
+constexpr std::uint8_t kEscape = 0x7D;
+constexpr std::uint8_t kEscapeMask = 0x20;
+constexpr std::size_t kHeaderBytes = 8;
+constexpr std::size_t kLargestFrameBytes = 0xFFFF;
 
-void AppendEscaped(Bytes& out, uint8_t byte) {
+void AppendEscaped(Bytes& out, std::uint8_t byte) {
   if (byte == kFlag || byte == kEscape) {
     out.push_back(kEscape);
     byte ^= kEscapeMask;
@@ -32,15 +32,15 @@ int HexDigit(char c) {
 Bytes EncodeFrame(const Frame& frame, ByteOrder order) {
   Bytes head;
   Append32(head, frame.sequence, ByteOrder::Little);
-  Append16(head, static_cast<uint16_t>(frame.payload.size() + kHeaderBytes), order);
+  Append16(head, static_cast<std::uint16_t>(frame.payload.size() + kHeaderBytes), order);
   head.push_back(frame.type);
   head.push_back(frame.subtype);
 
   Bytes out;
   out.reserve(frame.payload.size() + frame.payload.size() / 16 + 2 * kHeaderBytes);
   out.push_back(kFlag);
-  for (uint8_t byte : head) AppendEscaped(out, byte);
-  for (uint8_t byte : frame.payload) AppendEscaped(out, byte);
+  for (std::uint8_t byte : head) AppendEscaped(out, byte);
+  for (std::uint8_t byte : frame.payload) AppendEscaped(out, byte);
   out.push_back(kFlag);
   return out;
 }
@@ -48,8 +48,8 @@ Bytes EncodeFrame(const Frame& frame, ByteOrder order) {
 FrameDecoder::FrameDecoder(ByteOrder order, FrameSink onFrame, RejectSink onReject)
     : order_(order), onFrame_(std::move(onFrame)), onReject_(std::move(onReject)) {}
 
-void FrameDecoder::Feed(std::span<const uint8_t> bytes) {
-  for (uint8_t byte : bytes) Take(byte);
+void FrameDecoder::Feed(std::span<const std::uint8_t> bytes) {
+  for (std::uint8_t byte : bytes) Take(byte);
 }
 
 void FrameDecoder::Reset() {
@@ -57,7 +57,7 @@ void FrameDecoder::Reset() {
   inFrame_ = escaped_ = badEscape_ = false;
 }
 
-void FrameDecoder::Take(uint8_t byte) {
+void FrameDecoder::Take(std::uint8_t byte) {
   if (!inFrame_) {
     inFrame_ = byte == kFlag;
     return;
@@ -84,9 +84,9 @@ void FrameDecoder::Take(uint8_t byte) {
 }
 
 void FrameDecoder::Close() {
-  Bytes raw = std::move(unescaped_);
-  bool danglingEscape = escaped_;
-  bool badEscape = badEscape_;
+  const Bytes raw = std::move(unescaped_);
+  const bool danglingEscape = escaped_;
+  const bool badEscape = badEscape_;
   Reset();
   std::string_view reason;
   if (danglingEscape) {
@@ -112,38 +112,39 @@ void FrameDecoder::Close() {
   onFrame_(std::move(frame));
 }
 
-uint16_t Read16(std::span<const uint8_t> bytes, size_t offset, ByteOrder order) {
+std::uint16_t Read16(std::span<const std::uint8_t> bytes, std::size_t offset, ByteOrder order) {
   if (bytes.size() < offset + 2) throw std::out_of_range("16-bit field past the end");
-  uint8_t first = bytes[offset];
-  uint8_t second = bytes[offset + 1];
-  return static_cast<uint16_t>(order == ByteOrder::Big ? first << 8 | second : second << 8 | first);
+  const std::uint8_t first = bytes[offset];
+  const std::uint8_t second = bytes[offset + 1];
+  return static_cast<std::uint16_t>(order == ByteOrder::Big ? first << 8 | second
+                                                            : second << 8 | first);
 }
 
-uint32_t Read32(std::span<const uint8_t> bytes, size_t offset, ByteOrder order) {
-  uint32_t first = Read16(bytes, offset, order);
-  uint32_t second = Read16(bytes, offset + 2, order);
+std::uint32_t Read32(std::span<const std::uint8_t> bytes, std::size_t offset, ByteOrder order) {
+  const std::uint32_t first = Read16(bytes, offset, order);
+  const std::uint32_t second = Read16(bytes, offset + 2, order);
   return order == ByteOrder::Big ? first << 16 | second : second << 16 | first;
 }
 
-void Append16(Bytes& bytes, uint16_t value, ByteOrder order) {
-  auto high = static_cast<uint8_t>(value >> 8);
-  auto low = static_cast<uint8_t>(value);
+void Append16(Bytes& bytes, std::uint16_t value, ByteOrder order) {
+  const auto high = static_cast<std::uint8_t>(value >> 8);
+  const auto low = static_cast<std::uint8_t>(value);
   bytes.push_back(order == ByteOrder::Big ? high : low);
   bytes.push_back(order == ByteOrder::Big ? low : high);
 }
 
-void Append32(Bytes& bytes, uint32_t value, ByteOrder order) {
-  auto high = static_cast<uint16_t>(value >> 16);
-  auto low = static_cast<uint16_t>(value);
+void Append32(Bytes& bytes, std::uint32_t value, ByteOrder order) {
+  const auto high = static_cast<std::uint16_t>(value >> 16);
+  const auto low = static_cast<std::uint16_t>(value);
   Append16(bytes, order == ByteOrder::Big ? high : low, order);
   Append16(bytes, order == ByteOrder::Big ? low : high, order);
 }
 
-std::string ToHex(std::span<const uint8_t> bytes) {
+std::string ToHex(std::span<const std::uint8_t> bytes) {
   static constexpr char kDigits[] = "0123456789abcdef";
   std::string text;
   text.reserve(bytes.size() * 3);
-  for (uint8_t byte : bytes) {
+  for (std::uint8_t byte : bytes) {
     if (!text.empty()) text += ' ';
     text += kDigits[byte >> 4];
     text += kDigits[byte & 0xF];
@@ -156,12 +157,12 @@ Bytes FromHex(std::string_view text) {
   int high = -1;
   for (char c : text) {
     if (c == ' ' || c == '\t') continue;
-    int digit = HexDigit(c);
+    const int digit = HexDigit(c);
     if (digit < 0) throw std::invalid_argument("not hexadecimal: " + std::string(text));
     if (high < 0) {
       high = digit;
     } else {
-      bytes.push_back(static_cast<uint8_t>(high << 4 | digit));
+      bytes.push_back(static_cast<std::uint8_t>(high << 4 | digit));
       high = -1;
     }
   }

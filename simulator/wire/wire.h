@@ -1,3 +1,4 @@
+// Diagnostic frames as the handset's firmware sees them on its port.
 #pragma once
 
 #include <cstdint>
@@ -7,18 +8,17 @@
 #include <string_view>
 #include <vector>
 
-// Diagnostic frames as the handset's firmware sees them on its port.
 namespace handset {
 
-using Bytes = std::vector<uint8_t>;
+using Bytes = std::vector<std::uint8_t>;
 
 enum class ByteOrder { Big, Little };
 
 struct Frame {
-  uint8_t type = 0;
-  uint8_t subtype = 0;
+  std::uint8_t type = 0;
+  std::uint8_t subtype = 0;
   Bytes payload;
-  uint32_t sequence = 0;
+  std::uint32_t sequence = 0;
 
   bool operator==(const Frame&) const = default;
 };
@@ -35,12 +35,12 @@ class FrameDecoder {
 
   FrameDecoder(ByteOrder order, FrameSink onFrame, RejectSink onReject);
 
-  void Feed(std::span<const uint8_t> bytes);
+  void Feed(std::span<const std::uint8_t> bytes);
   // Forgets a half-received frame: the line was cut.
   void Reset();
 
  private:
-  void Take(uint8_t byte);
+  void Take(std::uint8_t byte);
   void Close();
 
   ByteOrder order_;
@@ -52,13 +52,13 @@ class FrameDecoder {
   bool badEscape_ = false;
 };
 
-uint16_t Read16(std::span<const uint8_t> bytes, size_t offset, ByteOrder order);
-uint32_t Read32(std::span<const uint8_t> bytes, size_t offset, ByteOrder order);
-void Append16(Bytes& bytes, uint16_t value, ByteOrder order);
-void Append32(Bytes& bytes, uint32_t value, ByteOrder order);
+std::uint16_t Read16(std::span<const std::uint8_t> bytes, std::size_t offset, ByteOrder order);
+std::uint32_t Read32(std::span<const std::uint8_t> bytes, std::size_t offset, ByteOrder order);
+void Append16(Bytes& bytes, std::uint16_t value, ByteOrder order);
+void Append32(Bytes& bytes, std::uint32_t value, ByteOrder order);
 
 // "0a 1b 2c"; reading takes any case and spacing and throws std::invalid_argument otherwise.
-std::string ToHex(std::span<const uint8_t> bytes);
+std::string ToHex(std::span<const std::uint8_t> bytes);
 Bytes FromHex(std::string_view text);
 Bytes ToBytes(std::string_view text);
 

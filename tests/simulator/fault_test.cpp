@@ -75,7 +75,7 @@ TEST_F(Misbehaving, SplitAnswersArriveInPiecesAndMergedOnesTogether) {
 
 TEST_F(Misbehaving, DelayedAnswersKeepTheirOrder) {
   phone.SetFault("delay=next:1,ms:100");
-  auto before = std::chrono::steady_clock::now();
+  const auto before = std::chrono::steady_clock::now();
   line.Send(28, 0);
   line.Send(28, 1);
   EXPECT_EQ(line.Receive().value().subtype, 0);
@@ -86,7 +86,7 @@ TEST_F(Misbehaving, DelayedAnswersKeepTheirOrder) {
 TEST_F(Misbehaving, CorruptAnswersKeepTheirFlags) {
   phone.SetFault("corrupt=next:1,bytes:2");
   line.Send(28, 0);
-  Bytes bytes = line.ReadRaw();
+  const Bytes bytes = line.ReadRaw();
   const Bytes good{0x7E, 0, 0, 0, 0, 0, 12, 28, 0, 0, 0, 0, 1, 0x7E};
   ASSERT_EQ(bytes.size(), good.size());
   EXPECT_NE(bytes, good);
@@ -111,7 +111,7 @@ TEST_F(Misbehaving, DisconnectsInsteadOfAnswering) {
 }
 
 TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
-  auto run = [](uint64_t seed) {
+  const auto run = [](std::uint64_t seed) {
     // What was done to each answer, as the transcript tells it.
     std::vector<std::string> answers;
     HandsetOptions options = Options();
@@ -119,21 +119,21 @@ TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
     options.faults = {"drop=0.3", "duplicate=0.2", "corrupt=0.2"};
     options.traceInterval = 1ms;  // Their number differs between runs.
     options.transcript = [&](const std::string& text) {
-      size_t answer = text.find("<- 28/");
+      const std::size_t answer = text.find("<- 28/");
       if (answer != std::string::npos) answers.push_back(text.substr(answer));
     };
     Handset each(options);
     WireStation listener(Started(each).Address());
     listener.Send(2, 6);
     for (int i = 0; i < 60; ++i) {
-      listener.Send(28, static_cast<uint8_t>(i % 2));
-      EXPECT_TRUE(each.NextFrame(28, static_cast<uint8_t>(i % 2)));
+      listener.Send(28, static_cast<std::uint8_t>(i % 2));
+      EXPECT_TRUE(each.NextFrame(28, static_cast<std::uint8_t>(i % 2)));
     }
     each.State();  // The last one has been carried out.
     each.Stop();
     return answers;
   };
-  auto first = run(11);
+  const auto first = run(11);
   EXPECT_EQ(first, run(11));
   EXPECT_NE(first, run(12));
 }
@@ -172,7 +172,8 @@ TEST_F(Misbehaving, TheJournalKeepsWhatWasHeard) {
   Handset forgetful(options);
   WireStation other(Started(forgetful).Address());
   other.WriteRaw(handset::FromHex("7e 00 00 00 00 00 99 1c 00 7e"));
-  for (uint8_t subtype = 50; subtype <= 52; ++subtype) EXPECT_TRUE(other.Ask(200, subtype, {7}));
+  for (std::uint8_t subtype = 50; subtype <= 52; ++subtype)
+    EXPECT_TRUE(other.Ask(200, subtype, {7}));
   EXPECT_EQ(forgetful.ReceivedCount(200, 50), 0u);
   EXPECT_EQ(forgetful.Received().size(), 2u);
   EXPECT_EQ(forgetful.NextFrame(200, 52), (Frame{200, 52, {7}}));

@@ -32,7 +32,7 @@ TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
     EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
     ASSERT_TRUE(
         phone.WaitForState([](const HandsetState& s) { return !s.stationConnected; }, kPatience));
-    phone.State();  // Behind whatever the departure set off.
+    phone.State();  // After whatever the departure set off.
     EXPECT_EQ(came, stations);
     EXPECT_EQ(gone, stations);
   }
@@ -41,7 +41,7 @@ TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
 TEST(HandsetLifecycle, ATcpPortThatWasTakenMeanwhileComesBackOnceItIsFree) {
   Handset phone(Running(TransportKind::Tcp));
   phone.Start();
-  auto number = static_cast<uint16_t>(std::stoi(phone.Address().substr(10)));
+  auto number = static_cast<std::uint16_t>(std::stoi(phone.Address().substr(10)));
   phone.UnplugPort();
   Handset other(Running(TransportKind::Tcp, number));
   other.Start();

@@ -135,7 +135,7 @@ TEST(TcpPort, TakesOneStationAfterAnotherUnderTheSameNumber) {
 TEST(TcpPort, AnAddressInUseOrNoAddressIsAnError) {
   Started phone(Running(TransportKind::Tcp));
   HandsetOptions taken = Running(TransportKind::Tcp);
-  taken.tcpPort = static_cast<uint16_t>(std::stoi(phone.Address().substr(10)));
+  taken.tcpPort = static_cast<std::uint16_t>(std::stoi(phone.Address().substr(10)));
   EXPECT_THROW(Started{taken}, std::runtime_error);
   taken.address = "no address";
   EXPECT_THROW(Started{taken}, std::runtime_error);

@@ -23,7 +23,7 @@ struct Program : ChildProgram {
           return arguments;
         }()) {}
   std::string Address() {
-    std::string line = Line("ready ");
+    const std::string line = Line("ready ");
     EXPECT_THAT(line, StartsWith("ready "));
     return line.substr(line.find(' ') + 1);
   }
@@ -54,7 +54,7 @@ TEST(HandsetProgram, ServesAndTakesCommandsWhileItRuns) {
 }
 
 TEST(HandsetProgram, ServesWithoutAConsoleUntilASignalEndsIt) {
-  std::string link = testing::TempDir() + "program-link." + std::to_string(getpid());
+  const std::string link = testing::TempDir() + "program-link." + std::to_string(getpid());
   Program program({"--link", link, "--verbose", "--little-endian", "--mode", "1"});
   EXPECT_EQ(program.Address(), link);
   program.CloseInput();
@@ -69,7 +69,7 @@ TEST(HandsetProgram, ServesWithoutAConsoleUntilASignalEndsIt) {
 
 TEST(HandsetProgram, ServesTcp) {
   Program program({"--tcp", "0", "--mode", "1"});
-  std::string address = program.Address();
+  const std::string address = program.Address();
   EXPECT_THAT(address, StartsWith("127.0.0.1:"));
   EXPECT_TRUE(WireStation(address).Ask(28, 0));
 }

@@ -12,7 +12,7 @@ namespace {
 using handset::Bytes;
 using handset::Frame;
 
-constexpr uint8_t kRefused = 2;
+constexpr std::uint8_t kRefused = 2;
 
 class RadioWire : public testing::TestWithParam<bool> {
  protected:
@@ -31,7 +31,7 @@ class RadioWire : public testing::TestWithParam<bool> {
   static Bytes Words(const std::vector<unsigned>& words) {
     Bytes bytes;
     for (const unsigned word : words) {
-      handset::Append16(bytes, static_cast<uint16_t>(word), Order());
+      handset::Append16(bytes, static_cast<std::uint16_t>(word), Order());
     }
     return bytes;
   }
@@ -45,10 +45,10 @@ class RadioWire : public testing::TestWithParam<bool> {
     words.insert(words.end(), parameters.begin(), parameters.end());
     return Words(words);
   }
-  Frame Ask(uint8_t type, uint8_t subtype, const Bytes& payload) {
+  Frame Ask(std::uint8_t type, std::uint8_t subtype, const Bytes& payload) {
     return station->Ask(type, subtype, payload).value();
   }
-  uint8_t Tell(uint8_t type, uint8_t subtype, const Bytes& payload) {
+  std::uint8_t Tell(std::uint8_t type, std::uint8_t subtype, const Bytes& payload) {
     return Ask(type, subtype, payload).subtype;
   }
   std::optional<handset::Handset> phone;
@@ -81,8 +81,8 @@ TEST_P(RadioWire, ExtendedReportComesInNumberedBlocks) {
   EXPECT_EQ(Tell(10, 1, Message(0xA124, {1, 6913, 1, 62})), kRefused) << "too many steps";
   EXPECT_EQ(Tell(10, 1, Message(0xA124, {1, 100, 1, 600})), kRefused) << "outside the band";
   EXPECT_EQ(Tell(10, 1, Message(0xA124, {3000, 3999, 1, 62})), 1);
-  EXPECT_EQ(Ask(10, 1, next).payload.size(), 2020U) << "half of it behind a header";
-  EXPECT_EQ(Tell(10, 1, next), kRefused) << "behind the last block";
+  EXPECT_EQ(Ask(10, 1, next).payload.size(), 2020U) << "half of it after a header";
+  EXPECT_EQ(Tell(10, 1, next), kRefused) << "after the last block";
   EXPECT_EQ(Tell(10, 1, Message(0xA125, {})), 1);
   EXPECT_EQ(Tell(10, 1, next), kRefused);
 }
@@ -96,8 +96,8 @@ TEST_P(RadioWire, WildAddressesAreRefusedAndChangeNothing) {
            {{0, 0, 99, 0, 2, 7}, "no such item"},
            {{0, 2, 21, 0, 2, 7}, "no such band"},
            {{2, 0, 2, 0, 2, 7}, "no such storage"},
-           {{0, 0, 2, 1, 2, 7}, "behind the item"},
-           {{1, 0, 21, 0xFFFF, 2, 7}, "far behind the item"},
+           {{0, 0, 2, 1, 2, 7}, "past the item"},
+           {{1, 0, 21, 0xFFFF, 2, 7}, "far past the item"},
            {{0, 0, 2, 0, 4, 7}, "fewer bytes than announced"},
            {{0, 0, 2, 0, 0xFFFF, 7}, "far fewer bytes"},
            {{0, 0, 30, 0, 8, 1, 2, 3, 4}, "an IMEI in RAM"},

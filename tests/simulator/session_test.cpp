@@ -19,7 +19,7 @@ using namespace std::chrono_literals;
 
 struct Session : testing::Test {
   // Booting, or in a mode at once.
-  void Start(std::optional<uint8_t> mode = {}) {
+  void Start(std::optional<std::uint8_t> mode = {}) {
     handset::HandsetOptions options;
     options.startFrameInterval = 20ms;
     options.traceInterval = 5ms;

@@ -67,17 +67,19 @@ TEST(Wire, AnyChunkingGivesTheSameFrames) {
     std::vector<Frame> sent;
     Bytes stream;
     for (int i = 0; i < 200; ++i) {
-      Frame frame{static_cast<uint8_t>(random.Next()), static_cast<uint8_t>(random.Next()),
-                  Bytes(random.Below(300)), static_cast<uint32_t>(random.Next())};
+      Frame frame{static_cast<std::uint8_t>(random.Next()),
+                  static_cast<std::uint8_t>(random.Next()), Bytes(random.Below(300)),
+                  static_cast<std::uint32_t>(random.Next())};
       // Mostly the two bytes that need care.
-      for (uint8_t& byte : frame.payload) byte = static_cast<uint8_t>(0x7B + random.Below(5));
-      Bytes encoded = EncodeFrame(frame, order);
+      for (std::uint8_t& byte : frame.payload)
+        byte = static_cast<std::uint8_t>(0x7B + random.Below(5));
+      const Bytes encoded = EncodeFrame(frame, order);
       stream.insert(stream.end(), encoded.begin(), encoded.end());
       sent.push_back(std::move(frame));
     }
     Heard heard(order);
-    for (std::span<const uint8_t> rest = stream; !rest.empty();) {
-      size_t count = std::min<size_t>(rest.size(), 1 + random.Below(40));
+    for (std::span<const std::uint8_t> rest = stream; !rest.empty();) {
+      const std::size_t count = std::min<std::size_t>(rest.size(), 1 + random.Below(40));
       heard.decoder.Feed(rest.first(count));
       rest = rest.subspan(count);
     }

@@ -1,4 +1,5 @@
-// A program behind two pipes, as a script or a station's tester runs it. Only where there is fork.
+// A program at the end of two pipes, as a script or a station's tester runs it. Only where there is
+// fork.
 #pragma once
 
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-// A caller's buffer between guards: what is written in front of it or behind it fails the test.
+// A caller's buffer between guards: what is written before or after it fails the test.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ class GuardedBuffer {
     return std::ranges::all_of(all.first(kGuard), untouched) &&
            std::ranges::all_of(all.last(kGuard), untouched);
   }
-  // Nothing was written behind the first `count` elements either.
+  // Nothing was written after the first `count` elements either.
   bool UntouchedFrom(std::size_t count) const {
     return GuardsStand() && std::ranges::all_of(Inner().subspan(count * sizeof(T)),
                                                 [](std::uint8_t byte) { return byte == kFill; });

@@ -20,7 +20,7 @@ using handset::Frame;
 using Clock = std::chrono::steady_clock;
 
 int OpenDevice(const std::string& path) {
-  int fd = open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  const int fd = open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
   termios settings{};
   if (fd < 0 || tcgetattr(fd, &settings) != 0) throw std::runtime_error("cannot open " + path);
   cfmakeraw(&settings);
@@ -34,7 +34,7 @@ int Connect(const std::string& address) {
   handset.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   handset.sin_port =
       htons(static_cast<std::uint16_t>(std::stoi(address.substr(address.find(':') + 1))));
-  int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+  const int fd = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
   if (connect(fd, reinterpret_cast<sockaddr*>(&handset), sizeof handset) == 0) return fd;
   close(fd);
   throw std::runtime_error("cannot connect to " + address);
@@ -58,7 +58,7 @@ WireStation::~WireStation() { close(fd_); }
 void WireStation::WriteRaw(const Bytes& bytes) const {
   std::size_t done = 0;
   while (done < bytes.size()) {
-    ssize_t count = write(fd_, bytes.data() + done, bytes.size() - done);
+    const ssize_t count = write(fd_, bytes.data() + done, bytes.size() - done);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return;  // The line was cut: the reading side notices.
     done += static_cast<std::size_t>(count);
@@ -71,9 +71,9 @@ void WireStation::Send(std::uint8_t type, std::uint8_t subtype, const Bytes& pay
 }
 
 std::optional<Frame> WireStation::Receive(std::chrono::milliseconds timeout) {
-  auto deadline = Clock::now() + timeout;
+  const auto deadline = Clock::now() + timeout;
   while (frames_.empty()) {
-    Bytes more = ReadRaw(Remaining(deadline));
+    const Bytes more = ReadRaw(Remaining(deadline));
     if (more.empty()) return std::nullopt;
     decoder_.Feed(more);
   }
@@ -83,7 +83,7 @@ std::optional<Frame> WireStation::Receive(std::chrono::milliseconds timeout) {
 }
 
 std::optional<Frame> WireStation::ReceiveType(std::uint8_t type) {
-  auto deadline = Clock::now() + kPatience;
+  const auto deadline = Clock::now() + kPatience;
   auto frame = Receive();
   while (frame && frame->type != type) frame = Receive(Remaining(deadline));
   return frame;
@@ -96,12 +96,12 @@ std::optional<Frame> WireStation::Ask(std::uint8_t type, std::uint8_t subtype,
 }
 
 Bytes WireStation::ReadRaw(std::chrono::milliseconds timeout) const {
-  auto deadline = Clock::now() + timeout;
+  const auto deadline = Clock::now() + timeout;
   Bytes bytes(4096);
   ssize_t count = -1;
   do {
     pollfd state{fd_, POLLIN, 0};
-    int ready = poll(&state, 1, static_cast<int>(Remaining(deadline).count()));
+    const int ready = poll(&state, 1, static_cast<int>(Remaining(deadline).count()));
     if (ready == 0) return {};
     if (ready > 0) count = read(fd_, bytes.data(), bytes.size());
   } while (count < 0 && errno == EINTR);
@@ -110,7 +110,7 @@ Bytes WireStation::ReadRaw(std::chrono::milliseconds timeout) const {
 }
 
 bool WireStation::WaitForHangup() const {
-  auto deadline = Clock::now() + kPatience;
+  const auto deadline = Clock::now() + kPatience;
   while (!ReadRaw(Remaining(deadline)).empty()) {
   }
   return Clock::now() < deadline;

@@ -10,29 +10,29 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kProductionType = 95;
-constexpr uint8_t kVersionType = 96;
-constexpr uint8_t kImeiCountType = 97;
-constexpr uint8_t kWriteSubtype = 1;  // also the subtype of every answer
-constexpr uint8_t kReadSubtype = 0x81;
-constexpr uint8_t kCountSubtype = 0x80;
-constexpr size_t kProductionBytes = 256;
+constexpr std::uint8_t kProductionType = 95;
+constexpr std::uint8_t kVersionType = 96;
+constexpr std::uint8_t kImeiCountType = 97;
+constexpr std::uint8_t kWriteSubtype = 1;  // also the subtype of every answer
+constexpr std::uint8_t kReadSubtype = 0x81;
+constexpr std::uint8_t kCountSubtype = 0x80;
+constexpr std::size_t kProductionBytes = 256;
 constexpr const char* kFlashItem = "flash/0";
-constexpr size_t kFlashItemBytes = 1752;
-constexpr size_t kGuidOffset = 152;
-constexpr size_t kSerialBytes = 24;
+constexpr std::size_t kFlashItemBytes = 1752;
+constexpr std::size_t kGuidOffset = 152;
+constexpr std::size_t kSerialBytes = 24;
 
 struct Layout {
   const char* name;
   const char* item;
   const char* magic;  // as it stands in storage
-  size_t serial;
-  size_t secondSerial;
+  std::size_t serial;
+  std::size_t secondSerial;
 };
 constexpr Layout kFlashLayout{"flash", kFlashItem, "50VQ", 8, 168};
 constexpr Layout kProductionLayout{"production", kProductionItem, "90VQ", 4, 28};
 
-void Place(Bytes& bytes, size_t offset, std::string_view text) {
+void Place(Bytes& bytes, std::size_t offset, std::string_view text) {
   std::copy(text.begin(), text.end(), bytes.begin() + static_cast<std::ptrdiff_t>(offset));
 }
 
@@ -41,18 +41,18 @@ bool HasMagic(const Bytes* item, const Layout& layout) {
          std::equal(item->begin(), item->begin() + 4, layout.magic);
 }
 
-std::string Text(const Bytes& item, size_t offset) {
+std::string Text(const Bytes& item, std::size_t offset) {
   std::string text;
-  for (size_t i = offset; i < std::min(item.size(), offset + kSerialBytes); ++i) {
+  for (std::size_t i = offset; i < std::min(item.size(), offset + kSerialBytes); ++i) {
     if (item[i] == 0) break;
     text += static_cast<char>(item[i]);
   }
   return text;
 }
 
-class IdentityModule final : public Module {
+class IdentityPart final : public Part {
  public:
-  explicit IdentityModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit IdentityPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "identity"; }
 
@@ -79,7 +79,7 @@ class IdentityModule final : public Module {
   }
 
   void WriteFactoryData(Storage& flash) override {
-    bool inFlash = firmware_.Options().serialLayout == SerialLayout::Flash;
+    const bool inFlash = firmware_.Options().serialLayout == SerialLayout::Flash;
     const Layout& layout = inFlash ? kFlashLayout : kProductionLayout;
     Bytes item(inFlash ? kFlashItemBytes : kProductionBytes);
     Place(item, 0, layout.magic);
@@ -105,7 +105,7 @@ class IdentityModule final : public Module {
  private:
   void WriteProduction(const Frame& frame) {
     if (frame.payload.size() <= 2) return firmware_.Refuse(frame);
-    size_t size = frame.payload.size() - 2;
+    const std::size_t size = frame.payload.size() - 2;
     auto block = std::span(frame.payload).first(size);
     if (Read16(frame.payload, size, firmware_.Order()) != Crc16(block)) {
       return firmware_.Refuse(frame);
@@ -114,16 +114,16 @@ class IdentityModule final : public Module {
     firmware_.Answer(frame, {0, 0});
   }
 
-  void AnswerWithChecksum(uint8_t type, Bytes block) {
+  void AnswerWithChecksum(std::uint8_t type, Bytes block) {
     Append16(block, Crc16(block), firmware_.Order());
     firmware_.Answer(type, kWriteSubtype, std::move(block));
   }
 
-  uint32_t ImeiCount() const {
-    uint32_t count = 0;
+  std::uint32_t ImeiCount() const {
+    std::uint32_t count = 0;
     for (FixedNvField field : {kImei1, kImei2, kImei3, kImei4}) {
-      Bytes imei = ReadFixedNv(firmware_.Flash(), field);
-      count += std::any_of(imei.begin(), imei.end(), [](uint8_t byte) { return byte != 0; });
+      const Bytes imei = ReadFixedNv(firmware_.Flash(), field);
+      count += std::any_of(imei.begin(), imei.end(), [](std::uint8_t byte) { return byte != 0; });
     }
     return count;
   }
@@ -133,8 +133,8 @@ class IdentityModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeIdentityModule(Firmware& firmware) {
-  return std::make_unique<IdentityModule>(firmware);
+std::unique_ptr<Part> MakeIdentityPart(Firmware& firmware) {
+  return std::make_unique<IdentityPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// Serial numbers in either layout, the production-information and version blocks, IMEI count.
 #pragma once
 
 #include <memory>
@@ -6,7 +7,6 @@
 
 namespace handset {
 
-// Serial numbers in either layout, the production-information and version blocks, IMEI count.
-std::unique_ptr<Module> MakeIdentityModule(Firmware& firmware);
+std::unique_ptr<Part> MakeIdentityPart(Firmware& firmware);
 
 }  // namespace handset

@@ -6,9 +6,9 @@ namespace handset {
 namespace {
 
 constexpr const char* kItem = "fixed-nv";
-constexpr uint8_t kImeiMark = 0x0A;  // an IMEI, and an odd number of digits
+constexpr std::uint8_t kImeiMark = 0x0A;  // an IMEI, and an odd number of digits
 
-uint8_t Digit(char c) { return static_cast<uint8_t>(c - '0'); }
+std::uint8_t Digit(char c) { return static_cast<std::uint8_t>(c - '0'); }
 
 }  // namespace
 
@@ -21,11 +21,11 @@ Bytes FixedNv(Storage& flash) {
 
 Bytes ReadFixedNv(Storage& flash, FixedNvField field) {
   Bytes block = FixedNv(flash);
-  auto first = block.begin() + static_cast<std::ptrdiff_t>(field.offset);
+  const auto first = block.begin() + static_cast<std::ptrdiff_t>(field.offset);
   return {first, first + static_cast<std::ptrdiff_t>(field.bytes)};
 }
 
-void WriteFixedNv(Storage& flash, FixedNvField field, std::span<const uint8_t> bytes) {
+void WriteFixedNv(Storage& flash, FixedNvField field, std::span<const std::uint8_t> bytes) {
   Bytes block = FixedNv(flash);
   std::copy_n(bytes.begin(), std::min(bytes.size(), field.bytes),
               block.begin() + static_cast<std::ptrdiff_t>(field.offset));
@@ -34,18 +34,19 @@ void WriteFixedNv(Storage& flash, FixedNvField field, std::span<const uint8_t> b
 
 Bytes PackImei(const std::string& digits) {
   Bytes packed(kImei1.bytes);
-  packed[0] = static_cast<uint8_t>(Digit(digits.at(0)) << 4 | kImeiMark);
-  for (size_t i = 1; i < packed.size(); ++i) {
-    packed[i] = static_cast<uint8_t>(Digit(digits.at(2 * i)) << 4 | Digit(digits.at(2 * i - 1)));
+  packed[0] = static_cast<std::uint8_t>(Digit(digits.at(0)) << 4 | kImeiMark);
+  for (std::size_t i = 1; i < packed.size(); ++i) {
+    packed[i] =
+        static_cast<std::uint8_t>(Digit(digits.at(2 * i)) << 4 | Digit(digits.at(2 * i - 1)));
   }
   return packed;
 }
 
 std::string ImeiText(const Bytes& packed) {
   std::string digits;
-  auto put = [&](int nibble) { digits += static_cast<char>('0' + std::min(nibble, 9)); };
+  const auto put = [&](int nibble) { digits += static_cast<char>('0' + std::min(nibble, 9)); };
   put(packed.at(0) >> 4);
-  for (size_t i = 1; i < kImei1.bytes; ++i) {
+  for (std::size_t i = 1; i < kImei1.bytes; ++i) {
     put(packed.at(i) & 0xF);
     put(packed.at(i) >> 4);
   }

@@ -1,3 +1,5 @@
+// The fixed-NV information block: what makes one handset different from the next. Several parts
+// of the handset read and write its fields.
 #pragma once
 
 #include <span>
@@ -7,14 +9,12 @@
 
 namespace handset {
 
-// The fixed-NV information block: what makes one handset different from the next. Several parts
-// of the handset read and write its fields.
 struct FixedNvField {
-  size_t offset;
-  size_t bytes;
+  std::size_t offset;
+  std::size_t bytes;
 };
 
-inline constexpr size_t kFixedNvBytes = 106;
+inline constexpr std::size_t kFixedNvBytes = 106;
 inline constexpr FixedNvField kImei1{0, 8};
 inline constexpr FixedNvField kImei2{8, 8};
 inline constexpr FixedNvField kBluetoothAddress{16, 6};  // last byte first
@@ -27,7 +27,7 @@ inline constexpr FixedNvField kImei4{82, 8};
 Bytes FixedNv(Storage& flash);
 Bytes ReadFixedNv(Storage& flash, FixedNvField field);
 // Fewer bytes than the field has leave its end as it was.
-void WriteFixedNv(Storage& flash, FixedNvField field, std::span<const uint8_t> bytes);
+void WriteFixedNv(Storage& flash, FixedNvField field, std::span<const std::uint8_t> bytes);
 
 // Fifteen digits: the first in the high nibble of the first byte, then low nibbles first.
 Bytes PackImei(const std::string& digits);

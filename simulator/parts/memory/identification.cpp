@@ -1,3 +1,4 @@
+// Chip, LCD and flash identification, type 93, and the 7310K exchange, type 37.
 #include <algorithm>
 
 #include "parts/memory/memory.h"
@@ -5,23 +6,24 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kIdentificationType = 93;
-constexpr uint32_t kChipId = 0x51A0'0307;
-constexpr uint32_t kChipType = 0x0000'0012;
-constexpr uint8_t kExchangeType = 37;
-constexpr size_t kExchangeWords = 10;
-constexpr size_t kFlashDescriptionBytes = 384;
+constexpr std::uint8_t kIdentificationType = 93;
+constexpr std::uint32_t kChipId = 0x51A0'0307;
+constexpr std::uint32_t kChipType = 0x0000'0012;
+constexpr std::uint8_t kExchangeType = 37;
+constexpr std::size_t kExchangeWords = 10;
+constexpr std::size_t kFlashDescriptionBytes = 384;
 
-class IdentificationModule final : public Module {
+class IdentificationPart final : public Part {
  public:
-  explicit IdentificationModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit IdentificationPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "identification"; }
 
   void Register(Registry& registry) override {
-    auto words = [&](uint8_t subtype, std::initializer_list<uint32_t> values, size_t bytes = 0) {
+    const auto words = [&](std::uint8_t subtype, std::initializer_list<std::uint32_t> values,
+                           std::size_t bytes = 0) {
       Bytes payload;
-      for (uint32_t value : values) Append32(payload, value, firmware_.Order());
+      for (std::uint32_t value : values) Append32(payload, value, firmware_.Order());
       payload.resize(std::max(payload.size(), bytes));
       Fixed(registry, subtype, payload);
     };
@@ -40,7 +42,7 @@ class IdentificationModule final : public Module {
   }
 
  private:
-  void Fixed(Registry& registry, uint8_t subtype, const Bytes& payload) {
+  void Fixed(Registry& registry, std::uint8_t subtype, const Bytes& payload) {
     registry.On(kIdentificationType, subtype,
                 [this, payload](const Frame& frame) { firmware_.Answer(frame, payload); });
   }
@@ -48,8 +50,9 @@ class IdentificationModule final : public Module {
   // Each word comes back one higher, which shows a wrong byte order.
   void Exchange(const Frame& frame) {
     Bytes answer;
-    for (size_t i = 0; i < kExchangeWords; ++i) {
-      auto word = static_cast<uint16_t>(Read16(frame.payload, 2 * i, firmware_.Order()) + 1);
+    for (std::size_t i = 0; i < kExchangeWords; ++i) {
+      const auto word =
+          static_cast<std::uint16_t>(Read16(frame.payload, 2 * i, firmware_.Order()) + 1);
       Append16(answer, word, firmware_.Order());
     }
     ++exchanges_;
@@ -62,8 +65,8 @@ class IdentificationModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeIdentificationModule(Firmware& firmware) {
-  return std::make_unique<IdentificationModule>(firmware);
+std::unique_ptr<Part> MakeIdentificationPart(Firmware& firmware) {
+  return std::make_unique<IdentificationPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// Production flash items and NV items, type 13.
 #include <algorithm>
 #include <string>
 
@@ -7,24 +8,24 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kItemType = 13;
-constexpr uint8_t kNvRead = 0;  // also the subtype of every answer
-constexpr uint8_t kNvWrite = 1;
-constexpr uint8_t kFlashRead = 2;
-constexpr uint8_t kFlashWrite = 3;
-constexpr uint8_t kFlashErase = 4;
-constexpr uint8_t kCheck = 7;
-constexpr size_t kFlashHeaderBytes = 4;
-constexpr size_t kLargestItemBytes = 8192;
-constexpr size_t kMagicBytes = 4;
-constexpr uint16_t kImeiItem = 5;
+constexpr std::uint8_t kItemType = 13;
+constexpr std::uint8_t kNvRead = 0;  // also the subtype of every answer
+constexpr std::uint8_t kNvWrite = 1;
+constexpr std::uint8_t kFlashRead = 2;
+constexpr std::uint8_t kFlashWrite = 3;
+constexpr std::uint8_t kFlashErase = 4;
+constexpr std::uint8_t kCheck = 7;
+constexpr std::size_t kFlashHeaderBytes = 4;
+constexpr std::size_t kLargestItemBytes = 8192;
+constexpr std::size_t kMagicBytes = 4;
+constexpr std::uint16_t kImeiItem = 5;
 
-std::string FlashName(uint16_t id) { return "flash/" + std::to_string(id); }
-std::string NvName(uint16_t id) { return "nv/" + std::to_string(id); }
+std::string FlashName(std::uint16_t id) { return "flash/" + std::to_string(id); }
+std::string NvName(std::uint16_t id) { return "nv/" + std::to_string(id); }
 
-class ItemsModule final : public Module {
+class ItemsPart final : public Part {
  public:
-  explicit ItemsModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit ItemsPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "items"; }
 
@@ -48,9 +49,9 @@ class ItemsModule final : public Module {
   }
 
  private:
-  // An item never written reads as no bytes behind its number.
+  // An item never written reads as no bytes after its number.
   void ReadNv(const Frame& frame) {
-    uint16_t id = Read16(frame.payload, 0, firmware_.Order());
+    const std::uint16_t id = Read16(frame.payload, 0, firmware_.Order());
     Bytes answer;
     Append16(answer, id, firmware_.Order());
     Bytes content;
@@ -64,7 +65,7 @@ class ItemsModule final : public Module {
   }
 
   void WriteNv(const Frame& frame) {
-    uint16_t id = Read16(frame.payload, 0, firmware_.Order());
+    const std::uint16_t id = Read16(frame.payload, 0, firmware_.Order());
     Bytes content(frame.payload.begin() + 2, frame.payload.end());
     if (id == kImeiItem) {
       if (content.size() != kImei1.bytes) return firmware_.Refuse(frame);
@@ -79,8 +80,8 @@ class ItemsModule final : public Module {
 
   // What was never written reads as zeros.
   void ReadFlash(const Frame& frame) {
-    uint16_t id = Read16(frame.payload, 0, firmware_.Order());
-    uint16_t length = Read16(frame.payload, 2, firmware_.Order());
+    const std::uint16_t id = Read16(frame.payload, 0, firmware_.Order());
+    const std::uint16_t length = Read16(frame.payload, 2, firmware_.Order());
     if (length > kLargestItemBytes) return firmware_.Refuse(frame);
     Bytes content = FlashContent(id);
     content.resize(length);
@@ -91,29 +92,29 @@ class ItemsModule final : public Module {
 
   // A shorter write leaves the rest of the item as it was.
   void WriteFlash(const Frame& frame) {
-    uint16_t id = Read16(frame.payload, 0, firmware_.Order());
-    uint16_t length = Read16(frame.payload, 2, firmware_.Order());
+    const std::uint16_t id = Read16(frame.payload, 0, firmware_.Order());
+    const std::uint16_t length = Read16(frame.payload, 2, firmware_.Order());
     if (length == 0 || length > kLargestItemBytes ||
         frame.payload.size() != kFlashHeaderBytes + length) {
       return firmware_.Refuse(frame);
     }
     const Bytes* stored = firmware_.Flash().Find(FlashName(id));
     Bytes content = stored != nullptr ? *stored : Bytes();
-    content.resize(std::max<size_t>(content.size(), length));
+    content.resize(std::max<std::size_t>(content.size(), length));
     std::copy(frame.payload.begin() + kFlashHeaderBytes, frame.payload.end(), content.begin());
     firmware_.Flash().Put(FlashName(id), std::move(content));
     firmware_.Answer(kItemType, 0,
                      Bytes(frame.payload.begin(), frame.payload.begin() + kFlashHeaderBytes));
   }
 
-  Bytes FlashContent(uint16_t id) const {
+  Bytes FlashContent(std::uint16_t id) const {
     const Bytes* stored = firmware_.Flash().Find(FlashName(id));
     Bytes content = stored != nullptr ? *stored : Bytes();
     const Bytes* production = firmware_.Flash().Find(kProductionItem);
     if (id != 0 || production == nullptr || production->size() < kMagicBytes) return content;
     content.resize(std::max(content.size(), kMagicBytes));
     if (std::all_of(content.begin(), content.begin() + kMagicBytes,
-                    [](uint8_t byte) { return byte == 0; })) {
+                    [](std::uint8_t byte) { return byte == 0; })) {
       std::copy_n(production->begin(), kMagicBytes, content.begin());
     }
     return content;
@@ -124,8 +125,8 @@ class ItemsModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeItemsModule(Firmware& firmware) {
-  return std::make_unique<ItemsModule>(firmware);
+std::unique_ptr<Part> MakeItemsPart(Firmware& firmware) {
+  return std::make_unique<ItemsPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// The parts that keep and show memory.
 #pragma once
 
 #include <memory>
@@ -7,13 +8,13 @@
 namespace handset {
 
 // Production flash items and NV items.
-std::unique_ptr<Module> MakeItemsModule(Firmware& firmware);
+std::unique_ptr<Part> MakeItemsPart(Firmware& firmware);
 // The fixed-NV information block as stations read and write it.
-std::unique_ptr<Module> MakeFixedNvModule(Firmware& firmware);
+std::unique_ptr<Part> MakeFixedNvPart(Firmware& firmware);
 // Memory-mapped registers.
-std::unique_ptr<Module> MakeRegistersModule(Firmware& firmware);
+std::unique_ptr<Part> MakeRegistersPart(Firmware& firmware);
 // Chip, LCD and flash identification, and the 7310K exchange.
-std::unique_ptr<Module> MakeIdentificationModule(Firmware& firmware);
+std::unique_ptr<Part> MakeIdentificationPart(Firmware& firmware);
 
 // What a station sees of production flash item 0 starts with this magic even when only the
 // production-information block holds it: they are one area of the handset.

@@ -11,37 +11,40 @@ MemoryMap::MemoryMap(std::initializer_list<Region> regions) {
 
 void MemoryMap::Reset() {
   for (Block& block : blocks_) {
-    for (uint32_t i = 0; i < block.region.bytes; ++i) {
+    for (std::uint32_t i = 0; i < block.region.bytes; ++i) {
       // Every fourth byte names the word, so that a shifted read shows.
-      uint32_t word = i / 4;
-      block.content[i] =
-          block.region.writable ? uint8_t{0} : static_cast<uint8_t>(word >> 8 * (3 - i % 4));
+      const std::uint32_t word = i / 4;
+      block.content[i] = block.region.writable ? std::uint8_t{0}
+                                               : static_cast<std::uint8_t>(word >> 8 * (3 - i % 4));
     }
   }
 }
 
-std::optional<Bytes> MemoryMap::Read(uint32_t address, uint32_t width, uint32_t count) const {
-  uint64_t bytes = uint64_t{width} * count;
+std::optional<Bytes> MemoryMap::Read(std::uint32_t address, std::uint32_t width,
+                                     std::uint32_t count) const {
+  const std::uint64_t bytes = std::uint64_t{width} * count;
   const Block* block = Find(address, width, bytes);
   if (block == nullptr) return std::nullopt;
-  auto first = block->content.begin() + (address - block->region.start);
+  const auto first = block->content.begin() + (address - block->region.start);
   return Bytes(first, first + static_cast<std::ptrdiff_t>(bytes));
 }
 
-bool MemoryMap::Write(uint32_t address, uint32_t width, std::span<const uint8_t> bytes) {
+bool MemoryMap::Write(std::uint32_t address, std::uint32_t width,
+                      std::span<const std::uint8_t> bytes) {
   const Block* found = Find(address, width, bytes.size());
   if (found == nullptr || !found->region.writable) return false;
-  auto index = static_cast<size_t>(found - blocks_.data());
+  const auto index = static_cast<std::size_t>(found - blocks_.data());
   std::copy(bytes.begin(), bytes.end(),
             blocks_[index].content.begin() + (address - found->region.start));
   return true;
 }
 
-const MemoryMap::Block* MemoryMap::Find(uint32_t address, uint32_t width, uint64_t bytes) const {
+const MemoryMap::Block* MemoryMap::Find(std::uint32_t address, std::uint32_t width,
+                                        std::uint64_t bytes) const {
   if (width == 0 || address % width != 0 || bytes == 0 || bytes % width != 0) return nullptr;
   for (const Block& block : blocks_) {
     if (address < block.region.start) continue;
-    uint64_t offset = address - block.region.start;
+    const std::uint64_t offset = address - block.region.start;
     if (offset + bytes <= block.region.bytes) return &block;
   }
   return nullptr;

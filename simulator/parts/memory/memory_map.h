@@ -1,3 +1,4 @@
+// A few regions of byte-addressed memory.
 #pragma once
 
 #include <cstdint>
@@ -10,12 +11,11 @@
 
 namespace handset {
 
-// A few regions of byte-addressed memory.
 class MemoryMap {
  public:
   struct Region {
-    uint32_t start;
-    uint32_t bytes;
+    std::uint32_t start;
+    std::uint32_t bytes;
     bool writable;
   };
 
@@ -25,8 +25,8 @@ class MemoryMap {
   void Reset();
   // Nothing when the range is not wholly inside one region, or not aligned to the access width
   // (1, 2 or 4), or is not writable.
-  std::optional<Bytes> Read(uint32_t address, uint32_t width, uint32_t count) const;
-  bool Write(uint32_t address, uint32_t width, std::span<const uint8_t> bytes);
+  std::optional<Bytes> Read(std::uint32_t address, std::uint32_t width, std::uint32_t count) const;
+  bool Write(std::uint32_t address, std::uint32_t width, std::span<const std::uint8_t> bytes);
 
  private:
   struct Block {
@@ -34,7 +34,7 @@ class MemoryMap {
     Bytes content;
   };
 
-  const Block* Find(uint32_t address, uint32_t width, uint64_t bytes) const;
+  const Block* Find(std::uint32_t address, std::uint32_t width, std::uint64_t bytes) const;
 
   std::vector<Block> blocks_;
 };

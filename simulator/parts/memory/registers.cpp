@@ -1,20 +1,21 @@
+// Memory-mapped registers, type 11.
 #include "parts/memory/memory.h"
 #include "parts/memory/memory_map.h"
 
 namespace handset {
 namespace {
 
-constexpr uint8_t kRegisterType = 11;
-constexpr uint16_t kRead = 0xA003;
-constexpr uint16_t kWrite = 0xA004;
-constexpr size_t kHeaderBytes = 16;
-constexpr uint32_t kLargestTransferBytes = 9000;
+constexpr std::uint8_t kRegisterType = 11;
+constexpr std::uint16_t kRead = 0xA003;
+constexpr std::uint16_t kWrite = 0xA004;
+constexpr std::size_t kHeaderBytes = 16;
+constexpr std::uint32_t kLargestTransferBytes = 9000;
 
-uint32_t WidthBytes(uint32_t code) { return code == 0 ? 1 : code == 1 ? 2 : 4; }
+std::uint32_t WidthBytes(std::uint32_t code) { return code == 0 ? 1 : code == 1 ? 2 : 4; }
 
-class RegistersModule final : public Module {
+class RegistersPart final : public Part {
  public:
-  explicit RegistersModule(Firmware& firmware)
+  explicit RegistersPart(Firmware& firmware)
       : firmware_(firmware),
         memory_({{0x0000'0000, 0x4000, false},
                  {0x2000'0000, 0x1'0000, true},
@@ -30,18 +31,18 @@ class RegistersModule final : public Module {
 
  private:
   void Access(const Frame& frame) {
-    ByteOrder order = firmware_.Order();
-    uint16_t operation = Read16(frame.payload, 0, order);
-    uint16_t total = Read16(frame.payload, 2, order);
-    uint32_t width = WidthBytes(Read32(frame.payload, 4, order));
-    uint32_t address = Read32(frame.payload, 8, order);
-    uint32_t count = Read32(frame.payload, 12, order);
+    const ByteOrder order = firmware_.Order();
+    const std::uint16_t operation = Read16(frame.payload, 0, order);
+    const std::uint16_t total = Read16(frame.payload, 2, order);
+    const std::uint32_t width = WidthBytes(Read32(frame.payload, 4, order));
+    const std::uint32_t address = Read32(frame.payload, 8, order);
+    const std::uint32_t count = Read32(frame.payload, 12, order);
     if (total != frame.payload.size() || count > kLargestTransferBytes / width) {
       return firmware_.Refuse(frame);
     }
     if (operation == kRead && total == kHeaderBytes) {
       if (auto bytes = memory_.Read(address, width, count)) return AnswerWith(frame, *bytes);
-    } else if (operation == kWrite && total == kHeaderBytes + size_t{count} * width) {
+    } else if (operation == kWrite && total == kHeaderBytes + std::size_t{count} * width) {
       if (memory_.Write(address, width, std::span(frame.payload).subspan(kHeaderBytes))) {
         return AnswerWith(frame, {});
       }
@@ -52,7 +53,7 @@ class RegistersModule final : public Module {
   // The request's header with the answer's own length, and what was read.
   void AnswerWith(const Frame& request, const Bytes& bytes) {
     Bytes answer(request.payload.begin(), request.payload.begin() + 2);
-    Append16(answer, static_cast<uint16_t>(kHeaderBytes + bytes.size()), firmware_.Order());
+    Append16(answer, static_cast<std::uint16_t>(kHeaderBytes + bytes.size()), firmware_.Order());
     answer.insert(answer.end(), request.payload.begin() + 4,
                   request.payload.begin() + kHeaderBytes);
     answer.insert(answer.end(), bytes.begin(), bytes.end());
@@ -65,8 +66,8 @@ class RegistersModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeRegistersModule(Firmware& firmware) {
-  return std::make_unique<RegistersModule>(firmware);
+std::unique_ptr<Part> MakeRegistersPart(Firmware& firmware) {
+  return std::make_unique<RegistersPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// Bluetooth, type 33.
 #include <functional>
 
 #include "parts/memory/fixed_nv.h"
@@ -6,13 +7,13 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kBluetoothType = 33;
-constexpr uint32_t kLastChannel = 78;
-constexpr uint32_t kLastDac = 63;
-constexpr uint32_t kDefaultDac = 32;
+constexpr std::uint8_t kBluetoothType = 33;
+constexpr std::uint32_t kLastChannel = 78;
+constexpr std::uint32_t kLastDac = 63;
+constexpr std::uint32_t kDefaultDac = 32;
 constexpr const char* kDacItem = "bluetooth/dac";
 
-enum Subtype : uint8_t {
+enum Subtype : std::uint8_t {
   kEnterTest,
   kLeaveTest,
   kSaveAddress,
@@ -28,14 +29,14 @@ enum Subtype : uint8_t {
 
 // Every answer has the subtype 0. A radio test outside the test mode, or with a value out of
 // range, is refused.
-class BluetoothModule final : public Module {
+class BluetoothPart final : public Part {
  public:
-  explicit BluetoothModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit BluetoothPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "bluetooth"; }
 
   void Register(Registry& registry) override {
-    auto on = [&](Subtype subtype, std::function<bool(const Frame&)> carry) {
+    const auto on = [&](Subtype subtype, std::function<bool(const Frame&)> carry) {
       registry.On(kBluetoothType, subtype, [this, carry = std::move(carry)](const Frame& frame) {
         if (carry(frame)) {
           firmware_.Answer(kBluetoothType, 0, {});
@@ -61,15 +62,15 @@ class BluetoothModule final : public Module {
       });
     }
     on(kSetDac, [this](const Frame& frame) {
-      uint32_t value = Word(frame, 0);
+      const std::uint32_t value = Word(frame, 0);
       if (!testing_ || value > kLastDac) return false;
       dac_ = value;
       return true;
     });
     on(kSaveDac, [this](const Frame& frame) {
-      uint32_t value = Word(frame, 0);
+      const std::uint32_t value = Word(frame, 0);
       if (value > kLastDac) return false;
-      firmware_.Flash().Put(kDacItem, {static_cast<uint8_t>(value)});
+      firmware_.Flash().Put(kDacItem, {static_cast<std::uint8_t>(value)});
       dac_ = value;
       return true;
     });
@@ -102,11 +103,11 @@ class BluetoothModule final : public Module {
   }
 
  private:
-  uint32_t Word(const Frame& frame, size_t offset) const {
+  std::uint32_t Word(const Frame& frame, std::size_t offset) const {
     return Read32(frame.payload, offset, firmware_.Order());
   }
 
-  bool Start(const char* activity, uint32_t channel) {
+  bool Start(const char* activity, std::uint32_t channel) {
     if (!testing_ || channel > kLastChannel) return false;
     activity_ = activity;
     channel_ = channel;
@@ -115,7 +116,7 @@ class BluetoothModule final : public Module {
 
   void Stop() { activity_ = "none"; }
 
-  uint32_t StoredDac() const {
+  std::uint32_t StoredDac() const {
     const Bytes* stored = firmware_.Flash().Find(kDacItem);
     return stored != nullptr && !stored->empty() ? stored->front() : kDefaultDac;
   }
@@ -123,14 +124,14 @@ class BluetoothModule final : public Module {
   Firmware& firmware_;
   bool testing_ = false;
   std::string activity_ = "none";
-  uint32_t channel_ = 0;
-  uint32_t dac_ = 0;
+  std::uint32_t channel_ = 0;
+  std::uint32_t dac_ = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Module> MakeBluetoothModule(Firmware& firmware) {
-  return std::make_unique<BluetoothModule>(firmware);
+std::unique_ptr<Part> MakeBluetoothPart(Firmware& firmware) {
+  return std::make_unique<BluetoothPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,17 +1,18 @@
+// The DSP's debug functions, type 50.
 #include "parts/memory/memory_map.h"
 #include "parts/peripherals/peripherals.h"
 
 namespace handset {
 namespace {
 
-constexpr uint8_t kDspType = 50;
-enum Subtype : uint8_t { kResetRf, kReadMemory, kWriteMemory, kPlotFrame };
-enum Status : uint32_t { kDone = 0, kBadAccess = 1 };
-constexpr uint32_t kLargestTransferBytes = 9000;
+constexpr std::uint8_t kDspType = 50;
+enum Subtype : std::uint8_t { kResetRf, kReadMemory, kWriteMemory, kPlotFrame };
+enum Status : std::uint32_t { kDone = 0, kBadAccess = 1 };
+constexpr std::uint32_t kLargestTransferBytes = 9000;
 
-class DspModule final : public Module {
+class DspPart final : public Part {
  public:
-  explicit DspModule(Firmware& firmware)
+  explicit DspPart(Firmware& firmware)
       : firmware_(firmware), memory_({{0x0000'0000, 0x4000, false}, {0x0010'0000, 0x8000, true}}) {}
 
   std::string Name() const override { return "dsp"; }
@@ -22,25 +23,25 @@ class DspModule final : public Module {
       Reply(frame, kDone, {});
     });
     registry.On(kDspType, kReadMemory, [this](const Frame& frame) {
-      uint32_t width = Width(frame);
-      uint32_t count = Read16(frame.payload, 8, firmware_.Order());
-      auto bytes = width != 0 && count <= kLargestTransferBytes / width
-                       ? memory_.Read(Address(frame), width, count)
-                       : std::nullopt;
+      const std::uint32_t width = Width(frame);
+      const std::uint32_t count = Read16(frame.payload, 8, firmware_.Order());
+      const auto bytes = width != 0 && count <= kLargestTransferBytes / width
+                             ? memory_.Read(Address(frame), width, count)
+                             : std::nullopt;
       Reply(frame, bytes ? kDone : kBadAccess, bytes.value_or(Bytes()));
     });
     registry.On(kDspType, kWriteMemory, [this](const Frame& frame) {
-      uint32_t width = Width(frame);
+      const std::uint32_t width = Width(frame);
       Bytes bytes;
-      uint32_t value = Read32(frame.payload, 8, firmware_.Order());
-      if (width == 1) bytes.push_back(static_cast<uint8_t>(value));
-      if (width == 2) Append16(bytes, static_cast<uint16_t>(value), firmware_.Order());
+      const std::uint32_t value = Read32(frame.payload, 8, firmware_.Order());
+      if (width == 1) bytes.push_back(static_cast<std::uint8_t>(value));
+      if (width == 2) Append16(bytes, static_cast<std::uint16_t>(value), firmware_.Order());
       if (width == 4) Append32(bytes, value, firmware_.Order());
-      bool done = frame.payload.size() == 16 && memory_.Write(Address(frame), width, bytes);
+      const bool done = frame.payload.size() == 16 && memory_.Write(Address(frame), width, bytes);
       Reply(frame, done ? kDone : kBadAccess, {});
     });
     registry.On(kDspType, kPlotFrame, [this](const Frame& frame) {
-      bool whole = frame.payload.size() == 12;
+      const bool whole = frame.payload.size() == 12;
       if (whole) lastPlot_ = ToHex(frame.payload);
       Reply(frame, whole ? kDone : kBadAccess, {});
     });
@@ -58,11 +59,13 @@ class DspModule final : public Module {
   }
 
  private:
-  uint32_t Address(const Frame& frame) const { return Read32(frame.payload, 0, firmware_.Order()); }
+  std::uint32_t Address(const Frame& frame) const {
+    return Read32(frame.payload, 0, firmware_.Order());
+  }
 
   // 0 when it is none of the three that the DSP's bus has.
-  uint32_t Width(const Frame& frame) const {
-    uint32_t width = Read32(frame.payload, 4, firmware_.Order());
+  std::uint32_t Width(const Frame& frame) const {
+    const std::uint32_t width = Read32(frame.payload, 4, firmware_.Order());
     return width == 1 || width == 2 || width == 4 ? width : 0;
   }
 
@@ -81,8 +84,8 @@ class DspModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeDspModule(Firmware& firmware) {
-  return std::make_unique<DspModule>(firmware);
+std::unique_ptr<Part> MakeDspPart(Firmware& firmware) {
+  return std::make_unique<DspPart>(firmware);
 }
 
 }  // namespace handset

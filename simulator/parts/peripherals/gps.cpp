@@ -1,3 +1,4 @@
+// GPS, type 35.
 #include <algorithm>
 
 #include "parts/memory/fixed_nv.h"
@@ -6,15 +7,15 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kGpsType = 35;
-constexpr size_t kBlockBytes = 264;
-constexpr size_t kDataOffset = 8;
-constexpr uint32_t kUnknownCommand = 0xFFFF'FFFF;
-enum Command : uint32_t { kOpen = 0, kClose = 3, kWriteNv = 4, kReadNv = 5 };
+constexpr std::uint8_t kGpsType = 35;
+constexpr std::size_t kBlockBytes = 264;
+constexpr std::size_t kDataOffset = 8;
+constexpr std::uint32_t kUnknownCommand = 0xFFFF'FFFF;
+enum Command : std::uint32_t { kOpen = 0, kClose = 3, kWriteNv = 4, kReadNv = 5 };
 
-class GpsModule final : public Module {
+class GpsPart final : public Part {
  public:
-  explicit GpsModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit GpsPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "gps"; }
 
@@ -31,10 +32,10 @@ class GpsModule final : public Module {
  private:
   void Carry(const Frame& frame) {
     if (frame.payload.size() != kBlockBytes) return firmware_.Refuse(frame);
-    uint32_t command = Read32(frame.payload, 0, firmware_.Order());
-    uint32_t length = Read32(frame.payload, 4, firmware_.Order());
+    const std::uint32_t command = Read32(frame.payload, 0, firmware_.Order());
+    const std::uint32_t length = Read32(frame.payload, 4, firmware_.Order());
     // The parameter block travels as it is kept.
-    auto data = std::span(frame.payload).subspan(kDataOffset, kGpsBlock.bytes);
+    const auto data = std::span(frame.payload).subspan(kDataOffset, kGpsBlock.bytes);
     Bytes answer(kBlockBytes);
     bool known = true;
     if (command == kOpen || command == kClose) {
@@ -42,7 +43,7 @@ class GpsModule final : public Module {
     } else if (command == kWriteNv && length == kGpsBlock.bytes) {
       WriteFixedNv(firmware_.Flash(), kGpsBlock, data);
     } else if (command == kReadNv && length == kGpsBlock.bytes) {
-      Bytes stored = ReadFixedNv(firmware_.Flash(), kGpsBlock);
+      const Bytes stored = ReadFixedNv(firmware_.Flash(), kGpsBlock);
       std::copy(stored.begin(), stored.end(), answer.begin() + kDataOffset);
     } else {
       known = false;
@@ -60,8 +61,8 @@ class GpsModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeGpsModule(Firmware& firmware) {
-  return std::make_unique<GpsModule>(firmware);
+std::unique_ptr<Part> MakeGpsPart(Firmware& firmware) {
+  return std::make_unique<GpsPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// ADC channels, battery voltage and pressed keys, types 15, 30 and 1.
 #include <algorithm>
 #include <cmath>
 
@@ -6,20 +7,20 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kAdcType = 15;
-constexpr uint8_t kVoltType = 30;
-constexpr uint8_t kKeyType = 1;
-constexpr uint16_t kKeyMessage = 0xA001;
-constexpr uint16_t kKeyMessageBytes = 8;
+constexpr std::uint8_t kAdcType = 15;
+constexpr std::uint8_t kVoltType = 30;
+constexpr std::uint8_t kKeyType = 1;
+constexpr std::uint16_t kKeyMessage = 0xA001;
+constexpr std::uint16_t kKeyMessageBytes = 8;
 constexpr double kFullMillivolts = 4150;
 constexpr double kEmptyMillivolts = 3400;
 constexpr double kMillivoltsPerReading = 0.2;
 constexpr double kNoiseMillivolts = 2;
 constexpr double kNoiseCounts = 3;
 
-class MeasuringModule final : public Module {
+class MeasuringPart final : public Part {
  public:
-  explicit MeasuringModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit MeasuringPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "measuring"; }
 
@@ -28,7 +29,7 @@ class MeasuringModule final : public Module {
     registry.OnType(kAdcType, [this](const Frame& frame) { ReadAdc(frame.subtype); });
     registry.On(kVoltType, 0, [this](const Frame& frame) {
       Bytes answer;
-      Append32(answer, static_cast<uint32_t>(std::lround(Battery())), firmware_.Order());
+      Append32(answer, static_cast<std::uint32_t>(std::lround(Battery())), firmware_.Order());
       firmware_.Answer(frame, std::move(answer));
     });
     registry.On(kKeyType, 0, [this](const Frame& frame) { PressKey(frame); });
@@ -53,12 +54,12 @@ class MeasuringModule final : public Module {
   }
 
   // A ten-bit converter whose channels stand at levels of their own; channel 0 is the battery
-  // behind a divider by four. Behind the value stand the channel and the converter's scale.
-  void ReadAdc(uint8_t channel) {
-    double level = channel == 0 ? Battery() / 4 : 200 + 90 * (channel % 8);
-    double counts = firmware_.Noise().Gaussian(level, kNoiseCounts);
+  // through a divider by four. After the value stand the channel and the converter's scale.
+  void ReadAdc(std::uint8_t channel) {
+    const double level = channel == 0 ? Battery() / 4 : 200 + 90 * (channel % 8);
+    const double counts = firmware_.Noise().Gaussian(level, kNoiseCounts);
     Bytes answer;
-    Append16(answer, static_cast<uint16_t>(std::clamp(std::lround(counts), 0L, 1023L)),
+    Append16(answer, static_cast<std::uint16_t>(std::clamp(std::lround(counts), 0L, 1023L)),
              firmware_.Order());
     answer.push_back(channel);
     answer.push_back(10);
@@ -66,7 +67,7 @@ class MeasuringModule final : public Module {
   }
 
   void PressKey(const Frame& frame) {
-    ByteOrder order = firmware_.Order();
+    const ByteOrder order = firmware_.Order();
     if (Read16(frame.payload, 0, order) != kKeyMessage ||
         Read16(frame.payload, 2, order) != kKeyMessageBytes ||
         frame.payload.size() != kKeyMessageBytes) {
@@ -79,14 +80,14 @@ class MeasuringModule final : public Module {
 
   Firmware& firmware_;
   double battery_ = 0;
-  uint32_t lastKey_ = 0;
-  uint32_t keys_ = 0;
+  std::uint32_t lastKey_ = 0;
+  std::uint32_t keys_ = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Module> MakeMeasuringModule(Firmware& firmware) {
-  return std::make_unique<MeasuringModule>(firmware);
+std::unique_ptr<Part> MakeMeasuringPart(Firmware& firmware) {
+  return std::make_unique<MeasuringPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// The parts around the baseband: switches, measured values and short-range radios.
 #pragma once
 
 #include <memory>
@@ -7,13 +8,13 @@
 namespace handset {
 
 // LED, vibrator, LCD, key light and camera.
-std::unique_ptr<Module> MakeSwitchesModule(Firmware& firmware);
+std::unique_ptr<Part> MakeSwitchesPart(Firmware& firmware);
 // ADC channels, battery voltage and pressed keys.
-std::unique_ptr<Module> MakeMeasuringModule(Firmware& firmware);
-std::unique_ptr<Module> MakeGpsModule(Firmware& firmware);
-std::unique_ptr<Module> MakeBluetoothModule(Firmware& firmware);
-std::unique_ptr<Module> MakeWifiModule(Firmware& firmware);
+std::unique_ptr<Part> MakeMeasuringPart(Firmware& firmware);
+std::unique_ptr<Part> MakeGpsPart(Firmware& firmware);
+std::unique_ptr<Part> MakeBluetoothPart(Firmware& firmware);
+std::unique_ptr<Part> MakeWifiPart(Firmware& firmware);
 // The DSP's debug functions.
-std::unique_ptr<Module> MakeDspModule(Firmware& firmware);
+std::unique_ptr<Part> MakeDspPart(Firmware& firmware);
 
 }  // namespace handset

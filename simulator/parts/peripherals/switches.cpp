@@ -1,3 +1,4 @@
+// LED, vibrator, LCD, key light and camera, type 17.
 #include <array>
 #include <map>
 
@@ -6,10 +7,10 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kPeripheralType = 17;
+constexpr std::uint8_t kPeripheralType = 17;
 
 struct Switch {
-  uint8_t subtype;
+  std::uint8_t subtype;
   const char* peripheral;
   bool on;
 };
@@ -28,9 +29,9 @@ constexpr std::array<Switch, 10> kSwitches{{
     {19, "camera", false},
 }};
 
-class SwitchesModule final : public Module {
+class SwitchesPart final : public Part {
  public:
-  explicit SwitchesModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit SwitchesPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "peripherals"; }
 
@@ -58,8 +59,8 @@ class SwitchesModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeSwitchesModule(Firmware& firmware) {
-  return std::make_unique<SwitchesModule>(firmware);
+std::unique_ptr<Part> MakeSwitchesPart(Firmware& firmware) {
+  return std::make_unique<SwitchesPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,3 +1,4 @@
+// WiFi, type 54.
 #include <algorithm>
 #include <array>
 #include <functional>
@@ -8,21 +9,21 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kWifiType = 54;
-constexpr uint32_t kLastChannel = 13;
-constexpr uint32_t kDefaultChannel = 6;
-constexpr std::array<uint32_t, 20> kRates{1,  2,  5,  6,  7,  9,  11, 12, 13, 18,
-                                          19, 24, 26, 36, 39, 48, 52, 54, 58, 65};
-constexpr uint32_t kLastMode = 6;
-constexpr uint32_t kLastPowerLevel = 5;
-constexpr uint32_t kLastFactor = 5;
+constexpr std::uint8_t kWifiType = 54;
+constexpr std::uint32_t kLastChannel = 13;
+constexpr std::uint32_t kDefaultChannel = 6;
+constexpr std::array<std::uint32_t, 20> kRates{1,  2,  5,  6,  7,  9,  11, 12, 13, 18,
+                                               19, 24, 26, 36, 39, 48, 52, 54, 58, 65};
+constexpr std::uint32_t kLastMode = 6;
+constexpr std::uint32_t kLastPowerLevel = 5;
+constexpr std::uint32_t kLastFactor = 5;
 constexpr const char* kFactorItem = "wifi/factor";
 constexpr const char* kCrystalItem = "wifi/crystal";
 
-enum Status : uint32_t { kDone = 0, kNotTesting = 1, kBadValue = 2 };
-enum Receiver : uint32_t { kReceiverOff = 0, kReceiverOn = 1, kClearCounts = 2 };
+enum Status : std::uint32_t { kDone = 0, kNotTesting = 1, kBadValue = 2 };
+enum Receiver : std::uint32_t { kReceiverOff = 0, kReceiverOn = 1, kClearCounts = 2 };
 
-enum Subtype : uint8_t {
+enum Subtype : std::uint8_t {
   kTestMode,
   kSaveAddress,
   kLoadAddress,
@@ -41,15 +42,15 @@ enum Subtype : uint8_t {
 
 // Every answer starts with a status: not 0 for a value out of range, and for whatever needs the
 // radio while the test mode has not been entered.
-class WifiModule final : public Module {
+class WifiPart final : public Part {
  public:
-  explicit WifiModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit WifiPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "wifi"; }
 
   void Register(Registry& registry) override {
     On(registry, kTestMode, [this](const Frame& frame) {
-      uint32_t on = Word(frame);
+      const std::uint32_t on = Word(frame);
       if (on > 1) return kBadValue;
       testing_ = on == 1;
       if (!testing_) transmitting_ = receiving_ = false;
@@ -98,7 +99,7 @@ class WifiModule final : public Module {
     OnRadio(registry, kChannel,
             [this](const Frame& f) { return Take(Word(f), 1, kLastChannel, channel_); });
     OnRadio(registry, kRate, [this](const Frame& frame) {
-      uint32_t rate = Word(frame);
+      const std::uint32_t rate = Word(frame);
       if (std::find(kRates.begin(), kRates.end(), rate) == kRates.end()) return kBadValue;
       rate_ = rate;
       return kDone;
@@ -108,14 +109,14 @@ class WifiModule final : public Module {
             [this](const Frame& f) { return Take(Word(f), 1, kLastPowerLevel, powerLevel_); });
     OnRadio(registry, kTransmitter, [this](const Frame& frame) {
       // These two words do not follow the handset's order.
-      uint32_t on = Read32(frame.payload, 0, ByteOrder::Big);
+      const std::uint32_t on = Read32(frame.payload, 0, ByteOrder::Big);
       transmitParameter_ = Read32(frame.payload, 4, ByteOrder::Big);
       if (on > 1) return kBadValue;
       transmitting_ = on == 1;
       return kDone;
     });
     OnRadio(registry, kReceiver, [this](const Frame& frame) {
-      uint32_t action = Word(frame);
+      const std::uint32_t action = Word(frame);
       if (action > kClearCounts) return kBadValue;
       if (action == kClearCounts) {
         good_ = bad_ = 0;
@@ -151,7 +152,7 @@ class WifiModule final : public Module {
     // Written ones are kept, set ones are in force until the next restart.
     for (Subtype subtype : {kWriteFactor, kSetFactor}) {
       On(registry, subtype, [this, subtype](const Frame& frame) {
-        uint32_t index = Read32(frame.payload, 4, ByteOrder::Big);
+        const std::uint32_t index = Read32(frame.payload, 4, ByteOrder::Big);
         if (frame.payload.size() != 12 || index < 1 || index > kLastFactor) return kBadValue;
         factor_.assign(frame.payload.begin() + 4, frame.payload.end());
         if (subtype == kWriteFactor) firmware_.Flash().Put(kFactorItem, factor_);
@@ -179,9 +180,12 @@ class WifiModule final : public Module {
     firmware_.Answer(frame, std::move(answer));
   }
 
-  uint32_t Word(const Frame& frame) const { return Read32(frame.payload, 0, firmware_.Order()); }
+  std::uint32_t Word(const Frame& frame) const {
+    return Read32(frame.payload, 0, firmware_.Order());
+  }
 
-  static Status Take(uint32_t value, uint32_t first, uint32_t last, uint32_t& place) {
+  static Status Take(std::uint32_t value, std::uint32_t first, std::uint32_t last,
+                     std::uint32_t& place) {
     if (value < first || value > last) return kBadValue;
     place = value;
     return kDone;
@@ -191,20 +195,20 @@ class WifiModule final : public Module {
   bool testing_ = false;
   bool transmitting_ = false;
   bool receiving_ = false;
-  uint32_t channel_ = 0;
-  uint32_t rate_ = 0;
-  uint32_t mode_ = 0;
-  uint32_t powerLevel_ = 0;
-  uint32_t transmitParameter_ = 0;
-  uint32_t good_ = 0;
-  uint32_t bad_ = 0;
+  std::uint32_t channel_ = 0;
+  std::uint32_t rate_ = 0;
+  std::uint32_t mode_ = 0;
+  std::uint32_t powerLevel_ = 0;
+  std::uint32_t transmitParameter_ = 0;
+  std::uint32_t good_ = 0;
+  std::uint32_t bad_ = 0;
   Bytes factor_;  // index and value, most significant byte first
 };
 
 }  // namespace
 
-std::unique_ptr<Module> MakeWifiModule(Firmware& firmware) {
-  return std::make_unique<WifiModule>(firmware);
+std::unique_ptr<Part> MakeWifiPart(Firmware& firmware) {
+  return std::make_unique<WifiPart>(firmware);
 }
 
 }  // namespace handset

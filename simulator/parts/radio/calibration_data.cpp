@@ -7,11 +7,11 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kType = 32;
-constexpr size_t kHeaderBytes = 10;
+constexpr std::uint8_t kType = 32;
+constexpr std::size_t kHeaderBytes = 10;
 constexpr milliseconds kCommitTime{150};
 
-enum StepItem : uint16_t {
+enum StepItem : std::uint16_t {
   kChannel = 19,
   kLevel = 20,
   kRssi = 25,
@@ -58,7 +58,7 @@ void CalibrationData::Write(const Frame& frame) {
   }
   // The radio uses what is in RAM at once.
   if (header.copy == 0) {
-    const uint16_t value = items_.Value(0, header.item);
+    const std::uint16_t value = items_.Value(0, header.item);
     if (header.item == item::kAfcCentre || header.item == item::kFineTrim) {
       frontEnd_.SetCrystal(value);
     } else if (header.item == item::kCoarseTrim) {
@@ -81,8 +81,8 @@ void CalibrationData::Commit(const Frame& frame) {
 }
 
 bool CalibrationData::Step(const Frame& frame, const Header& header) {
-  const auto word = [&](size_t offset) { return U16(frame, kHeaderBytes + offset); };
-  const auto has = [&](size_t bytes) { return header.bytes == bytes; };
+  const auto word = [&](std::size_t offset) { return U16(frame, kHeaderBytes + offset); };
+  const auto has = [&](std::size_t bytes) { return header.bytes == bytes; };
   switch (header.item) {
     case kChannel:
       if (!has(2) || !frontEnd_.SetBand(header.band)) break;
@@ -137,13 +137,14 @@ bool CalibrationData::Step(const Frame& frame, const Header& header) {
 
 // The commands 1 to 5 do nothing that shows; 6 measures what is received.
 void CalibrationData::NonSignal(const Frame& frame) {
-  const uint16_t id = U16(frame, kHeaderBytes + 10);
+  const std::uint16_t id = U16(frame, kHeaderBytes + 10);
   const bool known = id >= 1 && id <= 6;
   Bytes answer;
   Append16(answer, known ? 0 : 1, firmware_.Order());
   const bool measures = id == 6;
-  Append16(answer, measures ? frontEnd_.SettledRssi() : uint16_t{0}, firmware_.Order());
-  Append16(answer, measures ? frontEnd_.MeasureReceiveLevel() : uint16_t{0}, firmware_.Order());
+  Append16(answer, measures ? frontEnd_.SettledRssi() : std::uint16_t{0}, firmware_.Order());
+  Append16(answer, measures ? frontEnd_.MeasureReceiveLevel() : std::uint16_t{0},
+           firmware_.Order());
   Append16(answer, 0, firmware_.Order());
   firmware_.Answer(frame, std::move(answer));
 }

@@ -1,3 +1,5 @@
+// The calibration data command, type 32: items in RAM and flash, and the pseudo-items that are
+// radio steps.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +11,6 @@
 
 namespace handset {
 
-// The calibration data command, type 32: items in RAM and flash, and the pseudo-items that are
-// radio steps.
 class CalibrationData {
  public:
   CalibrationData(Firmware& firmware, CalibrationItems& items, FrontEnd& frontEnd, Layer1& layer1)
@@ -20,7 +20,7 @@ class CalibrationData {
 
  private:
   struct Header {
-    uint16_t copy, band, item, offset, bytes;
+    std::uint16_t copy, band, item, offset, bytes;
   };
 
   void Write(const Frame& frame);
@@ -32,7 +32,7 @@ class CalibrationData {
   void NonSignal(const Frame& frame);
   void Acknowledge(const Frame& frame);
   Header HeaderOf(const Frame& frame) const;
-  uint16_t U16(const Frame& frame, size_t offset) const {
+  std::uint16_t U16(const Frame& frame, std::size_t offset) const {
     return Read16(frame.payload, offset, firmware_.Order());
   }
 

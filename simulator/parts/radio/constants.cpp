@@ -10,10 +10,11 @@ namespace {
 
 constexpr double kFullFactor = 4096;
 // Keeps the radio's constants apart from the noise of the same seed.
-constexpr uint64_t kConstantsStream = 0x5244;
+constexpr std::uint64_t kConstantsStream = 0x5244;
 
-BandConstants MakeBand(Random& random, uint16_t band, const char* name, uint16_t firstChannel,
-                       uint16_t lastChannel, uint8_t firstLevel, double highestPowerDbm) {
+BandConstants MakeBand(Random& random, std::uint16_t band, const char* name,
+                       std::uint16_t firstChannel, std::uint16_t lastChannel,
+                       std::uint8_t firstLevel, double highestPowerDbm) {
   const auto spread = [&](double middle, double width) {
     return middle + width * (2 * random.Uniform() - 1);
   };
@@ -37,7 +38,7 @@ BandConstants MakeBand(Random& random, uint16_t band, const char* name, uint16_t
 
 }  // namespace
 
-RadioConstants::RadioConstants(uint64_t seed) {
+RadioConstants::RadioConstants(std::uint64_t seed) {
   Random random(seed, kConstantsStream);
   const auto spread = [&](double middle, double width) {
     return middle + width * (2 * random.Uniform() - 1);
@@ -46,15 +47,15 @@ RadioConstants::RadioConstants(uint64_t seed) {
   hzPerStep = spread(2.8, 0.4);
   hzPerStepCubed = spread(0, 2e-8);
   hzPerDegree = spread(0, 4);
-  directCurrent = {static_cast<uint16_t>(500 + random.Below(100)),
-                   static_cast<uint16_t>(500 + random.Below(100))};
+  directCurrent = {static_cast<std::uint16_t>(500 + random.Below(100)),
+                   static_cast<std::uint16_t>(500 + random.Below(100))};
   bands = {MakeBand(random, 0, "GSM900", 1, 124, 5, 33),
            MakeBand(random, 1, "DCS1800", 512, 885, 0, 30),
            MakeBand(random, 3, "PCS1900", 512, 810, 0, 30),
            MakeBand(random, 4, "GSM850", 128, 251, 5, 33)};
 }
 
-const BandConstants* RadioConstants::Band(uint32_t band) const {
+const BandConstants* RadioConstants::Band(std::uint32_t band) const {
   const auto* found = std::find_if(bands.begin(), bands.end(),
                                    [band](const BandConstants& each) { return each.band == band; });
   return found == bands.end() ? nullptr : &*found;
@@ -66,22 +67,23 @@ double FrequencyErrorHz(const RadioConstants& constants, double dac, double temp
          constants.hzPerDegree * (temperature - kRoomTemperature);
 }
 
-double Place(const BandConstants& band, uint16_t channel) {
+double Place(const BandConstants& band, std::uint16_t channel) {
   const double middle = (band.firstChannel + band.lastChannel) / 2.0;
   return (channel - middle) / (band.lastChannel - middle);
 }
 
-size_t GroupOf(const BandConstants& band, uint16_t channel) {
+std::size_t GroupOf(const BandConstants& band, std::uint16_t channel) {
   const double share = (Place(band, channel) + 1) / 2;
-  return std::min(static_cast<size_t>(std::max(share, 0.0) * kChannelGroups), kChannelGroups - 1);
+  return std::min(static_cast<std::size_t>(std::max(share, 0.0) * kChannelGroups),
+                  kChannelGroups - 1);
 }
 
-uint16_t MiddleOfGroup(const BandConstants& band, size_t group) {
+std::uint16_t MiddleOfGroup(const BandConstants& band, std::size_t group) {
   const double width = (band.lastChannel - band.firstChannel) / static_cast<double>(kChannelGroups);
-  return static_cast<uint16_t>(band.firstChannel + width * (static_cast<double>(group) + 0.5));
+  return static_cast<std::uint16_t>(band.firstChannel + width * (static_cast<double>(group) + 0.5));
 }
 
-double TransmitPowerDbm(const BandConstants& band, uint16_t channel, uint16_t factor,
+double TransmitPowerDbm(const BandConstants& band, std::uint16_t channel, std::uint16_t factor,
                         double temperature) {
   const double share = std::max<double>(factor, 1) / kFullFactor;
   return band.transmitGainDbm + 20 * std::log10(share) - band.compressionDb * std::pow(share, 4) +
@@ -89,11 +91,11 @@ double TransmitPowerDbm(const BandConstants& band, uint16_t channel, uint16_t fa
          band.transmitDbPerDegree * (temperature - kRoomTemperature);
 }
 
-double TargetPowerDbm(const BandConstants& band, size_t level) {
+double TargetPowerDbm(const BandConstants& band, std::size_t level) {
   return band.highestPowerDbm - 2 * static_cast<double>(level);
 }
 
-double TrueFactor(const BandConstants& band, uint16_t channel, double powerDbm) {
+double TrueFactor(const BandConstants& band, std::uint16_t channel, double powerDbm) {
   double low = 1, high = kFullFactor;
   const double tilt = band.transmitTiltDb * Place(band, channel);
   for (int i = 0; i < 60; ++i) {
@@ -106,17 +108,17 @@ double TrueFactor(const BandConstants& band, uint16_t channel, double powerDbm) 
   return low;
 }
 
-double ReceivedDbm(const BandConstants& band, uint16_t channel, double inputDbm) {
+double ReceivedDbm(const BandConstants& band, std::uint16_t channel, double inputDbm) {
   return inputDbm - band.receiveLossDb - band.receiveTiltDb * Place(band, channel);
 }
 
-double GainDb(const BandConstants& band, uint16_t gainWord) {
+double GainDb(const BandConstants& band, std::uint16_t gainWord) {
   return band.gainOffsetDb + band.gainStepDb * gainWord;
 }
 
 double Rssi(double receivedDbm, double gainDb) { return 64 * (receivedDbm + gainDb + 130); }
 
-double ReceiveLevel(double receivedDbm, int16_t compensation) {
+double ReceiveLevel(double receivedDbm, std::int16_t compensation) {
   return 4 * (receivedDbm + 110) + compensation;
 }
 

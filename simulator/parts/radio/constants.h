@@ -1,3 +1,5 @@
+// What makes this handset's radio another one than the next: the constants that a calibration
+// has to find. They follow from the handset's seed, and nothing on the diagnostic port tells them.
 #pragma once
 
 #include <array>
@@ -5,16 +7,14 @@
 #include <cstdint>
 #include <optional>
 
-// What makes this handset's radio another one than the next: the constants that a calibration
-// has to find. They follow from the handset's seed, and nothing on the diagnostic port tells them.
 namespace handset {
 
 struct BandConstants {
-  uint16_t band;  // as commands name it
+  std::uint16_t band;  // as commands name it
   const char* name;
-  uint16_t firstChannel;
-  uint16_t lastChannel;
-  uint8_t firstLevel;      // the power control level of the highest power
+  std::uint16_t firstChannel;
+  std::uint16_t lastChannel;
+  std::uint8_t firstLevel;  // the power control level of the highest power
   double highestPowerDbm;  // what the network expects at that level; 2 dB less for each further one
   double transmitGainDbm;  // power at factor 4096, without compression
   double compressionDb;    // lost at factor 4096; grows with the fourth power of the factor
@@ -28,19 +28,19 @@ struct BandConstants {
 
 // A band has five groups of channels, each with step factors for 16 levels and a receive
 // compensation.
-inline constexpr size_t kChannelGroups = 5;
-inline constexpr size_t kLevels = 16;
+inline constexpr std::size_t kChannelGroups = 5;
+inline constexpr std::size_t kLevels = 16;
 
 struct RadioConstants {
   double centreDac;  // where the crystal is right at 25 degrees
   double hzPerStep;
   double hzPerStepCubed;  // the crystal's curve
   double hzPerDegree;
-  std::array<uint16_t, 2> directCurrent;
+  std::array<std::uint16_t, 2> directCurrent;
   std::array<BandConstants, 4> bands;
 
-  explicit RadioConstants(uint64_t seed);
-  const BandConstants* Band(uint32_t band) const;
+  explicit RadioConstants(std::uint64_t seed);
+  const BandConstants* Band(std::uint32_t band) const;
 };
 
 inline constexpr double kRoomTemperature = 25;
@@ -48,22 +48,22 @@ inline constexpr double kRoomTemperature = 25;
 double FrequencyErrorHz(const RadioConstants& constants, double dac, double temperature);
 
 // -1 at the band's first channel, 1 at its last.
-double Place(const BandConstants& band, uint16_t channel);
-size_t GroupOf(const BandConstants& band, uint16_t channel);
-uint16_t MiddleOfGroup(const BandConstants& band, size_t group);
+double Place(const BandConstants& band, std::uint16_t channel);
+std::size_t GroupOf(const BandConstants& band, std::uint16_t channel);
+std::uint16_t MiddleOfGroup(const BandConstants& band, std::size_t group);
 
-double TransmitPowerDbm(const BandConstants& band, uint16_t channel, uint16_t factor,
+double TransmitPowerDbm(const BandConstants& band, std::uint16_t channel, std::uint16_t factor,
                         double temperature);
-double TargetPowerDbm(const BandConstants& band, size_t level);
+double TargetPowerDbm(const BandConstants& band, std::size_t level);
 // The factor that gives the power: what a calibration should find.
-double TrueFactor(const BandConstants& band, uint16_t channel, double powerDbm);
+double TrueFactor(const BandConstants& band, std::uint16_t channel, double powerDbm);
 
 // What reaches the receiver's amplifier.
-double ReceivedDbm(const BandConstants& band, uint16_t channel, double inputDbm);
-double GainDb(const BandConstants& band, uint16_t gainWord);
+double ReceivedDbm(const BandConstants& band, std::uint16_t channel, double inputDbm);
+double GainDb(const BandConstants& band, std::uint16_t gainWord);
 // As the handset reports it: 1/64 dB above -130 dBm.
 double Rssi(double receivedDbm, double gainDb);
 // 1/4 dB above -110 dBm, with the compensation in quarters of a dB.
-double ReceiveLevel(double receivedDbm, int16_t compensation);
+double ReceiveLevel(double receivedDbm, std::int16_t compensation);
 
 }  // namespace handset

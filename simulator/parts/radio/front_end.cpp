@@ -16,9 +16,9 @@ constexpr double kReceiveLevelNoise = 0.2;
 constexpr double kFrequencyNoiseHz = 0.5;
 constexpr double kPowerNoiseDb = 0.01;
 
-uint16_t Rounded(double value) {
-  return static_cast<uint16_t>(
-      std::clamp(std::round(value), 0.0, double{std::numeric_limits<uint16_t>::max()}));
+std::uint16_t Rounded(double value) {
+  return static_cast<std::uint16_t>(
+      std::clamp(std::round(value), 0.0, double{std::numeric_limits<std::uint16_t>::max()}));
 }
 
 }  // namespace
@@ -32,13 +32,13 @@ void FrontEnd::PowerOn() {
   readsUntilSettled_ = 0;
 }
 
-bool FrontEnd::SetBand(uint32_t band) {
+bool FrontEnd::SetBand(std::uint32_t band) {
   if (!constants_.Band(band)) return false;
-  band_ = static_cast<uint16_t>(band);
+  band_ = static_cast<std::uint16_t>(band);
   return true;
 }
 
-void FrontEnd::Tune(uint16_t channel) {
+void FrontEnd::Tune(std::uint16_t channel) {
   channel_ = channel;
   readsUntilSettled_ = kReadsUntilSettled;
 }
@@ -48,7 +48,7 @@ const BandConstants* FrontEnd::TunedBand() const {
   return band && channel_ >= band->firstChannel && channel_ <= band->lastChannel ? band : nullptr;
 }
 
-bool FrontEnd::TransmitWith(uint32_t group, uint16_t factor) {
+bool FrontEnd::TransmitWith(std::uint32_t group, std::uint16_t factor) {
   if (group >= kChannelGroups) return false;
   channel_ = MiddleOfGroup(*constants_.Band(band_), group);
   factor_ = factor;
@@ -56,21 +56,21 @@ bool FrontEnd::TransmitWith(uint32_t group, uint16_t factor) {
   return true;
 }
 
-uint16_t FrontEnd::Factor(const BandConstants& band) const {
+std::uint16_t FrontEnd::Factor(const BandConstants& band) const {
   if (transmitting_ == Transmitting::WithFactor) return factor_;
   if (level_ < band.firstLevel || level_ >= band.firstLevel + kLevels) return 0;
-  const size_t element = GroupOf(band, channel_) * kLevels + (level_ - band.firstLevel);
+  const std::size_t element = GroupOf(band, channel_) * kLevels + (level_ - band.firstLevel);
   return items_.Value(band_, item::kStepFactors, element);
 }
 
-void FrontEnd::Receive(uint16_t gainWord, bool directCurrent) {
+void FrontEnd::Receive(std::uint16_t gainWord, bool directCurrent) {
   receiving_ = true;
   gainWord_ = gainWord;
   directCurrent_ = directCurrent;
   readsUntilSettled_ = kReadsUntilSettled;
 }
 
-uint16_t FrontEnd::MeasureRssi() {
+std::uint16_t FrontEnd::MeasureRssi() {
   if (readsUntilSettled_ > 0) {
     --readsUntilSettled_;
     return 0;
@@ -78,7 +78,7 @@ uint16_t FrontEnd::MeasureRssi() {
   return SettledRssi();
 }
 
-uint16_t FrontEnd::SettledRssi() {
+std::uint16_t FrontEnd::SettledRssi() {
   const BandConstants* band = TunedBand();
   if (!receiving_ || !band) return 0;
   const double ideal =
@@ -86,25 +86,27 @@ uint16_t FrontEnd::SettledRssi() {
   return Rounded(firmware_.Noise().Gaussian(ideal, kRssiNoise));
 }
 
-uint16_t FrontEnd::MeasureReceiveLevel() {
+std::uint16_t FrontEnd::MeasureReceiveLevel() {
   const BandConstants* band = TunedBand();
   if (!receiving_ || !band) return 0;
-  const auto compensation = static_cast<int16_t>(
+  const auto compensation = static_cast<std::int16_t>(
       items_.Value(band_, item::kReceiveCompensation, GroupOf(*band, channel_)));
   const double ideal = ReceiveLevel(ReceivedDbm(*band, channel_, inputDbm_), compensation);
   return Rounded(firmware_.Noise().Gaussian(ideal, kReceiveLevelNoise));
 }
 
-std::pair<uint16_t, uint16_t> FrontEnd::MeasureDirectCurrent() {
-  if (!receiving_ || !directCurrent_) return {uint16_t{0}, uint16_t{0}};
-  const auto noisy = [&](uint16_t value) { return Rounded(firmware_.Noise().Gaussian(value, 1)); };
-  const uint16_t first = noisy(constants_.directCurrent[0]);
+std::pair<std::uint16_t, std::uint16_t> FrontEnd::MeasureDirectCurrent() {
+  if (!receiving_ || !directCurrent_) return {std::uint16_t{0}, std::uint16_t{0}};
+  const auto noisy = [&](std::uint16_t value) {
+    return Rounded(firmware_.Noise().Gaussian(value, 1));
+  };
+  const std::uint16_t first = noisy(constants_.directCurrent[0]);
   return {first, noisy(constants_.directCurrent[1])};
 }
 
 std::optional<double> FrontEnd::FrequencyError() {
   if (!Transmits() || !IsInBand()) return std::nullopt;
-  const double dac = dac_ + kFineStepsPerCoarseStep * static_cast<int16_t>(coarseTrim_);
+  const double dac = dac_ + kFineStepsPerCoarseStep * static_cast<std::int16_t>(coarseTrim_);
   return firmware_.Noise().Gaussian(FrequencyErrorHz(constants_, dac, temperature_),
                                     kFrequencyNoiseHz);
 }

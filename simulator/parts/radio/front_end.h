@@ -1,3 +1,5 @@
+// The transmitter, the receiver and the crystal as they are set now, and what a test instrument on
+// the antenna connector sees of them.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +11,6 @@
 
 namespace handset {
 
-// The transmitter, the receiver and the crystal as they are set now, and what a test instrument on
-// the antenna connector sees of them.
 class FrontEnd {
  public:
   FrontEnd(Firmware& firmware, const RadioConstants& constants, const CalibrationItems& items)
@@ -20,18 +20,18 @@ class FrontEnd {
 
   // --- as commands set it
   // False, and nothing changed, for a band that the handset does not have.
-  bool SetBand(uint32_t band);
-  uint16_t Band() const { return band_; }
-  void Tune(uint16_t channel);
-  void SetLevel(uint16_t level) { level_ = level; }
-  void SetCrystal(uint16_t dac) { dac_ = dac; }
-  void SetCoarseTrim(uint16_t steps) { coarseTrim_ = steps; }
+  bool SetBand(std::uint32_t band);
+  std::uint16_t Band() const { return band_; }
+  void Tune(std::uint16_t channel);
+  void SetLevel(std::uint16_t level) { level_ = level; }
+  void SetCrystal(std::uint16_t dac) { dac_ = dac; }
+  void SetCoarseTrim(std::uint16_t steps) { coarseTrim_ = steps; }
   // With the step factor that RAM holds for the tuned channel and the level, or with a given one in
   // the middle of a group of channels.
   void Transmit() { transmitting_ = Transmitting::FromTable; }
-  bool TransmitWith(uint32_t group, uint16_t factor);
+  bool TransmitWith(std::uint32_t group, std::uint16_t factor);
   void StopTransmitting() { transmitting_ = Transmitting::No; }
-  void Receive(uint16_t gainWord, bool directCurrent);
+  void Receive(std::uint16_t gainWord, bool directCurrent);
   void StopReceiving() { receiving_ = false; }
   bool Transmits() const { return transmitting_ != Transmitting::No; }
   bool Receives() const { return receiving_; }
@@ -39,11 +39,11 @@ class FrontEnd {
   // --- as the handset measures
   bool IsInBand() const { return TunedBand() != nullptr; }
   // 0 for the first reads after tuning and where nothing is received.
-  uint16_t MeasureRssi();
+  std::uint16_t MeasureRssi();
   // The same without the settling: the measurement that layer 1 makes and reports itself.
-  uint16_t SettledRssi();
-  uint16_t MeasureReceiveLevel();
-  std::pair<uint16_t, uint16_t> MeasureDirectCurrent();
+  std::uint16_t SettledRssi();
+  std::uint16_t MeasureReceiveLevel();
+  std::pair<std::uint16_t, std::uint16_t> MeasureDirectCurrent();
 
   // --- as the instrument sees it; nothing when the handset does not transmit
   std::optional<double> FrequencyError();
@@ -56,21 +56,21 @@ class FrontEnd {
   enum class Transmitting { No, FromTable, WithFactor };
 
   const BandConstants* TunedBand() const;
-  uint16_t Factor(const BandConstants& band) const;
+  std::uint16_t Factor(const BandConstants& band) const;
 
   Firmware& firmware_;
   const RadioConstants& constants_;
   const CalibrationItems& items_;
-  uint16_t band_ = 0;
-  uint16_t channel_ = 0;
-  uint16_t level_ = 0;
-  uint16_t dac_ = 0;
-  uint16_t coarseTrim_ = 0;
+  std::uint16_t band_ = 0;
+  std::uint16_t channel_ = 0;
+  std::uint16_t level_ = 0;
+  std::uint16_t dac_ = 0;
+  std::uint16_t coarseTrim_ = 0;
   Transmitting transmitting_ = Transmitting::No;
-  uint16_t factor_ = 0;
+  std::uint16_t factor_ = 0;
   bool receiving_ = false;
   bool directCurrent_ = false;
-  uint16_t gainWord_ = 0;
+  std::uint16_t gainWord_ = 0;
   int readsUntilSettled_ = 0;
   double inputDbm_ = -200;  // nothing connected
   double temperature_ = kRoomTemperature;

@@ -45,7 +45,7 @@ std::optional<std::string> Instrument::Ask(std::string_view command) {
     const auto power = frontEnd_.Power();
     return power ? std::optional(Line("+SIMPOWER", {100 * *power})) : std::nullopt;
   }
-  const size_t equals = command.find('=');
+  const std::size_t equals = command.find('=');
   if (equals == std::string_view::npos) return std::nullopt;
   const std::string_view name = command.substr(0, equals);
   const auto numbers = Numbers(command.substr(equals + 1));
@@ -59,18 +59,18 @@ std::optional<std::string> Instrument::Ask(std::string_view command) {
     frontEnd_.SetTemperature(n[0] / 10.0);
     return "";
   }
-  const BandConstants* band = constants_.Band(static_cast<uint32_t>(n[0]));
+  const BandConstants* band = constants_.Band(static_cast<std::uint32_t>(n[0]));
   if (!band) return std::nullopt;
   if (name == "AT+SIMTRUTH" && n.size() == 1) {
     return Line("+SIMTRUTH",
                 {100 * constants_.centreDac, 1000 * constants_.hzPerStep,
                  1000 * band->receiveLossDb, 1000 * band->gainOffsetDb, 1e6 * band->gainStepDb});
   }
-  const auto group = n.size() > 1 ? static_cast<size_t>(n[1]) : kChannelGroups;
+  const auto group = n.size() > 1 ? static_cast<std::size_t>(n[1]) : kChannelGroups;
   if (group >= kChannelGroups) return std::nullopt;
-  const uint16_t channel = MiddleOfGroup(*band, group);
+  const std::uint16_t channel = MiddleOfGroup(*band, group);
   if (name == "AT+SIMFACTOR" && n.size() == 3 && n[2] >= 0 && n[2] < static_cast<int>(kLevels)) {
-    const double target = TargetPowerDbm(*band, static_cast<size_t>(n[2]));
+    const double target = TargetPowerDbm(*band, static_cast<std::size_t>(n[2]));
     return Line("+SIMFACTOR", {100 * TrueFactor(*band, channel, target)});
   }
   if (name == "AT+SIMTRUERX" && n.size() == 2) {

@@ -1,3 +1,5 @@
+// The test instrument at the antenna connector. On a line it is a box of its own; at a desk it
+// is asked through AT commands of the simulated handset, which README.md lists.
 #pragma once
 
 #include <optional>
@@ -8,8 +10,6 @@
 
 namespace handset {
 
-// The test instrument at the antenna connector. On a line it is a box of its own; at a desk it
-// is asked through AT commands of the simulated handset, which README.md lists.
 class Instrument {
  public:
   Instrument(FrontEnd& frontEnd, const RadioConstants& constants)

@@ -1,3 +1,5 @@
+// The calibration items: a working copy in RAM, which the radio uses at once, and one in flash,
+// from which RAM is loaded at every boot.
 #pragma once
 
 #include <cstdint>
@@ -9,15 +11,13 @@
 #include "firmware/firmware.h"
 #include "parts/radio/constants.h"
 
-// The calibration items: a working copy in RAM, which the radio uses at once, and one in flash,
-// from which RAM is loaded at every boot.
 namespace handset {
 
-enum class Copy : uint16_t { Ram = 0, Flash = 1 };
+enum class Copy : std::uint16_t { Ram = 0, Flash = 1 };
 
 struct ItemKind {
-  size_t bytes;
-  size_t elementBytes;
+  std::size_t bytes;
+  std::size_t elementBytes;
   bool perBand;
 };
 
@@ -26,7 +26,7 @@ class CalibrationItems {
   explicit CalibrationItems(Firmware& firmware) : firmware_(firmware) {}
 
   // Null for an item that this handset does not have.
-  static const ItemKind* Kind(uint16_t item);
+  static const ItemKind* Kind(std::uint16_t item);
 
   // What a handset holds that no station has seen: the figures of its type, not its own.
   static void WriteNominal(Storage& flash, ByteOrder order, const RadioConstants& type);
@@ -34,18 +34,19 @@ class CalibrationItems {
   void Commit();
 
   // As much of the range as the item has; nothing for an unknown item or band.
-  std::optional<Bytes> Read(Copy copy, uint16_t band, uint16_t item, size_t offset,
-                            size_t bytes) const;
+  std::optional<Bytes> Read(Copy copy, std::uint16_t band, std::uint16_t item, std::size_t offset,
+                            std::size_t bytes) const;
   // False, and nothing changed, for an unknown item or band or a range that passes its end.
-  bool Write(Copy copy, uint16_t band, uint16_t item, size_t offset, std::span<const uint8_t> data);
+  bool Write(Copy copy, std::uint16_t band, std::uint16_t item, std::size_t offset,
+             std::span<const std::uint8_t> data);
 
   // One element of a RAM item of 16-bit elements, 0 where there is none.
-  uint16_t Value(uint16_t band, uint16_t item, size_t element = 0) const;
+  std::uint16_t Value(std::uint16_t band, std::uint16_t item, std::size_t element = 0) const;
 
  private:
-  using Key = std::pair<uint16_t, uint16_t>;
+  using Key = std::pair<std::uint16_t, std::uint16_t>;
   static std::string FlashName(Key key);
-  static std::optional<Key> Locate(Copy copy, uint16_t band, uint16_t item);
+  static std::optional<Key> Locate(Copy copy, std::uint16_t band, std::uint16_t item);
   Bytes Whole(Copy copy, Key key) const;
 
   Firmware& firmware_;
@@ -53,16 +54,16 @@ class CalibrationItems {
 };
 
 namespace item {
-inline constexpr uint16_t kAfcCentre = 2;
-inline constexpr uint16_t kAfcSlope = 3;
-inline constexpr uint16_t kCoarseTrim = 6;
-inline constexpr uint16_t kFineTrim = 7;
-inline constexpr uint16_t kReceiveCompensation = 18;
-inline constexpr uint16_t kStepFactors = 21;
-inline constexpr uint16_t kGainWords = 23;
-inline constexpr uint16_t kImei = 30;
-inline constexpr uint16_t kScheme = 33;
-inline constexpr uint16_t kSecondImei = 35;
+inline constexpr std::uint16_t kAfcCentre = 2;
+inline constexpr std::uint16_t kAfcSlope = 3;
+inline constexpr std::uint16_t kCoarseTrim = 6;
+inline constexpr std::uint16_t kFineTrim = 7;
+inline constexpr std::uint16_t kReceiveCompensation = 18;
+inline constexpr std::uint16_t kStepFactors = 21;
+inline constexpr std::uint16_t kGainWords = 23;
+inline constexpr std::uint16_t kImei = 30;
+inline constexpr std::uint16_t kScheme = 33;
+inline constexpr std::uint16_t kSecondImei = 35;
 }  // namespace item
 
 }  // namespace handset

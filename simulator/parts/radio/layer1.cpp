@@ -6,16 +6,16 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kType = 10;
-constexpr size_t kHeaderBytes = 16;
+constexpr std::uint8_t kType = 10;
+constexpr std::size_t kHeaderBytes = 16;
 constexpr milliseconds kMeasurementTime{30};
-constexpr size_t kBlockBytes = 2048;
-constexpr size_t kShortBlockBytes = 480;
-constexpr size_t kStepBytes = 4;
+constexpr std::size_t kBlockBytes = 2048;
+constexpr std::size_t kShortBlockBytes = 480;
+constexpr std::size_t kStepBytes = 4;
 // More steps than this the extended run does not take.
-constexpr size_t kMaxSteps = 6912;
+constexpr std::size_t kMaxSteps = 6912;
 
-enum Message : uint16_t {
+enum Message : std::uint16_t {
   kActivate = 0xA101,
   kDeactivate = 0xA102,
   kClassmark = 0xA103,
@@ -63,7 +63,7 @@ void Layer1::Activate(bool active) {
   frontEnd_.StopReceiving();
 }
 
-bool Layer1::HasLength(const Frame& frame, uint16_t length) const {
+bool Layer1::HasLength(const Frame& frame, std::uint16_t length) const {
   return frame.payload.size() == length && U16(frame, 2) == length;
 }
 
@@ -75,7 +75,7 @@ void Layer1::Acknowledge(const Frame& frame) {
   firmware_.Answer(frame, std::move(header));
 }
 
-void Layer1::Confirm(uint16_t id) {
+void Layer1::Confirm(std::uint16_t id) {
   Bytes confirmation;
   Append16(confirmation, id, firmware_.Order());
   Append16(confirmation, kHeaderBytes + 4, firmware_.Order());
@@ -85,7 +85,7 @@ void Layer1::Confirm(uint16_t id) {
 }
 
 void Layer1::Hear(const Frame& frame) {
-  const uint16_t id = U16(frame, 0);
+  const std::uint16_t id = U16(frame, 0);
   const bool td = mode_ == CalibrationMode::TdScdma;
   switch (id) {
     case kChangeToGsm:
@@ -158,7 +158,7 @@ void Layer1::Hear(const Frame& frame) {
 void Layer1::MeasureAndReport(const Frame& frame) {
   frontEnd_.Tune(U16(frame, 20));
   frontEnd_.Receive(U16(frame, 22), false);
-  const uint32_t first = U32(frame, 16);
+  const std::uint32_t first = U32(frame, 16);
   Acknowledge(frame);
   firmware_.After(kMeasurementTime, [this, first] {
     if (!frontEnd_.Receives()) return;
@@ -178,7 +178,7 @@ void Layer1::MeasureAndReport(const Frame& frame) {
 // the channel in the fourth. Its report is a pair of words for each step, the value and the
 // frequency error in Hz.
 void Layer1::HearExtended(const Frame& frame) {
-  const uint16_t id = U16(frame, 0);
+  const std::uint16_t id = U16(frame, 0);
   if (!active_) return firmware_.Refuse(frame);
   if (id == kExtendedStop && HasLength(frame, 16)) {
     blocks_.clear();
@@ -189,28 +189,28 @@ void Layer1::HearExtended(const Frame& frame) {
     return SendBlock();
   if (id != kExtendedStart || !HasLength(frame, 24)) return firmware_.Refuse(frame);
 
-  const uint32_t first = U16(frame, 16);
-  const uint32_t last = U16(frame, 18);
-  const uint32_t step = std::max<uint32_t>(U16(frame, 20), 1);
+  const std::uint32_t first = U16(frame, 16);
+  const std::uint32_t last = U16(frame, 18);
+  const std::uint32_t step = std::max<std::uint32_t>(U16(frame, 20), 1);
   if (last < first || (last - first) / step >= kMaxSteps) return firmware_.Refuse(frame);
   frontEnd_.Tune(U16(frame, 22));
   if (!frontEnd_.IsInBand()) return firmware_.Refuse(frame);
   frontEnd_.Transmit();
   Bytes report;
-  for (uint32_t dac = first; dac <= last; dac += step) {
-    frontEnd_.SetCrystal(static_cast<uint16_t>(dac));
+  for (std::uint32_t dac = first; dac <= last; dac += step) {
+    frontEnd_.SetCrystal(static_cast<std::uint16_t>(dac));
     const double error = std::clamp(frontEnd_.FrequencyError().value_or(0), -32768.0, 32767.0);
-    Append16(report, static_cast<uint16_t>(dac), firmware_.Order());
-    Append16(report, static_cast<uint16_t>(std::lround(error)), firmware_.Order());
+    Append16(report, static_cast<std::uint16_t>(dac), firmware_.Order());
+    Append16(report, static_cast<std::uint16_t>(std::lround(error)), firmware_.Order());
   }
   // In blocks of about one size: a station takes a short one for the end, and a single one for no
   // report.
-  size_t blocks = (report.size() + kBlockBytes - 1) / kBlockBytes;
+  std::size_t blocks = (report.size() + kBlockBytes - 1) / kBlockBytes;
   if (blocks == 1 && report.size() > 2 * kShortBlockBytes) blocks = 2;
-  const size_t stepsPerBlock = (report.size() / kStepBytes + blocks - 1) / blocks;
+  const std::size_t stepsPerBlock = (report.size() / kStepBytes + blocks - 1) / blocks;
   blocks_.clear();
-  for (size_t at = 0; at < report.size(); at += kStepBytes * stepsPerBlock) {
-    const size_t end = std::min(at + kStepBytes * stepsPerBlock, report.size());
+  for (std::size_t at = 0; at < report.size(); at += kStepBytes * stepsPerBlock) {
+    const std::size_t end = std::min(at + kStepBytes * stepsPerBlock, report.size());
     blocks_.emplace_back(report.begin() + static_cast<std::ptrdiff_t>(at),
                          report.begin() + static_cast<std::ptrdiff_t>(end));
   }
@@ -221,10 +221,10 @@ void Layer1::HearExtended(const Frame& frame) {
 void Layer1::SendBlock() {
   Bytes block;
   Append16(block, kExtendedStart, firmware_.Order());
-  Append16(block, static_cast<uint16_t>(20 + blocks_[nextBlock_].size()), firmware_.Order());
+  Append16(block, static_cast<std::uint16_t>(20 + blocks_[nextBlock_].size()), firmware_.Order());
   block.resize(kHeaderBytes);
-  Append16(block, static_cast<uint16_t>(blocks_.size()), firmware_.Order());
-  Append16(block, static_cast<uint16_t>(nextBlock_), firmware_.Order());
+  Append16(block, static_cast<std::uint16_t>(blocks_.size()), firmware_.Order());
+  Append16(block, static_cast<std::uint16_t>(nextBlock_), firmware_.Order());
   block.insert(block.end(), blocks_[nextBlock_].begin(), blocks_[nextBlock_].end());
   ++nextBlock_;
   firmware_.Answer(kType, 1, std::move(block));

@@ -1,3 +1,4 @@
+// Layer 1's calibration messages, types 10/0 and 10/1.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +11,6 @@ namespace handset {
 
 enum class CalibrationMode { None, Gsm, TdScdma };
 
-// Layer 1's calibration messages, types 10/0 and 10/1.
 class Layer1 {
  public:
   Layer1(Firmware& firmware, FrontEnd& frontEnd) : firmware_(firmware), frontEnd_(frontEnd) {}
@@ -26,15 +26,15 @@ class Layer1 {
   void HearExtended(const Frame& frame);
   // Acknowledges with the message's header and nothing more.
   void Acknowledge(const Frame& frame);
-  void Confirm(uint16_t id);
+  void Confirm(std::uint16_t id);
   void MeasureAndReport(const Frame& frame);
-  bool HasLength(const Frame& frame, uint16_t length) const;
+  bool HasLength(const Frame& frame, std::uint16_t length) const;
   void SendBlock();
 
-  uint16_t U16(const Frame& frame, size_t offset) const {
+  std::uint16_t U16(const Frame& frame, std::size_t offset) const {
     return Read16(frame.payload, offset, firmware_.Order());
   }
-  uint32_t U32(const Frame& frame, size_t offset) const {
+  std::uint32_t U32(const Frame& frame, std::size_t offset) const {
     return Read32(frame.payload, offset, firmware_.Order());
   }
 
@@ -43,7 +43,7 @@ class Layer1 {
   CalibrationMode mode_ = CalibrationMode::None;
   bool active_ = false;
   std::vector<Bytes> blocks_;  // of the extended report
-  size_t nextBlock_ = 0;
+  std::size_t nextBlock_ = 0;
 };
 
 }  // namespace handset

@@ -13,11 +13,11 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kPeripheralType = 17;
+constexpr std::uint8_t kPeripheralType = 17;
 
-class RadioModule final : public Module {
+class RadioPart final : public Part {
  public:
-  explicit RadioModule(Firmware& firmware)
+  explicit RadioPart(Firmware& firmware)
       : firmware_(firmware),
         constants_(firmware.Options().seed),
         items_(firmware),
@@ -62,7 +62,7 @@ class RadioModule final : public Module {
   }
 
  private:
-  static constexpr std::array<std::pair<uint8_t, const char*>, 3> kPowerStates{
+  static constexpr std::array<std::pair<std::uint8_t, const char*>, 3> kPowerStates{
       {{0, "normal"}, {5, "highest receive"}, {6, "highest transmit"}}};
 
   Firmware& firmware_;
@@ -78,8 +78,8 @@ class RadioModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeRadioModule(Firmware& firmware) {
-  return std::make_unique<RadioModule>(firmware);
+std::unique_ptr<Part> MakeRadioPart(Firmware& firmware) {
+  return std::make_unique<RadioPart>(firmware);
 }
 
 }  // namespace handset

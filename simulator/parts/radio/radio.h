@@ -1,3 +1,4 @@
+// The radio and all that calibrates it: layer 1, the calibration items, TD parameters.
 #pragma once
 
 #include <memory>
@@ -6,7 +7,6 @@
 
 namespace handset {
 
-// The radio and all that calibrates it: layer 1, the calibration items, TD parameters.
-std::unique_ptr<Module> MakeRadioModule(Firmware& firmware);
+std::unique_ptr<Part> MakeRadioPart(Firmware& firmware);
 
 }  // namespace handset

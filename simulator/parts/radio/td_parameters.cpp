@@ -6,10 +6,10 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kType = 36;
-constexpr size_t kMaxValues = 3073;
+constexpr std::uint8_t kType = 36;
+constexpr std::size_t kMaxValues = 3073;
 
-std::string FlashName(uint32_t selector) { return "td/" + std::to_string(selector); }
+std::string FlashName(std::uint32_t selector) { return "td/" + std::to_string(selector); }
 
 }  // namespace
 
@@ -20,14 +20,14 @@ void TdParameters::Register(Registry& registry) {
 
 // As many values as are stored, at most as many as asked for.
 void TdParameters::Read(const Frame& frame) {
-  const uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
-  const size_t asked = Read16(frame.payload, 4, firmware_.Order());
+  const std::uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
+  const std::size_t asked = Read16(frame.payload, 4, firmware_.Order());
   if (asked > kMaxValues) return firmware_.Refuse(frame);
   const Bytes* stored = firmware_.Flash().Find(FlashName(selector));
-  const size_t count = std::min(asked, stored ? stored->size() / 2 : 0);
+  const std::size_t count = std::min(asked, stored ? stored->size() / 2 : 0);
   Bytes answer;
   Append32(answer, selector, firmware_.Order());
-  Append16(answer, static_cast<uint16_t>(count), firmware_.Order());
+  Append16(answer, static_cast<std::uint16_t>(count), firmware_.Order());
   if (stored) {
     answer.insert(answer.end(), stored->begin(),
                   stored->begin() + static_cast<std::ptrdiff_t>(2 * count));
@@ -37,8 +37,8 @@ void TdParameters::Read(const Frame& frame) {
 }
 
 void TdParameters::Write(const Frame& frame) {
-  const uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
-  const size_t count = Read16(frame.payload, 4, firmware_.Order());
+  const std::uint32_t selector = Read32(frame.payload, 0, firmware_.Order());
+  const std::size_t count = Read16(frame.payload, 4, firmware_.Order());
   if (count > kMaxValues || frame.payload.size() != 6 + 2 * count) return firmware_.Refuse(frame);
   firmware_.Flash().Put(FlashName(selector), Bytes(frame.payload.begin() + 6, frame.payload.end()));
   Bytes answer(frame.payload.begin(), frame.payload.begin() + 6);

@@ -1,10 +1,10 @@
+// TD-SCDMA calibration parameters, type 36: 16-bit values under a selector, kept in flash.
 #pragma once
 
 #include "firmware/firmware.h"
 
 namespace handset {
 
-// TD-SCDMA calibration parameters, type 36: 16-bit values under a selector, kept in flash.
 class TdParameters {
  public:
   explicit TdParameters(Firmware& firmware) : firmware_(firmware) {}

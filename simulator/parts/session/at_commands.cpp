@@ -1,3 +1,4 @@
+// AT commands over the diagnostic link, type 104.
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -9,11 +10,11 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kCommandType = 104;
-constexpr uint8_t kAcknowledgeType = 213;
-constexpr uint8_t kAnswerType = 156;
-constexpr uint8_t kEndOfMessage = 0x1A;
-constexpr uint8_t kCancelMessage = 0x1B;
+constexpr std::uint8_t kCommandType = 104;
+constexpr std::uint8_t kAcknowledgeType = 213;
+constexpr std::uint8_t kAnswerType = 156;
+constexpr std::uint8_t kEndOfMessage = 0x1A;
+constexpr std::uint8_t kCancelMessage = 0x1B;
 
 struct Answered {
   std::string_view command;
@@ -41,9 +42,9 @@ std::string Upper(std::string_view text) {
   return upper;
 }
 
-class AtModule final : public Module {
+class AtPart final : public Part {
  public:
-  explicit AtModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit AtPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "at"; }
 
@@ -88,7 +89,7 @@ class AtModule final : public Module {
 
   // The text of a message may come in several frames, up to its end mark.
   void TakeMessage(const Bytes& text) {
-    for (uint8_t byte : text) {
+    for (std::uint8_t byte : text) {
       if (byte == kCancelMessage) {
         awaitingMessage_ = false;
         return Succeed("");
@@ -116,8 +117,6 @@ class AtModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeAtModule(Firmware& firmware) {
-  return std::make_unique<AtModule>(firmware);
-}
+std::unique_ptr<Part> MakeAtPart(Firmware& firmware) { return std::make_unique<AtPart>(firmware); }
 
 }  // namespace handset

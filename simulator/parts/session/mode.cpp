@@ -1,3 +1,4 @@
+// Start-up, modes, restarts and deep sleep.
 #include <utility>
 
 #include "parts/session/session.h"
@@ -5,18 +6,18 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kStartType = 0xFE;
-constexpr uint8_t kStartFrameSubtype = 1;
-constexpr uint8_t kStartModeBase = 128;
-constexpr uint8_t kModeChangeType = 12;
-constexpr uint8_t kRestartMode = 0;
-constexpr uint8_t kModeReadType = 28;
-constexpr uint8_t kPeripheralType = 17;
-constexpr uint8_t kDeepSleepSubtype = 2;
+constexpr std::uint8_t kStartType = 0xFE;
+constexpr std::uint8_t kStartFrameSubtype = 1;
+constexpr std::uint8_t kStartModeBase = 128;
+constexpr std::uint8_t kModeChangeType = 12;
+constexpr std::uint8_t kRestartMode = 0;
+constexpr std::uint8_t kModeReadType = 28;
+constexpr std::uint8_t kPeripheralType = 17;
+constexpr std::uint8_t kDeepSleepSubtype = 2;
 
-class ModeModule final : public Module {
+class ModePart final : public Part {
  public:
-  explicit ModeModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit ModePart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "session"; }
 
@@ -25,8 +26,8 @@ class ModeModule final : public Module {
     registry.OnType(kStartType, [this](const Frame& frame) {
       NoteCampWord(frame);
       firmware_.Answer(frame);
-      auto mode = static_cast<uint8_t>(frame.subtype - kStartModeBase);
-      bool booting = firmware_.PowerState() == Power::Booting;
+      const auto mode = static_cast<std::uint8_t>(frame.subtype - kStartModeBase);
+      const bool booting = firmware_.PowerState() == Power::Booting;
       if (booting && firmware_.Options().portVanishesAtStart) {
         firmware_.Restart(mode, true);
       } else {
@@ -34,7 +35,7 @@ class ModeModule final : public Module {
       }
     });
     registry.OnType(kModeChangeType, [this](const Frame& frame) { ChangeMode(frame); });
-    for (uint8_t subtype : {uint8_t{0}, uint8_t{1}}) {
+    for (std::uint8_t subtype : {std::uint8_t{0}, std::uint8_t{1}}) {
       registry.On(kModeReadType, subtype, [this](const Frame& frame) {
         // One word, most significant byte first whatever the handset's own order.
         firmware_.Answer(frame, {0, 0, 0, firmware_.Mode()});
@@ -66,7 +67,7 @@ class ModeModule final : public Module {
   void ChangeMode(const Frame& frame) {
     NoteCampWord(frame);
     // Two bytes or more tell a station on USB that the port stays.
-    bool stays = !firmware_.Options().portVanishes;
+    const bool stays = !firmware_.Options().portVanishes;
     firmware_.Answer(frame, stays ? Bytes{0, 0} : Bytes{});
     if (frame.subtype == kRestartMode) {
       firmware_.Restart(firmware_.Options().startMode, !stays);
@@ -84,13 +85,13 @@ class ModeModule final : public Module {
 
   Firmware& firmware_;
   unsigned boots_ = 0;
-  uint32_t campWord_ = 0;
+  std::uint32_t campWord_ = 0;
 };
 
 }  // namespace
 
-std::unique_ptr<Module> MakeModeModule(Firmware& firmware) {
-  return std::make_unique<ModeModule>(firmware);
+std::unique_ptr<Part> MakeModePart(Firmware& firmware) {
+  return std::make_unique<ModePart>(firmware);
 }
 
 }  // namespace handset

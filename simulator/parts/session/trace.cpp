@@ -1,3 +1,4 @@
+// The trace output of the ARM and of the DSP.
 #include <array>
 
 #include "parts/session/session.h"
@@ -5,14 +6,14 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kLogSwitchType = 2;
+constexpr std::uint8_t kLogSwitchType = 2;
 
 struct Source {
   const char* name;
-  uint8_t onSubtype;
-  uint8_t offSubtype;
+  std::uint8_t onSubtype;
+  std::uint8_t offSubtype;
   bool acknowledged;
-  uint8_t traceType;
+  std::uint8_t traceType;
   const char* text;
 };
 
@@ -21,14 +22,14 @@ constexpr std::array<Source, 2> kSources{{
     {"dsp", 6, 7, true, 153, "DSP: frame done"},
 }};
 
-class TraceModule final : public Module {
+class TracePart final : public Part {
  public:
-  explicit TraceModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit TracePart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "trace"; }
 
   void Register(Registry& registry) override {
-    for (size_t i = 0; i < kSources.size(); ++i) {
+    for (std::size_t i = 0; i < kSources.size(); ++i) {
       registry.On(kLogSwitchType, kSources[i].onSubtype,
                   [this, i](const Frame& frame) { Switch(i, true, frame); });
       registry.On(kLogSwitchType, kSources[i].offSubtype,
@@ -39,7 +40,7 @@ class TraceModule final : public Module {
   void PowerOn() override { streams_ = {}; }
 
   void Describe(StatusMap& status) const override {
-    for (size_t i = 0; i < kSources.size(); ++i) {
+    for (std::size_t i = 0; i < kSources.size(); ++i) {
       status[kSources[i].name] = streams_[i].on ? "on" : "off";
     }
   }
@@ -48,16 +49,16 @@ class TraceModule final : public Module {
   struct Stream {
     bool on = false;
     bool scheduled = false;
-    uint32_t sent = 0;
+    std::uint32_t sent = 0;
   };
 
-  void Switch(size_t i, bool on, const Frame& frame) {
+  void Switch(std::size_t i, bool on, const Frame& frame) {
     if (kSources[i].acknowledged) firmware_.Answer(frame);
     streams_[i].on = on;
     if (on && !streams_[i].scheduled) Schedule(i);
   }
 
-  void Schedule(size_t i) {
+  void Schedule(std::size_t i) {
     streams_[i].scheduled = true;
     firmware_.After(firmware_.Options().traceInterval, [this, i] {
       Stream& stream = streams_[i];
@@ -65,7 +66,7 @@ class TraceModule final : public Module {
       if (!stream.on) return;
       Bytes payload;
       Append32(payload, stream.sent++, firmware_.Order());
-      Bytes text = ToBytes(kSources[i].text);
+      const Bytes text = ToBytes(kSources[i].text);
       payload.insert(payload.end(), text.begin(), text.end());
       firmware_.Report(kSources[i].traceType, 0, std::move(payload));
       Schedule(i);
@@ -78,8 +79,8 @@ class TraceModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeTraceModule(Firmware& firmware) {
-  return std::make_unique<TraceModule>(firmware);
+std::unique_ptr<Part> MakeTracePart(Firmware& firmware) {
+  return std::make_unique<TracePart>(firmware);
 }
 
 }  // namespace handset

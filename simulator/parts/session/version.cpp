@@ -1,14 +1,15 @@
+// The software version string, type 0.
 #include "parts/session/session.h"
 
 namespace handset {
 namespace {
 
-constexpr uint8_t kVersionType = 0;
+constexpr std::uint8_t kVersionType = 0;
 constexpr const char* kVersion = "MEROVANE-SIM 1.0 Nov 20 2026 10:15:00";
 
-class VersionModule final : public Module {
+class VersionPart final : public Part {
  public:
-  explicit VersionModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit VersionPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "version"; }
 
@@ -25,8 +26,8 @@ class VersionModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeVersionModule(Firmware& firmware) {
-  return std::make_unique<VersionModule>(firmware);
+std::unique_ptr<Part> MakeVersionPart(Firmware& firmware) {
+  return std::make_unique<VersionPart>(firmware);
 }
 
 }  // namespace handset

@@ -26,7 +26,7 @@ LinkFile::~LinkFile() {
 
 void LinkFile::PointTo(const fs::path& target) {
   std::error_code error;
-  auto status = fs::symlink_status(path_, error);
+  const auto status = fs::symlink_status(path_, error);
   if (fs::exists(status) && !fs::is_symlink(status)) {
     throw std::runtime_error(path_.string() + " is there and is not a link");
   }

@@ -1,11 +1,11 @@
+// A symbolic link with a fixed name for a device whose own name changes. Without a name it
+// stands in a temporary folder of its own.
 #pragma once
 
 #include <filesystem>
 
 namespace handset {
 
-// A symbolic link with a fixed name for a device whose own name changes. Without a name it
-// stands in a temporary folder of its own.
 class LinkFile {
  public:
   explicit LinkFile(std::filesystem::path path);

@@ -1,3 +1,4 @@
+// A pseudo-terminal under a symbolic link whose name stays.
 #include <fcntl.h>
 #include <poll.h>
 #include <stdlib.h>
@@ -65,7 +66,7 @@ class StationEnd {
 
 class PtyPort final : public Transport {
  public:
-  PtyPort(asio::io_context& io, const HandsetOptions& options, TransportEvents events)
+  PtyPort(asio::io_context& io, const PortOptions& options, TransportEvents events)
       : io_(io), timer_(io), link_(options.link), events_(std::move(events)) {}
 
   ~PtyPort() override {
@@ -73,7 +74,7 @@ class PtyPort final : public Transport {
   }
 
   void Appear() override {
-    int fd = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    const int fd = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) Fail("open");
     stream_descriptor master(io_, fd);
     if (grantpt(fd) != 0 || unlockpt(fd) != 0) Fail("unlock");
@@ -101,7 +102,7 @@ class PtyPort final : public Transport {
   bool Drained() const override {
     return !connected_ || (Backlog() == 0 && StationEnd(device_).Unread() == 0);
   }
-  size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
+  std::size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
 
   void Write(Bytes bytes) override {
     if (connected_) pump_->Write(std::move(bytes));
@@ -113,7 +114,7 @@ class PtyPort final : public Transport {
   void LookForStation() {
     pollfd state{pump_->Native().native_handle(), POLLIN, 0};
     poll(&state, 1, 0);
-    bool present = (state.revents & POLLHUP) == 0;
+    const bool present = (state.revents & POLLHUP) == 0;
     // A station may have come, written and gone between two looks.
     if (present || (state.revents & POLLIN) != 0) {
       SetConnected(present);
@@ -177,7 +178,7 @@ class PtyPort final : public Transport {
 
 }  // namespace
 
-std::unique_ptr<Transport> MakePty(asio::io_context& io, const HandsetOptions& options,
+std::unique_ptr<Transport> MakePty(asio::io_context& io, const PortOptions& options,
                                    TransportEvents events) {
   return std::make_unique<PtyPort>(io, options, std::move(events));
 }

@@ -1,3 +1,5 @@
+// A serial line to a station elsewhere. Whether somebody listens at its other end cannot be
+// known, so it counts as connected while the device is there.
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -17,11 +19,9 @@ using asio::posix::stream_descriptor;
 
 constexpr std::chrono::milliseconds kReopenInterval{500};
 
-// A serial line to a station elsewhere. Whether somebody listens at its other end cannot be
-// known, so it counts as connected while the device is there.
 class SerialPort final : public Transport {
  public:
-  SerialPort(asio::io_context& io, const HandsetOptions& options, TransportEvents events)
+  SerialPort(asio::io_context& io, const PortOptions& options, TransportEvents events)
       : io_(io),
         reopen_(io),
         device_(options.serialDevice),
@@ -65,7 +65,7 @@ class SerialPort final : public Transport {
            (Backlog() == 0 &&
             (ioctl(pump_->Native().native_handle(), TIOCOUTQ, &unsent) != 0 || unsent == 0));
   }
-  size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
+  std::size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
 
   void Write(Bytes bytes) override {
     if (pump_) pump_->Write(std::move(bytes));
@@ -98,7 +98,7 @@ class SerialPort final : public Transport {
 
 }  // namespace
 
-std::unique_ptr<Transport> MakeSerial(asio::io_context& io, const HandsetOptions& options,
+std::unique_ptr<Transport> MakeSerial(asio::io_context& io, const PortOptions& options,
                                       TransportEvents events) {
   return std::make_unique<SerialPort>(io, options, std::move(events));
 }

@@ -85,7 +85,7 @@ TEST_P(GsmLoops, ExtendedRunGivesTheWholeSweep) {
     ASSERT_EQ(QV_AfcStartEx(1, &run), PC_ERR_SUCCESS);
     const std::size_t steps = (sweep.last - sweep.first) / sweep.step + 1U;
     ASSERT_EQ(run.report_bytes, 4 * steps);
-    // The start, the blocks behind the first, the stop.
+    // The start, the blocks after the first, the stop.
     EXPECT_EQ(phone->ReceivedCount(10, 1), sweep.blocks + 1);
     for (std::size_t step = 0; step < steps; ++step) {
       const auto dac = static_cast<std::uint16_t>(sweep.first + step * sweep.step);

@@ -1,4 +1,4 @@
-#include "wire/outbox.h"
+#include "handset/outbox.h"
 
 #include <algorithm>
 #include <utility>
@@ -16,7 +16,7 @@ Outbox::Outbox(asio::io_context& io, Faults& faults, double timeScale, Write wri
       holdTimer_(io) {}
 
 std::string Outbox::SendFrame(Bytes encoded, milliseconds delay, bool unsolicited) {
-  auto strikes = [&](FaultKind kind) { return faults_.Strikes(kind, unsolicited); };
+  const auto strikes = [&](FaultKind kind) { return faults_.Strikes(kind, unsolicited); };
   std::string done;
   if (strikes(FaultKind::Disconnect)) {
     cut_();
@@ -28,7 +28,7 @@ std::string Outbox::SendFrame(Bytes encoded, milliseconds delay, bool unsolicite
     done += "corrupted ";
   }
   if (strikes(FaultKind::Duplicate)) {
-    auto once = static_cast<std::ptrdiff_t>(encoded.size());
+    const auto once = static_cast<std::ptrdiff_t>(encoded.size());
     encoded.reserve(2 * encoded.size());
     std::copy_n(encoded.begin(), once, std::back_inserter(encoded));
     done += "duplicated ";
@@ -37,7 +37,7 @@ std::string Outbox::SendFrame(Bytes encoded, milliseconds delay, bool unsolicite
     delay += faults_.Rule(FaultKind::Delay).time;
     done += "delayed ";
   }
-  bool hold = strikes(FaultKind::Merge);
+  const bool hold = strikes(FaultKind::Merge);
   if (hold || !held_.empty()) {
     held_.insert(held_.end(), encoded.begin(), encoded.end());
     if (!hold) {
@@ -52,7 +52,7 @@ std::string Outbox::SendFrame(Bytes encoded, milliseconds delay, bool unsolicite
   }
   if (strikes(FaultKind::Split)) {
     const FaultRule& rule = faults_.Rule(FaultKind::Split);
-    size_t pieceBytes = (encoded.size() + rule.count - 1) / rule.count;
+    const std::size_t pieceBytes = (encoded.size() + rule.count - 1) / rule.count;
     PostPieces(encoded, NotBefore(Scaled(delay)), pieceBytes, rule.time);
     return done + "split";
   }
@@ -60,17 +60,18 @@ std::string Outbox::SendFrame(Bytes encoded, milliseconds delay, bool unsolicite
   return done;
 }
 
-void Outbox::SendRaw(const Bytes& bytes, milliseconds delay, size_t pieceBytes, milliseconds gap) {
-  auto start = queue_.empty() ? Clock::now() : queue_.back().due;
-  if (pieceBytes == 0) pieceBytes = std::max<size_t>(bytes.size(), 1);
+void Outbox::SendRaw(const Bytes& bytes, milliseconds delay, std::size_t pieceBytes,
+                     milliseconds gap) {
+  const auto start = queue_.empty() ? Clock::now() : queue_.back().due;
+  if (pieceBytes == 0) pieceBytes = std::max<std::size_t>(bytes.size(), 1);
   PostPieces(bytes, start + Scaled(delay), pieceBytes, gap);
 }
 
-void Outbox::PostPieces(const Bytes& bytes, Clock::time_point due, size_t pieceBytes,
+void Outbox::PostPieces(const Bytes& bytes, Clock::time_point due, std::size_t pieceBytes,
                         milliseconds gap) {
-  for (size_t start = 0; start < bytes.size(); start += pieceBytes) {
-    auto first = bytes.begin() + static_cast<std::ptrdiff_t>(start);
-    auto count = static_cast<std::ptrdiff_t>(std::min(pieceBytes, bytes.size() - start));
+  for (std::size_t start = 0; start < bytes.size(); start += pieceBytes) {
+    const auto first = bytes.begin() + static_cast<std::ptrdiff_t>(start);
+    const auto count = static_cast<std::ptrdiff_t>(std::min(pieceBytes, bytes.size() - start));
     Post(Bytes(first, first + count), due);
     due += Scaled(gap);
   }
@@ -84,7 +85,7 @@ void Outbox::Clear() {
 }
 
 Outbox::Clock::time_point Outbox::NotBefore(Clock::duration delay) const {
-  auto due = Clock::now() + delay;
+  const auto due = Clock::now() + delay;
   return queue_.empty() ? due : std::max(due, queue_.back().due);
 }
 
@@ -120,10 +121,10 @@ Outbox::Clock::duration Outbox::Scaled(milliseconds delay) const {
 
 void Outbox::CorruptBytes(Bytes& encoded, bool unsolicited) {
   // Not the flags: a frame without them is a dropped one.
-  auto inner = static_cast<uint32_t>(encoded.size() - 2);
+  const auto inner = static_cast<std::uint32_t>(encoded.size() - 2);
   for (unsigned i = 0; i < faults_.Rule(FaultKind::Corrupt).count; ++i) {
-    uint32_t position = 1 + faults_.Draw(inner, unsolicited);
-    encoded[position] ^= static_cast<uint8_t>(1 + faults_.Draw(255, unsolicited));
+    const std::uint32_t position = 1 + faults_.Draw(inner, unsolicited);
+    encoded[position] ^= static_cast<std::uint8_t>(1 + faults_.Draw(255, unsolicited));
   }
 }
 

@@ -33,7 +33,7 @@ HandsetOptions Running(ByteOrder order = ByteOrder::Big) {
   return options;
 }
 
-std::string Zeros(size_t count) { return ToHex(Bytes(count)); }
+std::string Zeros(std::size_t count) { return ToHex(Bytes(count)); }
 
 // A handset and a station, talking in transcripts: "13/0 00 05".
 struct Talk {
@@ -52,9 +52,9 @@ struct Talk {
 
   std::string Ask(const std::string& request) {
     Send(request);
-    auto answer = line.Receive();
+    const auto answer = line.Receive();
     if (!answer) return "nothing";
-    std::string text = std::to_string(answer->type) + "/" + std::to_string(answer->subtype);
+    const std::string text = std::to_string(answer->type) + "/" + std::to_string(answer->subtype);
     return answer->payload.empty() ? text : text + " " + ToHex(answer->payload);
   }
   void Follow(std::initializer_list<Exchange> exchanges) {
@@ -75,14 +75,14 @@ struct Talk {
     EXPECT_THAT(Ask("28/0"), StartsWith("28/0"));
   }
   void Send(const std::string& request) {
-    size_t slash = request.find('/');
-    size_t blank = std::min(request.find(' '), request.size());
-    line.Send(static_cast<uint8_t>(std::stoi(request.substr(0, slash))),
-              static_cast<uint8_t>(std::stoi(request.substr(slash + 1, blank - slash))),
+    const std::size_t slash = request.find('/');
+    const std::size_t blank = std::min(request.find(' '), request.size());
+    line.Send(static_cast<std::uint8_t>(std::stoi(request.substr(0, slash))),
+              static_cast<std::uint8_t>(std::stoi(request.substr(slash + 1, blank - slash))),
               FromHex(request.substr(blank)));
   }
   void Restart() {
-    std::string boots = std::to_string(std::stoi(phone.Status("session.boots")) + 1);
+    const std::string boots = std::to_string(std::stoi(phone.Status("session.boots")) + 1);
     phone.Restart();
     EXPECT_TRUE(phone.WaitForState(
         [](const auto& state) { return state.power == handset::Power::Running; }, kPatience));
@@ -93,7 +93,7 @@ struct Talk {
   WireStation line;
 };
 
-TEST(Modules, ARestartKeepsFlashAndDropsMemory) {
+TEST(Parts, ARestartKeepsFlashAndDropsMemory) {
   const std::string gps = "00 00 00 2c aa " + Zeros(42) + " bb " + Zeros(212);
   const std::string registers = " 00 00 00 01 20 00 00 10 00 00 00 02";
   Talk talk;
@@ -127,7 +127,7 @@ TEST(Modules, ARestartKeepsFlashAndDropsMemory) {
                {"13/2 00 07 00 02", "13/0 00 07 00 02 00 00"}});
 }
 
-TEST(Modules, RefuseWhatNoCarefulStationSends) {
+TEST(Parts, RefuseWhatNoCarefulStationSends) {
   Talk talk;
   const std::string radio = "33/4 " + Zeros(4) + " 00 00 00 4e " + Zeros(8);
   talk.Refuses({{"201/9 01 02 03", "no such command"},
@@ -171,13 +171,13 @@ TEST(Modules, RefuseWhatNoCarefulStationSends) {
                {"50/2 00 00 00 04 00 00 00 02 00 00 ab cd 00 00 00 00", "50/2 00 00 00 01"}});
 }
 
-TEST(Modules, FixedNvWritesTheFieldsOfItsMaskOnly) {
+TEST(Parts, FixedNvWritesTheFieldsOfItsMaskOnly) {
   HandsetOptions options = Running();
   options.blank = true;
   Talk talk(options);
   // The third IMEI alone, in a block that holds others too.
-  std::string block = "11 " + Zeros(73) + " 4a 09 51 24 30 32 57 81 " + Zeros(24);
-  std::string kept = Zeros(74) + " 4a 09 51 24 30 32 57 81 " + Zeros(24);
+  const std::string block = "11 " + Zeros(73) + " 4a 09 51 24 30 32 57 81 " + Zeros(24);
+  const std::string kept = Zeros(74) + " 4a 09 51 24 30 32 57 81 " + Zeros(24);
   Bytes checked = FromHex(block);
   handset::Append16(checked, handset::Crc16(checked), ByteOrder::Big);
   talk.Follow({{"94/255 00 00", "94/1 " + Zeros(108)},
@@ -189,9 +189,9 @@ TEST(Modules, FixedNvWritesTheFieldsOfItsMaskOnly) {
   EXPECT_THAT(talk.Ask("94/255 00 00"), StartsWith("94/1 11 00"));
 }
 
-TEST(Modules, SwitchesShowWhatTheyShare) {
+TEST(Parts, SwitchesShowWhatTheyShare) {
   Talk talk;
-  auto shown = [&](const char* name) {
+  const auto shown = [&](const char* name) {
     return talk.phone.Status("peripherals." + std::string(name));
   };
   talk.Tell("17/4");
@@ -204,8 +204,8 @@ TEST(Modules, SwitchesShowWhatTheyShare) {
   EXPECT_EQ(shown("lcd") + shown("key_light"), "offon");
 }
 
-TEST(Modules, MeasuredValuesMoveAndTheSeedRepeatsThem) {
-  auto readings = [](uint64_t seed) {
+TEST(Parts, MeasuredValuesMoveAndTheSeedRepeatsThem) {
+  const auto readings = [](std::uint64_t seed) {
     HandsetOptions options = Running();
     options.seed = seed;
     Talk talk(options);
@@ -213,13 +213,13 @@ TEST(Modules, MeasuredValuesMoveAndTheSeedRepeatsThem) {
     for (int i = 0; i < 20; ++i) all += talk.Ask("15/2") + "|" + talk.Ask("30/0") + "|";
     return all;
   };
-  std::string first = readings(3);
+  const std::string first = readings(3);
   EXPECT_EQ(first, readings(3));
   EXPECT_NE(first, readings(4));
   EXPECT_NE(first.substr(0, 30), first.substr(first.size() / 2, 30));
 }
 
-TEST(Modules, SomeWifiWordsNeverFollowTheHandsetsOrder) {
+TEST(Parts, SomeWifiWordsNeverFollowTheHandsetsOrder) {
   Talk talk(Running(ByteOrder::Little));
   talk.Follow({{"54/0 01 00 00 00", "54/0 00 00 00 00"},
                {"54/7 00 00 00 01 00 00 01 02", "54/7 00 00 00 00"},
@@ -232,7 +232,7 @@ TEST(Modules, SomeWifiWordsNeverFollowTheHandsetsOrder) {
   talk.Follow({{"54/10", "54/10 00 00 00 00 05 00 00 00 02 01 00 00", "only set, not kept"}});
 }
 
-TEST(Modules, WifiCountsPacketsWhileTheReceiverIsOn) {
+TEST(Parts, WifiCountsPacketsWhileTheReceiverIsOn) {
   Talk talk;
   const std::string none = "54/9 " + Zeros(12);
   talk.Ask("54/0 00 00 00 01");
@@ -240,7 +240,7 @@ TEST(Modules, WifiCountsPacketsWhileTheReceiverIsOn) {
   talk.Ask("54/8 00 00 00 01");
   EXPECT_NE(talk.Ask("54/9"), none);
   talk.Ask("54/8 00 00 00 00");
-  std::string counted = talk.Ask("54/9");
+  const std::string counted = talk.Ask("54/9");
   EXPECT_NE(counted, none);
   EXPECT_EQ(talk.Ask("54/9"), counted);
   talk.Ask("54/8 00 00 00 02");

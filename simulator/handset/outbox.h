@@ -1,3 +1,4 @@
+// Everything that leaves the handset, in order, each piece at its time. Faults act here.
 #pragma once
 
 #include <asio/io_context.hpp>
@@ -11,7 +12,6 @@
 
 namespace handset {
 
-// Everything that leaves the handset, in order, each piece at its time. Faults act here.
 class Outbox {
  public:
   using Write = std::function<void(Bytes)>;
@@ -23,7 +23,7 @@ class Outbox {
   std::string SendFrame(Bytes encoded, std::chrono::milliseconds delay, bool unsolicited);
   // Bytes as they are, that long after what is queued, in pieces of at most that many bytes
   // (0: whole) with a gap between.
-  void SendRaw(const Bytes& bytes, std::chrono::milliseconds delay, size_t pieceBytes = 0,
+  void SendRaw(const Bytes& bytes, std::chrono::milliseconds delay, std::size_t pieceBytes = 0,
                std::chrono::milliseconds gap = {});
   bool Empty() const { return queue_.empty() && held_.empty(); }
   void Clear();
@@ -35,7 +35,7 @@ class Outbox {
     Clock::time_point due;
   };
 
-  void PostPieces(const Bytes& bytes, Clock::time_point due, size_t pieceBytes,
+  void PostPieces(const Bytes& bytes, Clock::time_point due, std::size_t pieceBytes,
                   std::chrono::milliseconds gap);
   // The queue is in order of time: nothing overtakes.
   void Post(Bytes bytes, Clock::time_point due);

@@ -1,3 +1,4 @@
+// Every part that a handset is made of.
 #pragma once
 
 #include <memory>
@@ -7,7 +8,6 @@
 
 namespace handset {
 
-// Every part that a handset is made of.
-std::vector<std::unique_ptr<Module>> MakeModules(Firmware& firmware);
+std::vector<std::unique_ptr<Part>> MakeParts(Firmware& firmware);
 
 }  // namespace handset

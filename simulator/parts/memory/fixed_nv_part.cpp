@@ -1,3 +1,4 @@
+// The fixed-NV information block as stations read and write it, type 94.
 #include <array>
 
 #include "parts/memory/crc16.h"
@@ -7,13 +8,13 @@
 namespace handset {
 namespace {
 
-constexpr uint8_t kFixedNvType = 94;
-constexpr uint8_t kAnswerSubtype = 1;
-constexpr uint8_t kCheckSubtype = 0xC0;
-constexpr uint8_t kReadSubtype = 0xFF;
+constexpr std::uint8_t kFixedNvType = 94;
+constexpr std::uint8_t kAnswerSubtype = 1;
+constexpr std::uint8_t kCheckSubtype = 0xC0;
+constexpr std::uint8_t kReadSubtype = 0xFF;
 
 struct MaskedField {
-  uint8_t mask;
+  std::uint8_t mask;
   FixedNvField field;
 };
 
@@ -27,9 +28,9 @@ constexpr std::array<MaskedField, 7> kWritable{{
     {0x40, kWifiAddress},
 }};
 
-class FixedNvModule final : public Module {
+class FixedNvPart final : public Part {
  public:
-  explicit FixedNvModule(Firmware& firmware) : firmware_(firmware) {}
+  explicit FixedNvPart(Firmware& firmware) : firmware_(firmware) {}
 
   std::string Name() const override { return "fixed_nv"; }
 
@@ -59,7 +60,7 @@ class FixedNvModule final : public Module {
     status["imei2"] = ImeiText(ReadFixedNv(flash, kImei2));
     status["imei3"] = ImeiText(ReadFixedNv(flash, kImei3));
     status["imei4"] = ImeiText(ReadFixedNv(flash, kImei4));
-    Bytes bluetooth = ReadFixedNv(flash, kBluetoothAddress);
+    const Bytes bluetooth = ReadFixedNv(flash, kBluetoothAddress);
     status["bluetooth"] = ToHex(Bytes(bluetooth.rbegin(), bluetooth.rend()));
     status["wifi"] = ToHex(ReadFixedNv(flash, kWifiAddress));
   }
@@ -67,8 +68,8 @@ class FixedNvModule final : public Module {
  private:
   void Write(const Frame& frame) {
     if (frame.payload.size() != kFixedNvBytes + 2) return firmware_.Refuse(frame);
-    auto block = std::span(frame.payload).first(kFixedNvBytes);
-    uint16_t checksum = Read16(frame.payload, kFixedNvBytes, firmware_.Order());
+    const auto block = std::span(frame.payload).first(kFixedNvBytes);
+    const std::uint16_t checksum = Read16(frame.payload, kFixedNvBytes, firmware_.Order());
     // No checksum is a direct write; a wrong one is a damaged block.
     if (checksum != 0 && checksum != Crc16(block)) return firmware_.Refuse(frame);
     for (const MaskedField& each : kWritable) {
@@ -84,8 +85,8 @@ class FixedNvModule final : public Module {
 
 }  // namespace
 
-std::unique_ptr<Module> MakeFixedNvModule(Firmware& firmware) {
-  return std::make_unique<FixedNvModule>(firmware);
+std::unique_ptr<Part> MakeFixedNvPart(Firmware& firmware) {
+  return std::make_unique<FixedNvPart>(firmware);
 }
 
 }  // namespace handset

@@ -1,4 +1,4 @@
-#include "firmware/journal.h"
+#include "wire/journal.h"
 
 #include <algorithm>
 #include <utility>
@@ -7,7 +7,7 @@ namespace handset {
 
 void Journal::Add(Frame frame) {
   {
-    std::lock_guard lock(mutex_);
+    const std::lock_guard lock(mutex_);
     frames_.push_back(std::move(frame));
     if (frames_.size() > capacity_) {
       frames_.pop_front();
@@ -18,17 +18,17 @@ void Journal::Add(Frame frame) {
 }
 
 void Journal::AddReject(std::string reason) {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   rejects_.push_back(std::move(reason));
   if (rejects_.size() > capacity_) rejects_.pop_front();
 }
 
-std::optional<Frame> Journal::Next(uint8_t type, uint8_t subtype,
+std::optional<Frame> Journal::Next(std::uint8_t type, std::uint8_t subtype,
                                    std::chrono::milliseconds timeout) {
-  auto deadline = std::chrono::steady_clock::now() + timeout;
+  const auto deadline = std::chrono::steady_clock::now() + timeout;
   std::unique_lock lock(mutex_);
   for (;;) {
-    for (size_t i = cursor_; i < frames_.size(); ++i) {
+    for (std::size_t i = cursor_; i < frames_.size(); ++i) {
       if (frames_[i].type != type || frames_[i].subtype != subtype) continue;
       cursor_ = i + 1;
       return frames_[i];
@@ -44,24 +44,24 @@ std::optional<Frame> Journal::Next(uint8_t type, uint8_t subtype,
 }
 
 std::vector<Frame> Journal::Frames() const {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   return {frames_.begin(), frames_.end()};
 }
 
-size_t Journal::Count(uint8_t type, uint8_t subtype) const {
-  std::lock_guard lock(mutex_);
-  return static_cast<size_t>(std::count_if(frames_.begin(), frames_.end(), [&](const Frame& f) {
-    return f.type == type && f.subtype == subtype;
-  }));
+std::size_t Journal::Count(std::uint8_t type, std::uint8_t subtype) const {
+  const std::lock_guard lock(mutex_);
+  return static_cast<std::size_t>(
+      std::count_if(frames_.begin(), frames_.end(),
+                    [&](const Frame& f) { return f.type == type && f.subtype == subtype; }));
 }
 
 std::vector<std::string> Journal::Rejects() const {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   return {rejects_.begin(), rejects_.end()};
 }
 
 void Journal::Clear() {
-  std::lock_guard lock(mutex_);
+  const std::lock_guard lock(mutex_);
   frames_.clear();
   rejects_.clear();
   cursor_ = 0;
