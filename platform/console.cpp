@@ -1,14 +1,15 @@
 #include "platform/console.h"
 
-#include <mutex>
 #include <utility>
+
+#include "platform/mutex.h"
 
 namespace merovane::platform {
 namespace {
 
 struct Replacement {
-  std::mutex mutex;
-  MessageBoxFunction function;
+  Mutex mutex;
+  MessageBoxFunction function MEROVANE_GUARDED_BY(mutex);
 };
 
 Replacement& MessageBoxReplacement() {
@@ -20,7 +21,7 @@ Replacement& MessageBoxReplacement() {
 
 void SetMessageBox(MessageBoxFunction function) {
   Replacement& replacement = MessageBoxReplacement();
-  const std::lock_guard lock(replacement.mutex);
+  const MutexLock lock(replacement.mutex);
   replacement.function = std::move(function);
 }
 
@@ -28,7 +29,7 @@ void ShowMessageBox(const std::string& text, const std::string& caption) {
   MessageBoxFunction function;
   {
     Replacement& replacement = MessageBoxReplacement();
-    const std::lock_guard lock(replacement.mutex);
+    const MutexLock lock(replacement.mutex);
     function = replacement.function;
   }
   // Outside the lock: a box stands for as long as nobody closes it.

@@ -2,10 +2,10 @@
 
 #include <deque>
 #include <map>
-#include <mutex>
 
 #include "platform/clock.h"
 #include "platform/event.h"
+#include "platform/mutex.h"
 #include "platform/serial_ports.h"
 #include "platform/thread.h"
 
@@ -24,23 +24,23 @@ class PollingDeviceMonitor final : public DeviceMonitor {
 
   void Start() override {
     {
-      const std::lock_guard lock(mutex_);
+      const MutexLock lock(mutex_);
       known_ = ports_.Present();
       arrivals_.clear();
       polledAtMs_ = SystemClock().NowMs();
       started_ = true;
     }
     if (SerialPorts::TellsReturns() || watch_.Running()) return;
-    watch_.Start([this] {
+    watch_.StartWithoutQueue([this] {
       while (!stop_.WaitMs(kPollIntervalMs)) {
-        const std::lock_guard lock(mutex_);
+        const MutexLock lock(mutex_);
         Poll();
       }
     });
   }
 
   bool TakeArrival(std::int32_t& port) override {
-    const std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     if (!started_) return false;
     if (arrivals_.empty()) Poll();
     if (arrivals_.empty()) return false;
@@ -50,7 +50,7 @@ class PollingDeviceMonitor final : public DeviceMonitor {
   }
 
  private:
-  void Poll() {
+  void Poll() MEROVANE_REQUIRES(mutex_) {
     const std::uint32_t nowMs = SystemClock().NowMs();
     if (nowMs - polledAtMs_ < kPollIntervalMs) return;
     polledAtMs_ = nowMs;
@@ -62,12 +62,12 @@ class PollingDeviceMonitor final : public DeviceMonitor {
     known_ = std::move(present);
   }
 
-  std::mutex mutex_;
-  SerialPorts ports_;
-  std::map<std::int32_t, std::uint64_t> known_;
-  std::deque<std::int32_t> arrivals_;
-  std::uint32_t polledAtMs_ = 0;
-  bool started_ = false;
+  Mutex mutex_;
+  SerialPorts ports_ MEROVANE_GUARDED_BY(mutex_);
+  std::map<std::int32_t, std::uint64_t> known_ MEROVANE_GUARDED_BY(mutex_);
+  std::deque<std::int32_t> arrivals_ MEROVANE_GUARDED_BY(mutex_);
+  std::uint32_t polledAtMs_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  bool started_ MEROVANE_GUARDED_BY(mutex_) = false;
   Event stop_;
   Thread watch_;
 };

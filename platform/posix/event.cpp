@@ -1,6 +1,7 @@
 #include "platform/event.h"
 
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/uio.h>
 #include <unistd.h>
 
@@ -8,43 +9,59 @@
 #include <cerrno>
 #include <chrono>
 #include <climits>
-#include <condition_variable>
-#include <mutex>
+#include <system_error>
+
+#include "platform/mutex.h"
+#include "platform/posix/posix_api.h"
 
 namespace merovane::platform {
 
-struct Event::Wait {
-  std::mutex mutex;
-  std::condition_variable changed;
+struct Event::State {
+  Mutex mutex;
+  ConditionVariable changed;
   std::atomic<bool> set{false};
+  UniqueDescriptor descriptor;
 };
 
-Event::Event() : wait_(std::make_unique<Wait>()) {}
+Event::Event(For waits) : state_(std::make_unique<State>()) {
+  if (waits == For::Threads) return;
+  state_->descriptor = UniqueDescriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+  if (!state_->descriptor) throw std::system_error(errno, std::generic_category());
+}
+
 Event::~Event() = default;
 
 void Event::Set() {
   // Told under the lock: the waiter may destroy the event as soon as it sees it set.
-  const std::lock_guard lock(wait_->mutex);
-  wait_->set.store(true, std::memory_order_release);
-  wait_->changed.notify_all();
+  const MutexLock lock(state_->mutex);
+  state_->set.store(true, std::memory_order_release);
+  if (state_->descriptor) eventfd_write(state_->descriptor.Get(), 1);
+  state_->changed.NotifyAll();
 }
 
 void Event::Reset() {
-  const std::lock_guard lock(wait_->mutex);
-  wait_->set.store(false, std::memory_order_release);
+  const MutexLock lock(state_->mutex);
+  state_->set.store(false, std::memory_order_release);
+  eventfd_t count = 0;
+  if (state_->descriptor) eventfd_read(state_->descriptor.Get(), &count);
 }
 
-bool Event::IsSet() const { return wait_->set.load(std::memory_order_acquire); }
+bool Event::IsSet() const { return state_->set.load(std::memory_order_acquire); }
 
-bool Event::WaitMs(std::uint32_t ms) {
-  std::unique_lock lock(wait_->mutex);
-  const auto isSet = [this] { return IsSet(); };
-  if (ms == UINT32_MAX) {
-    wait_->changed.wait(lock, isSet);
-    return true;
+bool Event::WaitMs(std::uint32_t ms) const {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(ms);
+  const MutexLock lock(state_->mutex);
+  while (!IsSet()) {
+    if (ms == UINT32_MAX) {
+      state_->changed.Wait(state_->mutex);
+    } else if (!state_->changed.WaitUntil(state_->mutex, end)) {
+      return IsSet();
+    }
   }
-  return wait_->changed.wait_for(lock, std::chrono::milliseconds(ms), isSet);
+  return true;
 }
+
+std::intptr_t Event::Handle() const { return state_->descriptor.Get(); }
 
 namespace {
 

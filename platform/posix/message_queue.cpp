@@ -1,6 +1,10 @@
 #include "platform/message_queue.h"
 
+#include <signal.h>
 #include <threadqueue/threadqueue.h>
+#include <unistd.h>
+
+#include <cerrno>
 
 namespace merovane::platform {
 
@@ -15,6 +19,16 @@ void CreateMessageQueue() {
 bool PostMessageToThread(std::uint32_t threadId, std::uint32_t id, std::uintptr_t first,
                          std::intptr_t second) {
   return threadqueue_post(threadId, id, first, second) != 0;
+}
+
+MessageReceiver::MessageReceiver(std::uint32_t threadId) : threadId_(threadId) {}
+
+bool MessageReceiver::Post(std::uint32_t id, std::uintptr_t first, std::intptr_t second) const {
+  return PostMessageToThread(threadId_, id, first, second);
+}
+
+bool MessageReceiver::IsGone() const {
+  return tgkill(getpid(), static_cast<pid_t>(threadId_), 0) != 0 && errno != EPERM;
 }
 
 bool TakeMessage(Message& message, std::uint32_t timeLimitMs) {

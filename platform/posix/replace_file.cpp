@@ -9,29 +9,13 @@
 #include <optional>
 #include <string>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include "platform/files.h"
+#include "platform/posix/posix_api.h"
 
 namespace merovane::platform {
 namespace {
-
-class Descriptor {
- public:
-  explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
-  ~Descriptor() { Close(); }
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-
-  int Get() const { return descriptor_; }
-  bool Valid() const { return descriptor_ >= 0; }
-  // False when the system tells only now that something was not written.
-  bool Close() { return !Valid() || close(std::exchange(descriptor_, -1)) == 0; }
-
- private:
-  int descriptor_;
-};
 
 bool WriteAt(int descriptor, std::span<const char> data, off_t offset) {
   while (!data.empty()) {
@@ -65,7 +49,7 @@ std::filesystem::path TemporaryNameBeside(const std::filesystem::path& path) {
 
 // `old` is the file that stands there now, if one does.
 bool WriteBesideAndRename(const std::filesystem::path& temporary, const std::filesystem::path& path,
-                          Descriptor& file, const std::optional<struct stat>& old,
+                          UniqueDescriptor& file, const std::optional<struct stat>& old,
                           std::span<const char> data) {
   bool whole = WriteAt(file.Get(), data, 0);
   if (old) {
@@ -83,8 +67,8 @@ bool WriteBesideAndRename(const std::filesystem::path& temporary, const std::fil
 // changed, and the old content is put back when a write fails all the same.
 bool OverwriteInReservedRoom(const std::filesystem::path& path, off_t oldSize,
                              std::span<const char> data) {
-  Descriptor file(open(path.c_str(), O_RDWR | O_CLOEXEC));
-  if (!file.Valid()) return false;
+  UniqueDescriptor file(open(path.c_str(), O_RDWR | O_CLOEXEC));
+  if (!file) return false;
   const auto old = ReadWhole(file.Get(), oldSize);
   if (!old) return false;
   const off_t size = static_cast<off_t>(data.size());
@@ -121,8 +105,8 @@ bool ReplaceFile(const std::filesystem::path& path, std::span<const char> data) 
   }
 
   const std::filesystem::path temporary = TemporaryNameBeside(target);
-  Descriptor file(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-  if (file.Valid()) return WriteBesideAndRename(temporary, target, file, old, data);
+  UniqueDescriptor file(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+  if (file) return WriteBesideAndRename(temporary, target, file, old, data);
   return old && OverwriteInReservedRoom(target, old->st_size, data);
 }
 

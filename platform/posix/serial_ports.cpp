@@ -109,7 +109,12 @@ class StandardPorts {
   bool listedSettled_ = false;
 };
 
-// The ports that the environment names, with their devices' paths.
+std::string StandardPath(std::int32_t port) {
+  return std::string(kDeviceDirectory).append("/").append(kStandardPort) + std::to_string(port - 1);
+}
+
+}  // namespace
+
 std::map<std::int32_t, std::string> NamedPorts() {
   std::map<std::int32_t, std::string> ports;
   for (char** entry = environ; entry != nullptr && *entry != nullptr; ++entry) {
@@ -118,13 +123,17 @@ std::map<std::int32_t, std::string> NamedPorts() {
     const std::size_t equals = variable.find('=');
     if (equals == std::string_view::npos || equals + 1 == variable.size()) continue;
     const auto port = WholeNumber(
-        variable.substr(kPortVariable.size(), equals - kPortVariable.size()), 1, kLastPort);
+        variable.substr(kPortVariable.size(), equals - kPortVariable.size()), 1, INT32_MAX);
     if (port) ports.emplace(*port, variable.substr(equals + 1));
   }
   return ports;
 }
 
-}  // namespace
+std::string DeviceOfPort(std::int32_t port) {
+  const auto named = NamedPorts();
+  const auto found = named.find(port);
+  return found == named.end() ? StandardPath(port) : found->second;
+}
 
 struct SerialPorts::State {
   struct Seen {
@@ -157,12 +166,12 @@ std::map<std::int32_t, std::uint64_t> SerialPorts::Present() {
   state.now.clear();
   const auto named = NamedPorts();
   // A TCP endpoint is no device; its path names no file.
-  for (const auto& [port, path] : named) state.Note(port, path);
+  for (const auto& [port, path] : named) {
+    if (port <= kLastPort) state.Note(port, path);
+  }
   for (const std::int32_t number : state.standard.Numbers()) {
     const std::int32_t port = number + 1;
-    if (!named.contains(port))
-      state.Note(port, (std::string(kDeviceDirectory) + "/").append(kStandardPort) +
-                           std::to_string(number));
+    if (!named.contains(port)) state.Note(port, StandardPath(port));
   }
   state.seen.swap(state.now);
   std::map<std::int32_t, std::uint64_t> present;

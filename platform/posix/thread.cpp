@@ -13,6 +13,7 @@ namespace merovane::platform {
 
 struct Thread::State {
   std::function<void()> body;
+  bool takesMessages = false;
   Event started;
   Event done;
   pthread_t thread{};
@@ -52,9 +53,11 @@ void* Thread::State::Run(void* argument) {
   const std::unique_ptr<std::shared_ptr<State>> owned(
       static_cast<std::shared_ptr<State>*>(argument));
   State& state = **owned;
-  CreateMessageQueue();
-  state.id = CurrentThreadId();
-  state.started.Set();
+  if (state.takesMessages) {
+    CreateMessageQueue();
+    state.id = CurrentThreadId();
+    state.started.Set();
+  }
   try {
     state.body();
   } catch (...) {  // NOLINT(bugprone-empty-catch): it ends the thread and nothing else
@@ -69,17 +72,27 @@ Thread::~Thread() {
 }
 
 bool Thread::Start(std::function<void()> body) {
+  if (!Create(std::move(body), true)) return false;
+  state_->started.WaitMs(UINT32_MAX);
+  return true;
+}
+
+bool Thread::StartWithoutQueue(std::function<void()> body) {
+  return Create(std::move(body), false);
+}
+
+bool Thread::Create(std::function<void()> body, bool takesMessages) {
   if (state_ && !WaitMs(0)) return false;
   try {
     auto state = std::make_shared<State>();
     state->body = std::move(body);
+    state->takesMessages = takesMessages;
     auto argument = std::make_unique<std::shared_ptr<State>>(state);
     {
       const SignalsBlocked blocked;
       if (pthread_create(&state->thread, nullptr, State::Run, argument.get()) != 0) return false;
     }
     static_cast<void>(argument.release());
-    state->started.WaitMs(UINT32_MAX);
     state_ = std::move(state);
     return true;
   } catch (const std::bad_alloc&) {

@@ -1,17 +1,16 @@
 #include "platform/console.h"
 
-#include <mutex>
-
+#include "platform/mutex.h"
 #include "platform/win32/windows_api.h"
 
 namespace merovane::platform {
 namespace {
 
 struct Console {
-  std::mutex mutex;
-  bool allocated = false;
-  bool hidden = false;
-  UniqueHandle output;
+  Mutex mutex;
+  bool allocated MEROVANE_GUARDED_BY(mutex) = false;
+  bool hidden MEROVANE_GUARDED_BY(mutex) = false;
+  UniqueHandle output MEROVANE_GUARDED_BY(mutex);
 };
 
 Console& TheConsole() {
@@ -23,7 +22,7 @@ void Show(bool visible) {
   if (HWND window = GetConsoleWindow()) ShowWindow(window, visible ? SW_SHOW : SW_HIDE);
 }
 
-void Release(Console& console) {
+void Release(Console& console) MEROVANE_REQUIRES(console.mutex) {
   console.output.reset();
   if (console.allocated) {
     FreeConsole();
@@ -37,7 +36,7 @@ void Release(Console& console) {
 
 void SetConsole(ConsoleState state) {
   Console& console = TheConsole();
-  const std::lock_guard lock(console.mutex);
+  const MutexLock lock(console.mutex);
   if (state == ConsoleState::Off) {
     Release(console);
     return;
@@ -61,7 +60,7 @@ void SetConsole(ConsoleState state) {
 
 void WriteConsole(std::string_view text) {
   Console& console = TheConsole();
-  const std::lock_guard lock(console.mutex);
+  const MutexLock lock(console.mutex);
   if (!console.output) return;
   const std::wstring wide = WideFromNarrow(text);
   DWORD written = 0;

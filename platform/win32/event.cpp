@@ -7,24 +7,28 @@
 namespace merovane::platform {
 
 // The system's own event: no lock of ours stays held when process exit kills the thread that waits.
-struct Event::Wait {
+struct Event::State {
   UniqueHandle handle{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
 };
 
-Event::Event() : wait_(std::make_unique<Wait>()) {
-  if (!wait_->handle) throw std::bad_alloc();
+Event::Event(For /*waits*/) : state_(std::make_unique<State>()) {
+  if (!state_->handle) throw std::bad_alloc();
 }
 Event::~Event() = default;
 
-void Event::Set() { SetEvent(wait_->handle.get()); }
+void Event::Set() { SetEvent(state_->handle.get()); }
 
-void Event::Reset() { ResetEvent(wait_->handle.get()); }
+void Event::Reset() { ResetEvent(state_->handle.get()); }
 
-bool Event::IsSet() const { return WaitForSingleObject(wait_->handle.get(), 0) == WAIT_OBJECT_0; }
+bool Event::IsSet() const { return WaitForSingleObject(state_->handle.get(), 0) == WAIT_OBJECT_0; }
 
-bool Event::WaitMs(std::uint32_t ms) {
+bool Event::WaitMs(std::uint32_t ms) const {
   static_assert(INFINITE == UINT32_MAX);
-  return WaitForSingleObject(wait_->handle.get(), ms) == WAIT_OBJECT_0;
+  return WaitForSingleObject(state_->handle.get(), ms) == WAIT_OBJECT_0;
+}
+
+std::intptr_t Event::Handle() const {
+  return reinterpret_cast<std::intptr_t>(state_->handle.get());
 }
 
 bool CallerEvent::IsNull() const { return handle_ == 0; }

@@ -1,5 +1,7 @@
 #include "platform/message_queue.h"
 
+#include <utility>
+
 #include "platform/clock.h"
 #include "platform/win32/windows_api.h"
 
@@ -17,6 +19,22 @@ void CreateMessageQueue() {
 bool PostMessageToThread(std::uint32_t threadId, std::uint32_t id, std::uintptr_t first,
                          std::intptr_t second) {
   return threadId != 0 && PostThreadMessageW(threadId, id, first, second) != 0;
+}
+
+MessageReceiver::MessageReceiver(std::uint32_t threadId) : threadId_(threadId) {
+  // As long as the handle is open no other thread gets the id.
+  UniqueHandle thread(OpenThread(SYNCHRONIZE | THREAD_QUERY_LIMITED_INFORMATION, FALSE, threadId));
+  if (thread && GetProcessIdOfThread(thread.get()) == GetCurrentProcessId()) {
+    thread_ = std::move(thread);
+  }
+}
+
+bool MessageReceiver::Post(std::uint32_t id, std::uintptr_t first, std::intptr_t second) const {
+  return thread_ && PostMessageToThread(threadId_, id, first, second);
+}
+
+bool MessageReceiver::IsGone() const {
+  return !thread_ || WaitForSingleObject(thread_.get(), 0) == WAIT_OBJECT_0;
 }
 
 bool TakeMessage(Message& message, std::uint32_t timeLimitMs) {

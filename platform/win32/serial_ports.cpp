@@ -11,8 +11,6 @@ namespace {
 
 constexpr std::string_view kStandardPort = "COM";
 
-std::wstring StandardName(std::int32_t port) { return L"COM" + std::to_wstring(port); }
-
 bool StartsWithoutCase(std::wstring_view text, std::string_view ascii) {
   const std::wstring start(ascii.begin(), ascii.end());
   return text.size() >= start.size() &&
@@ -21,14 +19,16 @@ bool StartsWithoutCase(std::wstring_view text, std::string_view ascii) {
 }
 
 // The number after `start` in a name such as "COM12".
-std::optional<std::int32_t> NumberAfter(std::wstring_view name, std::string_view start) {
+std::optional<std::int32_t> NumberAfter(std::wstring_view name, std::string_view start,
+                                        std::int32_t last) {
   if (!StartsWithoutCase(name, start)) return std::nullopt;
-  return WholeNumber(NarrowFromWide(name.substr(start.size())), 1, kLastPort);
+  return WholeNumber(NarrowFromWide(name.substr(start.size())), 1, last);
 }
 
-// The ports that the environment names, with their devices' names.
-std::map<std::int32_t, std::wstring> NamedPorts() {
-  std::map<std::int32_t, std::wstring> ports;
+}  // namespace
+
+std::map<std::int32_t, std::string> NamedPorts() {
+  std::map<std::int32_t, std::string> ports;
   const std::unique_ptr<wchar_t, decltype(&FreeEnvironmentStringsW)> variables(
       GetEnvironmentStringsW(), FreeEnvironmentStringsW);
   if (!variables) return ports;
@@ -37,15 +37,20 @@ std::map<std::int32_t, std::wstring> NamedPorts() {
     next += variable.size() + 1;
     const std::size_t equals = variable.find(L'=', 1);
     if (equals == std::wstring_view::npos || equals + 1 == variable.size()) continue;
-    const auto port = NumberAfter(variable.substr(0, equals), kPortVariable);
+    const auto port = NumberAfter(variable.substr(0, equals), kPortVariable, INT32_MAX);
     if (!port) continue;
-    std::wstring_view name = variable.substr(equals + 1);
-    constexpr std::wstring_view kDevicePrefix = L"\\\\.\\";
-    if (name.starts_with(kDevicePrefix)) name.remove_prefix(kDevicePrefix.size());
-    ports.emplace(*port, name);
+    ports.emplace(*port, NarrowFromWide(variable.substr(equals + 1)));
   }
   return ports;
 }
+
+std::string DeviceOfPort(std::int32_t port) {
+  const auto named = NamedPorts();
+  const auto found = named.find(port);
+  return found == named.end() ? std::string(kStandardPort) + std::to_string(port) : found->second;
+}
+
+namespace {
 
 // The ports that the serial drivers have entered in the system's device map.
 std::set<std::int32_t> MappedPorts() {
@@ -65,7 +70,7 @@ std::set<std::int32_t> MappedPorts() {
                                          reinterpret_cast<BYTE*>(name.data()), &nameBytes);
     if (status == ERROR_MORE_DATA) continue;
     if (status != ERROR_SUCCESS) break;
-    if (const auto port = NumberAfter(name.data(), kStandardPort)) ports.insert(*port);
+    if (const auto port = NumberAfter(name.data(), kStandardPort, kLastPort)) ports.insert(*port);
   }
   RegCloseKey(map);
   return ports;
@@ -112,15 +117,19 @@ bool SerialPorts::TellsReturns() { return false; }
 
 std::map<std::int32_t, std::uint64_t> SerialPorts::Present() {
   std::map<std::int32_t, std::uint64_t> present;
-  const auto note = [&present](std::int32_t port, const std::wstring& name) {
-    if (const auto device = Device(name)) {
+  const auto note = [&present](std::int32_t port, std::string_view name) {
+    constexpr std::string_view kDevicePrefix = "\\\\.\\";
+    if (name.starts_with(kDevicePrefix)) name.remove_prefix(kDevicePrefix.size());
+    if (const auto device = Device(WideFromNarrow(name))) {
       present.emplace(port, std::hash<std::wstring>{}(*device));
     }
   };
   const auto named = NamedPorts();
-  for (const auto& [port, name] : named) note(port, name);
+  for (const auto& [port, name] : named) {
+    if (port <= kLastPort) note(port, name);
+  }
   for (const std::int32_t port : CandidatePorts()) {
-    if (!named.contains(port)) note(port, StandardName(port));
+    if (!named.contains(port)) note(port, std::string(kStandardPort) + std::to_string(port));
   }
   return present;
 }

@@ -13,6 +13,7 @@ namespace merovane::platform {
 
 struct Thread::State {
   std::function<void()> body;
+  bool takesMessages = false;
   UniqueHandle started{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   UniqueHandle done{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
   UniqueHandle thread;
@@ -42,7 +43,7 @@ unsigned __stdcall Thread::State::Run(void* argument) {
   const std::unique_ptr<std::shared_ptr<State>> owned(
       static_cast<std::shared_ptr<State>*>(argument));
   State& state = **owned;
-  CreateMessageQueue();
+  if (state.takesMessages) CreateMessageQueue();
   SetEvent(state.started.get());
   try {
     state.body();
@@ -58,18 +59,28 @@ Thread::~Thread() {
 }
 
 bool Thread::Start(std::function<void()> body) {
+  if (!Create(std::move(body), true)) return false;
+  const std::array<HANDLE, 2> begunOrKilled{state_->started.get(), state_->thread.get()};
+  WaitForMultipleObjects(2, begunOrKilled.data(), FALSE, INFINITE);
+  return true;
+}
+
+bool Thread::StartWithoutQueue(std::function<void()> body) {
+  return Create(std::move(body), false);
+}
+
+bool Thread::Create(std::function<void()> body, bool takesMessages) {
   if (state_ && !WaitMs(0)) return false;
   try {
     auto state = std::make_shared<State>();
     if (!state->started || !state->done) return false;
     state->body = std::move(body);
+    state->takesMessages = takesMessages;
     auto argument = std::make_unique<std::shared_ptr<State>>(state);
     state->thread.reset(reinterpret_cast<HANDLE>(
         _beginthreadex(nullptr, 0, State::Run, argument.get(), 0, &state->id)));
     if (!state->thread) return false;
     static_cast<void>(argument.release());
-    const std::array<HANDLE, 2> begunOrKilled{state->started.get(), state->thread.get()};
-    WaitForMultipleObjects(2, begunOrKilled.data(), FALSE, INFINITE);
     state_ = std::move(state);
     return true;
   } catch (const std::bad_alloc&) {
@@ -81,7 +92,7 @@ bool Thread::Running() const {
   return state_ && !IsSignalled(state_->done.get()) && !IsSignalled(state_->thread.get());
 }
 
-std::uint32_t Thread::Id() const { return state_ ? state_->id : 0; }
+std::uint32_t Thread::Id() const { return state_ && state_->takesMessages ? state_->id : 0; }
 
 bool Thread::WaitMs(std::uint32_t ms) {
   if (!state_) return true;

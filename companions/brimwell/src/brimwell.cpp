@@ -1,31 +1,37 @@
+// One book of the last report of each module.
 #include "brimwell/brimwell.h"
 
+#include <cstdint>
 #include <exception>
 #include <map>
-#include <mutex>
+
+#include "platform/mutex.h"
 
 namespace {
+
+using merovane::platform::Mutex;
+using merovane::platform::MutexLock;
 
 class ErrorBook {
  public:
   void ClearAll() {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     lastOfModule_.clear();
   }
 
   void ClearLast() {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     std::erase_if(lastOfModule_,
-                  [this](const auto& entry) { return entry.second.sequence == reports_; });
+                  [last = reports_](const auto& entry) { return entry.second.sequence == last; });
   }
 
   void Set(E_MODULE_TYPE module, std::uint32_t operation, std::int32_t code, std::int32_t flag) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     lastOfModule_[module] = {operation, code, flag, ++reports_};
   }
 
   bool Get(E_MODULE_TYPE module, BRIMWELL_ERROR& error) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     const auto found = lastOfModule_.find(module);
     if (found == lastOfModule_.end()) return false;
     error = found->second;
@@ -33,9 +39,9 @@ class ErrorBook {
   }
 
  private:
-  std::mutex mutex_;
-  std::map<E_MODULE_TYPE, BRIMWELL_ERROR> lastOfModule_;
-  std::uint32_t reports_ = 0;
+  Mutex mutex_;
+  std::map<E_MODULE_TYPE, BRIMWELL_ERROR> lastOfModule_ MEROVANE_GUARDED_BY(mutex_);
+  std::uint32_t reports_ MEROVANE_GUARDED_BY(mutex_) = 0;
 };
 
 // Never destroyed: other libraries report while the process ends.

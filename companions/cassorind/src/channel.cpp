@@ -1,10 +1,16 @@
 #include "channel.h"
 
 #include <chrono>
+#include <cstdint>
 #include <exception>
 #include <utility>
 
+#include "device.h"
+#include "platform/serial_ports.h"
+
 namespace cassorind {
+
+using platform::MutexLock;
 
 namespace {
 
@@ -18,7 +24,7 @@ constexpr std::chrono::milliseconds kIdleLimit{1000};
 class Channel::Use {
  public:
   explicit Use(Channel& channel) : channel_(channel) {
-    std::lock_guard lock(channel_.mutex_);
+    const MutexLock lock(channel_.mutex_);
     session_ = channel_.session_;
     ++channel_.uses_;
   }
@@ -26,11 +32,11 @@ class Channel::Use {
   Use& operator=(const Use&) = delete;
   ~Use() {
     {
-      std::lock_guard lock(channel_.mutex_);
+      const MutexLock lock(channel_.mutex_);
       session_ = nullptr;
       if (--channel_.uses_ > 0) return;
       // Under the lock: the channel may be freed as soon as it is idle.
-      channel_.idle_.notify_all();
+      channel_.idle_.NotifyAll();
     }
   }
   explicit operator bool() const { return session_ != nullptr; }
@@ -44,27 +50,32 @@ class Channel::Use {
 std::int32_t Channel::SetReceiver(std::uint32_t messageId, std::int32_t enabled,
                                   std::uint32_t threadId) try {
   const Use session(*this);
+  std::optional<companions::Receiver> receiver;
   std::shared_ptr<companions::ChunkArena> arena;
   {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     receiver_.reset();
     if (enabled != 0) {
       if (!arena_) arena_ = std::make_shared<companions::ChunkArena>();
       arena = arena_;
-      receiver_ = companions::Receiver{threadId, messageId};
+      receiver_ = companions::Receiver{platform::MessageReceiver(threadId), messageId};
+      receiver = receiver_;
     }
   }
   if (!session) return 1;
   session->StopPosting();
-  return enabled == 0 || session->StartPosting({threadId, messageId}, arena) ? 1 : 0;
+  return !receiver || session->StartPosting(*receiver, arena) ? 1 : 0;
 } catch (const std::exception&) {
   return 0;
 }
 
 std::int32_t Channel::Open(const CassorindOpenParameters* parameters) {
-  if (!parameters || parameters->kind != 0 || parameters->port == 0) return 0;
+  if (!parameters || parameters->kind != 0 || parameters->port == 0 ||
+      parameters->port > INT32_MAX) {
+    return 0;
+  }
   {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     if (session_ || opening_) return 0;
     opening_ = true;
   }
@@ -74,48 +85,50 @@ std::int32_t Channel::Open(const CassorindOpenParameters* parameters) {
   } catch (const std::exception&) {
     session = nullptr;
   }
-  std::lock_guard lock(mutex_);
+  const MutexLock lock(mutex_);
   opening_ = false;
   session_ = std::move(session);
   return session_ ? 1 : 0;
 }
 
 std::shared_ptr<Session> Channel::OpenSession(const CassorindOpenParameters& parameters) {
-  const Device device = DeviceOfPort(parameters.port);
-  std::shared_ptr<ByteStream> stream;
-  if (device.tcp) {
-    stream = OpenTcp(*device.tcp);
-  } else if (device.serial) {
-    stream = OpenSerial(*device.serial, parameters.baudRate);
-  }
+  const auto port = static_cast<std::int32_t>(parameters.port);
+  std::shared_ptr<platform::ByteStream> stream =
+      OpenDevice(platform::DeviceOfPort(port), parameters.baudRate);
   if (!stream) return nullptr;
   auto session = std::make_shared<Session>(std::move(stream));
   std::optional<companions::Receiver> receiver;
   std::shared_ptr<companions::ChunkArena> arena;
   {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     receiver = receiver_;
     arena = arena_;
   }
-  if (receiver && !session->StartPosting(*receiver, std::move(arena))) return nullptr;
+  // A receiver whose thread is gone is dropped.
+  if (receiver && !receiver->thread.IsGone() &&
+      !session->StartPosting(*receiver, std::move(arena))) {
+    return nullptr;
+  }
   return session;
 }
 
 std::int32_t Channel::Close() {
   std::shared_ptr<Session> session;
   {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     session = std::move(session_);
   }
   if (!session) return 0;
   session->End();
-  std::unique_lock lock(mutex_);
-  idle_.wait_for(lock, kIdleLimit, [this] { return uses_ == 0; });
+  const auto limit = std::chrono::steady_clock::now() + kIdleLimit;
+  const MutexLock lock(mutex_);
+  while (uses_ > 0 && idle_.WaitUntil(mutex_, limit)) {
+  }
   return 1;
 }
 
 bool Channel::IsIdle() {
-  std::lock_guard lock(mutex_);
+  const MutexLock lock(mutex_);
   return uses_ == 0;
 }
 
@@ -127,7 +140,7 @@ std::int32_t Channel::Clear() {
 std::int32_t Channel::Read(void* buffer, std::uint32_t maxBytes, std::uint32_t timeLimitMs,
                            std::uint32_t /*reserved*/) {
   const Use session(*this);
-  if (!session) return kDeviceGone;
+  if (!session) return platform::kDeviceGone;
   if (!buffer || maxBytes == 0) return 0;
   return session->Read({static_cast<std::byte*>(buffer), maxBytes}, timeLimitMs);
 }

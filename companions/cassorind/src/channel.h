@@ -1,13 +1,12 @@
-// The channel object behind the interface: lets operations run from any thread
-// while another opens or closes.
+// The channel object that the interface stands for: lets operations run on any thread while another
+// opens or closes.
 #pragma once
 
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 #include <optional>
 
 #include "cassorind/cassorind.h"
+#include "platform/mutex.h"
 #include "session.h"
 
 namespace cassorind {
@@ -31,14 +30,14 @@ class Channel final : public CassorindChannel {
 
   std::shared_ptr<Session> OpenSession(const CassorindOpenParameters& parameters);
 
-  std::mutex mutex_;
-  std::condition_variable idle_;
-  int uses_ = 0;
-  bool opening_ = false;
-  std::shared_ptr<Session> session_;
-  std::optional<companions::Receiver> receiver_;
+  platform::Mutex mutex_;
+  platform::ConditionVariable idle_;
+  int uses_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  bool opening_ MEROVANE_GUARDED_BY(mutex_) = false;
+  std::shared_ptr<Session> session_ MEROVANE_GUARDED_BY(mutex_);
+  std::optional<companions::Receiver> receiver_ MEROVANE_GUARDED_BY(mutex_);
   // Outlives the session: chunks stay readable until the channel is released.
-  std::shared_ptr<companions::ChunkArena> arena_;
+  std::shared_ptr<companions::ChunkArena> arena_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 }  // namespace cassorind

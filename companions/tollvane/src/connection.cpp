@@ -54,14 +54,14 @@ bool Connection::Connect(std::uint16_t port, std::uint32_t limitMs) {
 // What runs in io_ refers to the connection without holding it: the thread does, as long as any of
 // it can run.
 bool Connection::StartThread() {
-  return thread_.Start([self = shared_from_this()] {
+  return thread_.StartWithoutQueue([self = shared_from_this()] {
     self->Receive();
     self->io_.run();
   });
 }
 
 bool Connection::Send(std::span<const std::byte> data) {
-  std::lock_guard lock(backlogMutex_);
+  const platform::MutexLock lock(backlogMutex_);
   if (!connected_.load() || finishing_) return false;
   if (backlog_.size() + beingSent_.size() + data.size() > kBacklogBytes) return false;
   backlog_.insert(backlog_.end(), data.begin(), data.end());
@@ -87,14 +87,14 @@ void Connection::Receive() {
                             if (stop_.IsSet()) return;
                             if (error) return Close();
                             arena_->Commit(count);
-                            receivers_->Post(room.data(), static_cast<std::uint32_t>(count), stop_);
+                            receivers_->Post(room.first(count), stop_);
                             Receive();
                           });
 }
 
 void Connection::SendBacklog() {
   {
-    std::lock_guard lock(backlogMutex_);
+    const platform::MutexLock lock(backlogMutex_);
     beingSent_.clear();
     std::swap(beingSent_, backlog_);
     sending_ = !beingSent_.empty();
@@ -112,7 +112,7 @@ void Connection::SendBacklog() {
 
 void Connection::Finish() {
   work_.reset();
-  std::lock_guard lock(backlogMutex_);
+  const platform::MutexLock lock(backlogMutex_);
   finishing_ = true;
   if (!sending_) Close();
 }

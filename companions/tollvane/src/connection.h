@@ -8,14 +8,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <span>
 #include <vector>
 
+#include "common/chunk_arena.h"
+#include "platform/event.h"
+#include "platform/mutex.h"
+#include "platform/thread.h"
 #include "receivers.h"
-#include "support/chunk_arena.h"
-#include "support/stop_signal.h"
-#include "support/worker_thread.h"
 
 namespace tollvane {
 
@@ -46,19 +46,21 @@ class Connection : public std::enable_shared_from_this<Connection> {
 
   const std::shared_ptr<Receivers> receivers_;
   const std::shared_ptr<companions::ChunkArena> arena_;
-  companions::StopSignal stop_;
+  platform::Event stop_;
   asio::io_context io_{1};
   asio::ip::tcp::socket socket_{io_};
   asio::executor_work_guard<asio::io_context::executor_type> work_{io_.get_executor()};
   std::atomic<bool> connected_{false};
 
-  std::mutex backlogMutex_;
-  std::vector<std::byte> backlog_;
-  std::vector<std::byte> beingSent_;
-  bool sending_ = false;    // a send is under way or about to start
-  bool finishing_ = false;  // close as soon as the backlog is empty
+  platform::Mutex backlogMutex_;
+  std::vector<std::byte> backlog_ MEROVANE_GUARDED_BY(backlogMutex_);
+  std::vector<std::byte> beingSent_ MEROVANE_GUARDED_BY(backlogMutex_);
+  bool sending_ MEROVANE_GUARDED_BY(backlogMutex_) =
+      false;  // a send is under way or about to start
+  bool finishing_ MEROVANE_GUARDED_BY(backlogMutex_) =
+      false;  // close as soon as the backlog is empty
 
-  companions::WorkerThread thread_;
+  platform::Thread thread_;
 };
 
 }  // namespace tollvane

@@ -20,7 +20,7 @@ void ServerClient::Release() {
 std::int32_t ServerClient::RegisterReceiver(std::uint32_t messageId, std::int32_t enabled,
                                             std::uint32_t threadId) try {
   if (enabled != 0) {
-    receivers_->Add({threadId, messageId});
+    receivers_->Add({platform::MessageReceiver(threadId), messageId});
   } else {
     receivers_->Remove(threadId);
   }
@@ -35,7 +35,7 @@ std::int32_t ServerClient::Connect(const TollvaneConnectParameters* parameters) 
   auto connection = Connection::Open(static_cast<std::uint16_t>(parameters->port), kConnectLimitMs,
                                      receivers_, arena_);
   if (!connection) return kNoConnection;
-  std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   connection_ = std::move(connection);
   return 0;
 } catch (const std::exception&) {
@@ -43,7 +43,7 @@ std::int32_t ServerClient::Connect(const TollvaneConnectParameters* parameters) 
 }
 
 std::shared_ptr<Connection> ServerClient::TakeConnection() {
-  std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return std::move(connection_);
 }
 
@@ -59,7 +59,7 @@ std::int32_t ServerClient::Disconnect() try {
 std::int32_t ServerClient::Forward(const void* data, std::uint32_t length) try {
   std::shared_ptr<Connection> connection;
   {
-    std::lock_guard lock(mutex_);
+    const platform::MutexLock lock(mutex_);
     connection = connection_;
   }
   if (!connection || !data) return 0;

@@ -1,10 +1,10 @@
-// The server object behind the interface.
+// The server object that the interface stands for.
 #pragma once
 
 #include <memory>
-#include <mutex>
 
 #include "connection.h"
+#include "platform/mutex.h"
 #include "tollvane/tollvane.h"
 
 namespace tollvane {
@@ -24,8 +24,8 @@ class ServerClient final : public TollvaneServer {
   const std::shared_ptr<Receivers> receivers_ = std::make_shared<Receivers>();
   // Outlives the connection: chunks stay readable until the object is released.
   const std::shared_ptr<companions::ChunkArena> arena_ = std::make_shared<companions::ChunkArena>();
-  std::mutex mutex_;
-  std::shared_ptr<Connection> connection_;
+  platform::Mutex mutex_;
+  std::shared_ptr<Connection> connection_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 }  // namespace tollvane

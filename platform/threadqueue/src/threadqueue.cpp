@@ -4,15 +4,19 @@
 
 #include <algorithm>
 #include <chrono>
-#include <condition_variable>
 #include <cstddef>
 #include <deque>
 #include <memory>
-#include <mutex>
 #include <new>
 #include <unordered_map>
 
+#include "platform/mutex.h"
+
 namespace {
+
+using merovane::platform::ConditionVariable;
+using merovane::platform::Mutex;
+using merovane::platform::MutexLock;
 
 constexpr std::size_t kCapacity = 10000;
 
@@ -20,23 +24,25 @@ class Queue {
  public:
   bool Post(const THREADQUEUE_MESSAGE& message) {
     {
-      std::lock_guard lock(mutex_);
+      const MutexLock lock(mutex_);
       if (messages_.size() >= kCapacity) return false;
       messages_.push_back(message);
     }
-    posted_.notify_one();
+    posted_.NotifyOne();
     return true;
   }
 
   bool Take(THREADQUEUE_MESSAGE& message, std::uint32_t timeLimitMs) {
-    std::unique_lock lock(mutex_);
-    const auto ready = [this] { return !messages_.empty(); };
-    if (timeLimitMs == UINT32_MAX) {
-      posted_.wait(lock, ready);
-    } else if (!ready() &&
-               (timeLimitMs == 0 ||
-                !posted_.wait_for(lock, std::chrono::milliseconds(timeLimitMs), ready))) {
-      return false;
+    using SteadyClock = std::chrono::steady_clock;
+    const MutexLock lock(mutex_);
+    if (messages_.empty() && timeLimitMs == 0) return false;
+    const auto end = SteadyClock::now() + std::chrono::milliseconds(timeLimitMs);
+    while (messages_.empty()) {
+      if (timeLimitMs == UINT32_MAX) {
+        posted_.Wait(mutex_);
+      } else if (!posted_.WaitUntil(mutex_, end) && messages_.empty()) {
+        return false;
+      }
     }
     message = messages_.front();
     messages_.pop_front();
@@ -44,7 +50,7 @@ class Queue {
   }
 
   bool TakeRange(THREADQUEUE_MESSAGE& message, std::uint32_t firstId, std::uint32_t lastId) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     const auto found = std::find_if(messages_.begin(), messages_.end(), [&](const auto& each) {
       return each.id >= firstId && each.id <= lastId;
     });
@@ -55,30 +61,30 @@ class Queue {
   }
 
  private:
-  std::mutex mutex_;
-  std::condition_variable posted_;
-  std::deque<THREADQUEUE_MESSAGE> messages_;
+  Mutex mutex_;
+  ConditionVariable posted_;
+  std::deque<THREADQUEUE_MESSAGE> messages_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 class Registry {
  public:
   void Add(std::uint32_t threadId, std::shared_ptr<Queue> queue) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     queues_[threadId] = std::move(queue);
   }
   void Remove(std::uint32_t threadId) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     queues_.erase(threadId);
   }
   std::shared_ptr<Queue> Find(std::uint32_t threadId) {
-    std::lock_guard lock(mutex_);
+    const MutexLock lock(mutex_);
     const auto found = queues_.find(threadId);
     return found == queues_.end() ? nullptr : found->second;
   }
 
  private:
-  std::mutex mutex_;
-  std::unordered_map<std::uint32_t, std::shared_ptr<Queue>> queues_;
+  Mutex mutex_;
+  std::unordered_map<std::uint32_t, std::shared_ptr<Queue>> queues_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 // Never destroyed: threads may post and end after the process began to exit.

@@ -9,13 +9,7 @@
 
 #include <stdint.h>
 
-#include "companions/export.h"
-
-#ifdef THREADQUEUE_BUILD
-#define THREADQUEUE_API COMPANION_EXPORT
-#else
-#define THREADQUEUE_API COMPANION_IMPORT
-#endif
+#define THREADQUEUE_API __attribute__((visibility("default")))
 
 #ifdef __cplusplus
 extern "C" {

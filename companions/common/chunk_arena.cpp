@@ -1,4 +1,4 @@
-#include "support/chunk_arena.h"
+#include "common/chunk_arena.h"
 
 #include <algorithm>
 #include <new>

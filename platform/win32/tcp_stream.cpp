@@ -4,29 +4,28 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <mutex>
 #include <utility>
 
-#include "byte_stream.h"
-#include "win32/overlapped_transfer.h"
+#include "platform/byte_stream.h"
+#include "platform/mutex.h"
+#include "platform/win32/transfer.h"
 
-namespace cassorind {
-
+namespace merovane::platform {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 using Outcome = OverlappedTransfer::Outcome;
 
 class Winsock {
  public:
   Winsock() {
     WSADATA data;
-    started_ = ::WSAStartup(MAKEWORD(2, 2), &data) == 0;
+    started_ = WSAStartup(MAKEWORD(2, 2), &data) == 0;
   }
   Winsock(const Winsock&) = delete;
   Winsock& operator=(const Winsock&) = delete;
   ~Winsock() {
-    if (started_) ::WSACleanup();
+    if (started_) WSACleanup();
   }
   bool Started() const { return started_; }
 
@@ -40,7 +39,7 @@ class Socket {
   Socket(Socket&& other) noexcept : value_(std::exchange(other.value_, INVALID_SOCKET)) {}
   Socket& operator=(Socket&&) = delete;
   ~Socket() {
-    if (IsValid()) ::closesocket(value_);
+    if (IsValid()) closesocket(value_);
   }
   SOCKET Get() const { return value_; }
   bool IsValid() const { return value_ != INVALID_SOCKET; }
@@ -54,12 +53,12 @@ bool IsReadable(SOCKET socket) {
   FD_ZERO(&readable);
   FD_SET(socket, &readable);
   timeval now{};
-  return ::select(0, &readable, nullptr, nullptr, &now) > 0;
+  return select(0, &readable, nullptr, nullptr, &now) > 0;
 }
 
 u_long WaitingBytes(SOCKET socket) {
   u_long waiting = 0;
-  return ::ioctlsocket(socket, FIONREAD, &waiting) == 0 ? waiting : 0;
+  return ioctlsocket(socket, FIONREAD, &waiting) == 0 ? waiting : 0;
 }
 
 class TcpStream final : public ByteStream {
@@ -67,15 +66,15 @@ class TcpStream final : public ByteStream {
   explicit TcpStream(Socket socket) : socket_(std::move(socket)) {}
 
   std::int32_t Read(std::span<std::byte> buffer, std::uint32_t timeLimitMs,
-                    const companions::StopSignal& stop) override {
-    std::lock_guard lock(readMutex_);
+                    const Event& stop) override {
+    const MutexLock lock(readMutex_);
     const auto result = reading_.Read(Handle(), buffer, timeLimitMs, stop);
     if (result.bytes > 0) return static_cast<std::int32_t>(result.bytes);
     const bool waited = result.outcome == Outcome::TimeLimit || result.outcome == Outcome::Stopped;
     return waited ? 0 : kDeviceGone;
   }
 
-  std::size_t Write(std::span<const std::byte> data, const companions::StopSignal& stop) override {
+  std::size_t Write(std::span<const std::byte> data, const Event& stop) override {
     std::size_t written = 0;
     while (written < data.size() && !stop.IsSet()) {
       // The system would take bytes for a peer that has gone and tell of it only later.
@@ -96,7 +95,7 @@ class TcpStream final : public ByteStream {
       const u_long waiting = std::min(total, WaitingBytes(socket_.Get()));
       if (waiting == 0) break;
       const auto piece = static_cast<int>(std::min<u_long>(waiting, dropped.size()));
-      const int count = ::recv(socket_.Get(), dropped.data(), piece, 0);
+      const int count = recv(socket_.Get(), dropped.data(), piece, 0);
       if (count <= 0) return false;
       total -= static_cast<u_long>(count);
     }
@@ -119,19 +118,21 @@ class TcpStream final : public ByteStream {
 
   const Winsock winsock_;
   const Socket socket_;
-  std::mutex readMutex_;
-  OverlappedTransfer reading_;
+  Mutex readMutex_;
+  OverlappedTransfer reading_ MEROVANE_GUARDED_BY(readMutex_);
   OverlappedTransfer writing_;
 };
 
 // True when the connection stands before `deadline`.
-bool Connect(SOCKET socket, const addrinfo& address, Clock::time_point deadline) {
+bool Connect(SOCKET socket, const addrinfo& address, SteadyClock::time_point deadline) {
   u_long nonBlocking = 1;
-  ::ioctlsocket(socket, FIONBIO, &nonBlocking);
-  if (::connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) != 0) {
-    if (::WSAGetLastError() != WSAEWOULDBLOCK) return false;
+  ioctlsocket(socket, FIONBIO, &nonBlocking);
+  if (connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) != 0) {
+    if (WSAGetLastError() != WSAEWOULDBLOCK) return false;
     const auto left = std::max<std::int64_t>(
-        std::chrono::duration_cast<std::chrono::microseconds>(deadline - Clock::now()).count(), 0);
+        std::chrono::duration_cast<std::chrono::microseconds>(deadline - SteadyClock::now())
+            .count(),
+        0);
     timeval limit{static_cast<long>(left / 1'000'000), static_cast<long>(left % 1'000'000)};
     fd_set connected;
     fd_set failed;
@@ -139,41 +140,42 @@ bool Connect(SOCKET socket, const addrinfo& address, Clock::time_point deadline)
     FD_ZERO(&failed);
     FD_SET(socket, &connected);
     FD_SET(socket, &failed);
-    if (::select(0, nullptr, &connected, &failed, &limit) <= 0 || !FD_ISSET(socket, &connected)) {
+    if (select(0, nullptr, &connected, &failed, &limit) <= 0 || !FD_ISSET(socket, &connected)) {
       return false;
     }
   }
   nonBlocking = 0;
-  ::ioctlsocket(socket, FIONBIO, &nonBlocking);
+  ioctlsocket(socket, FIONBIO, &nonBlocking);
   return true;
 }
 
 struct FreeAddresses {
-  void operator()(addrinfo* addresses) const { ::freeaddrinfo(addresses); }
+  void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
 };
 
 }  // namespace
 
-std::unique_ptr<ByteStream> OpenTcp(const TcpAddress& address) {
-  const auto deadline = Clock::now() + std::chrono::milliseconds(kConnectLimitMs);
+std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
+                                       std::uint32_t limitMs) {
+  const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
   const Winsock winsock;
   if (!winsock.Started()) return nullptr;
   addrinfo hints{};
   hints.ai_socktype = SOCK_STREAM;
   addrinfo* found = nullptr;
-  if (::getaddrinfo(address.host.c_str(), address.service.c_str(), &hints, &found) != 0) {
+  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0) {
     return nullptr;
   }
   const std::unique_ptr<addrinfo, FreeAddresses> addresses(found);
   for (const addrinfo* each = found; each; each = each->ai_next) {
     Socket socket(
-        ::WSASocketW(each->ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED));
+        WSASocketW(each->ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED));
     if (!socket.IsValid() || !Connect(socket.Get(), *each, deadline)) continue;
     const char on = 1;
-    ::setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
     return std::make_unique<TcpStream>(std::move(socket));
   }
   return nullptr;
 }
 
-}  // namespace cassorind
+}  // namespace merovane::platform

@@ -12,13 +12,12 @@
 #include <cerrno>
 #include <chrono>
 
-#include "posix/descriptor_stream.h"
+#include "platform/posix/transfer.h"
 
-namespace cassorind {
-
+namespace merovane::platform {
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 class TcpStream final : public DescriptorStream {
  public:
@@ -27,11 +26,11 @@ class TcpStream final : public DescriptorStream {
   bool Clear() override {
     // No more than is there now: a peer that never stops sending must not hold the caller.
     int waiting = 0;
-    if (::ioctl(Get(), FIONREAD, &waiting) != 0) return false;
+    if (ioctl(Get(), FIONREAD, &waiting) != 0) return false;
     std::array<std::byte, 4096> dropped;
     while (waiting > 0) {
       const auto piece = std::min(static_cast<std::size_t>(waiting), dropped.size());
-      const ssize_t count = ::recv(Get(), dropped.data(), piece, MSG_DONTWAIT);
+      const ssize_t count = recv(Get(), dropped.data(), piece, MSG_DONTWAIT);
       // The end of the stream stays readable, so that the next read tells of it.
       if (count == 0) return true;
       if (count < 0 && errno != EINTR) return errno == EAGAIN;
@@ -44,55 +43,57 @@ class TcpStream final : public DescriptorStream {
   std::ptrdiff_t WriteSome(std::span<const std::byte> data) override {
     // The system would take bytes for a peer that has gone and tell of it only later.
     pollfd peer{Get(), POLLRDHUP, 0};
-    if (::poll(&peer, 1, 0) > 0) {
+    if (poll(&peer, 1, 0) > 0) {
       errno = EPIPE;
       return -1;
     }
-    return ::send(Get(), data.data(), data.size(), MSG_NOSIGNAL);
+    return send(Get(), data.data(), data.size(), MSG_NOSIGNAL);
   }
 };
 
 // True when the connection stands before `deadline`.
-bool Connect(int descriptor, const addrinfo& address, Clock::time_point deadline) {
-  if (::connect(descriptor, address.ai_addr, address.ai_addrlen) == 0) return true;
+bool Connect(int descriptor, const addrinfo& address, SteadyClock::time_point deadline) {
+  if (connect(descriptor, address.ai_addr, address.ai_addrlen) == 0) return true;
   if (errno != EINPROGRESS && errno != EINTR) return false;
   pollfd connecting{descriptor, POLLOUT, 0};
   for (;;) {
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - SteadyClock::now());
     const int count =
-        ::poll(&connecting, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
+        poll(&connecting, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
     if (count == 0) return false;
     if (count > 0) break;
     if (errno != EINTR) return false;
   }
   int error = 0;
   socklen_t size = sizeof(error);
-  return ::getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
+  return getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
 }
 
 struct FreeAddresses {
-  void operator()(addrinfo* addresses) const { ::freeaddrinfo(addresses); }
+  void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
 };
 
 }  // namespace
 
-std::unique_ptr<ByteStream> OpenTcp(const TcpAddress& address) {
-  const auto deadline = Clock::now() + std::chrono::milliseconds(kConnectLimitMs);
+std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
+                                       std::uint32_t limitMs) {
+  const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
   addrinfo hints{};
   hints.ai_socktype = SOCK_STREAM;
   addrinfo* found = nullptr;
-  if (::getaddrinfo(address.host.c_str(), address.service.c_str(), &hints, &found) != 0) {
+  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0) {
     return nullptr;
   }
   const std::unique_ptr<addrinfo, FreeAddresses> addresses(found);
   for (const addrinfo* each = found; each; each = each->ai_next) {
-    Descriptor descriptor(::socket(each->ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!descriptor.IsValid() || !Connect(descriptor.Get(), *each, deadline)) continue;
+    UniqueDescriptor descriptor(
+        socket(each->ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    if (!descriptor || !Connect(descriptor.Get(), *each, deadline)) continue;
     const int on = 1;
-    ::setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
     return std::make_unique<TcpStream>(std::move(descriptor));
   }
   return nullptr;
 }
 
-}  // namespace cassorind
+}  // namespace merovane::platform

@@ -1,13 +1,11 @@
-#include <windows.h>
-
 #include <algorithm>
-#include <mutex>
+#include <utility>
 
-#include "byte_stream.h"
-#include "win32/overlapped_transfer.h"
+#include "platform/byte_stream.h"
+#include "platform/mutex.h"
+#include "platform/win32/transfer.h"
 
-namespace cassorind {
-
+namespace merovane::platform {
 namespace {
 
 using Outcome = OverlappedTransfer::Outcome;
@@ -18,41 +16,39 @@ constexpr std::uint32_t kWaitingBytesLimitMs = 20;
 
 class SerialPort final : public ByteStream {
  public:
-  SerialPort(HANDLE device, std::uint32_t baudRate) : device_(device), baudRate_(baudRate) {}
-  SerialPort(const SerialPort&) = delete;
-  SerialPort& operator=(const SerialPort&) = delete;
-  ~SerialPort() override { ::CloseHandle(device_); }
+  SerialPort(UniqueHandle device, std::uint32_t baudRate)
+      : device_(std::move(device)), baudRate_(baudRate) {}
 
   std::int32_t Read(std::span<std::byte> buffer, std::uint32_t timeLimitMs,
-                    const companions::StopSignal& stop) override;
-  std::size_t Write(std::span<const std::byte> data, const companions::StopSignal& stop) override;
-  bool Clear() override { return ::PurgeComm(device_, PURGE_RXCLEAR) != 0; }
+                    const Event& stop) override;
+  std::size_t Write(std::span<const std::byte> data, const Event& stop) override;
+  bool Clear() override { return PurgeComm(device_.get(), PURGE_RXCLEAR) != 0; }
 
  private:
   // kDeviceGone when the device cannot be asked any more.
   std::int64_t WaitingBytes() {
     DWORD errors = 0;
     COMSTAT state{};
-    if (!::ClearCommError(device_, &errors, &state)) return kDeviceGone;
+    if (!ClearCommError(device_.get(), &errors, &state)) return kDeviceGone;
     return state.cbInQue;
   }
 
-  const HANDLE device_;
+  const UniqueHandle device_;
   const std::uint32_t baudRate_;
-  std::mutex readMutex_;
-  OverlappedTransfer reading_;
+  Mutex readMutex_;
+  OverlappedTransfer reading_ MEROVANE_GUARDED_BY(readMutex_);
   OverlappedTransfer writing_;
 };
 
 // The driver's own time-outs are off, since systems differ in them. A read of one byte ends
 // with that byte everywhere, and one of no more than what is waiting ends at once.
 std::int32_t SerialPort::Read(std::span<std::byte> buffer, std::uint32_t timeLimitMs,
-                              const companions::StopSignal& stop) {
-  std::lock_guard lock(readMutex_);
+                              const Event& stop) {
+  const MutexLock lock(readMutex_);
   std::size_t count = 0;
   std::int64_t waiting = WaitingBytes();
   if (waiting == 0) {
-    const auto first = reading_.Read(device_, buffer.first(1), timeLimitMs, stop);
+    const auto first = reading_.Read(device_.get(), buffer.first(1), timeLimitMs, stop);
     if (first.outcome == Outcome::TimeLimit || first.outcome == Outcome::Stopped) return 0;
     if (first.outcome == Outcome::Failed || first.bytes == 0) return kDeviceGone;
     count = first.bytes;
@@ -63,17 +59,17 @@ std::int32_t SerialPort::Read(std::span<std::byte> buffer, std::uint32_t timeLim
       count, std::min<std::size_t>(buffer.size() - count,
                                    static_cast<std::size_t>(std::max<std::int64_t>(waiting, 0))));
   // They are there already, unless another thread clears them at this moment.
-  if (!rest.empty()) count += reading_.Read(device_, rest, kWaitingBytesLimitMs, stop).bytes;
+  if (!rest.empty()) count += reading_.Read(device_.get(), rest, kWaitingBytesLimitMs, stop).bytes;
   return static_cast<std::int32_t>(count);
 }
 
-std::size_t SerialPort::Write(std::span<const std::byte> data, const companions::StopSignal& stop) {
+std::size_t SerialPort::Write(std::span<const std::byte> data, const Event& stop) {
   std::size_t written = 0;
   while (written < data.size() && !stop.IsSet()) {
     const auto piece = data.subspan(written, std::min(kWritePiece, data.size() - written));
     // A start bit, 8 data bits and a stop bit; the system may finish only when they are sent.
     const auto sendMs = static_cast<std::uint32_t>(piece.size() * 10 * 1000 / baudRate_);
-    const auto result = writing_.Write(device_, piece, kWriteStallMs + sendMs, stop);
+    const auto result = writing_.Write(device_.get(), piece, kWriteStallMs + sendMs, stop);
     written += result.bytes;
     if (result.outcome != Outcome::Done || result.bytes == 0) break;
   }
@@ -84,7 +80,7 @@ std::size_t SerialPort::Write(std::span<const std::byte> data, const companions:
 bool SetUp(HANDLE device, std::uint32_t baudRate) {
   DCB settings{};
   settings.DCBlength = sizeof(settings);
-  if (!::GetCommState(device, &settings)) return false;
+  if (!GetCommState(device, &settings)) return false;
   settings = {};
   settings.DCBlength = sizeof(settings);
   settings.BaudRate = baudRate;
@@ -95,23 +91,22 @@ bool SetUp(HANDLE device, std::uint32_t baudRate) {
   settings.Parity = NOPARITY;
   settings.StopBits = ONESTOPBIT;
   COMMTIMEOUTS none{};
-  ::SetupComm(device, kQueueBytes, kQueueBytes);
-  return ::SetCommState(device, &settings) && ::SetCommTimeouts(device, &none) &&
-         ::PurgeComm(device, PURGE_RXCLEAR);
+  SetupComm(device, kQueueBytes, kQueueBytes);
+  return SetCommState(device, &settings) && SetCommTimeouts(device, &none) &&
+         PurgeComm(device, PURGE_RXCLEAR);
 }
 
 }  // namespace
 
-std::unique_ptr<ByteStream> OpenSerial(const SerialDevice& device, std::uint32_t baudRate) {
+std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate) {
   if (baudRate == 0 || baudRate > kMaxBaudRate) return nullptr;
-  const HANDLE handle = ::CreateFileA(device.name.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
-                                      OPEN_EXISTING, FILE_FLAG_OVERLAPPED, nullptr);
-  if (handle == INVALID_HANDLE_VALUE) return nullptr;
-  if (!SetUp(handle, baudRate)) {
-    ::CloseHandle(handle);
-    return nullptr;
-  }
-  return std::make_unique<SerialPort>(handle, baudRate);
+  // The device name space, without which names above COM9 are not found.
+  const std::string path = name.starts_with(R"(\\)") ? name : R"(\\.\)" + name;
+  UniqueHandle device =
+      FileHandle(CreateFileW(WideFromNarrow(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
+                             OPEN_EXISTING, FILE_FLAG_OVERLAPPED, nullptr));
+  if (!device || !SetUp(device.get(), baudRate)) return nullptr;
+  return std::make_unique<SerialPort>(std::move(device), baudRate);
 }
 
-}  // namespace cassorind
+}  // namespace merovane::platform

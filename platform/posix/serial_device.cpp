@@ -6,10 +6,9 @@
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include "posix/descriptor_stream.h"
+#include "platform/posix/transfer.h"
 
-namespace cassorind {
-
+namespace merovane::platform {
 namespace {
 
 class SerialPort final : public DescriptorStream {
@@ -17,20 +16,20 @@ class SerialPort final : public DescriptorStream {
   using DescriptorStream::DescriptorStream;
   ~SerialPort() override {
     // Would outlast this open while another process keeps the device open.
-    ::ioctl(Get(), TIOCNXCL);
+    ioctl(Get(), TIOCNXCL);
   }
-  bool Clear() override { return ::ioctl(Get(), TCFLSH, TCIFLUSH) == 0; }
+  bool Clear() override { return ioctl(Get(), TCFLSH, TCIFLUSH) == 0; }
 
  private:
   std::ptrdiff_t WriteSome(std::span<const std::byte> data) override {
-    return ::write(Get(), data.data(), data.size());
+    return write(Get(), data.data(), data.size());
   }
 };
 
 // 8 data bits, no parity, 1 stop bit, nothing interpreted, no flow control.
 bool SetUp(int descriptor, std::uint32_t baudRate) {
   termios2 settings{};
-  if (::ioctl(descriptor, TCGETS2, &settings) != 0) return false;
+  if (ioctl(descriptor, TCGETS2, &settings) != 0) return false;
   settings.c_iflag = 0;
   settings.c_oflag = 0;
   settings.c_lflag = 0;
@@ -41,27 +40,27 @@ bool SetUp(int descriptor, std::uint32_t baudRate) {
   settings.c_cc[VTIME] = 0;
   settings.c_ispeed = baudRate;
   settings.c_ospeed = baudRate;
-  if (::ioctl(descriptor, TCSETS2, &settings) != 0) return false;
+  if (ioctl(descriptor, TCSETS2, &settings) != 0) return false;
 
   // A driver that cannot do the rate says so only by what it set instead.
   termios2 granted{};
-  if (::ioctl(descriptor, TCGETS2, &granted) != 0) return false;
+  if (ioctl(descriptor, TCGETS2, &granted) != 0) return false;
   const std::uint32_t tolerance = baudRate / 32;
   return granted.c_ospeed >= baudRate - tolerance && granted.c_ospeed <= baudRate + tolerance;
 }
 
 }  // namespace
 
-std::unique_ptr<ByteStream> OpenSerial(const SerialDevice& device, std::uint32_t baudRate) {
+std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate) {
   if (baudRate == 0 || baudRate > kMaxBaudRate) return nullptr;
-  Descriptor descriptor(::open(device.name.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
-  if (!descriptor.IsValid()) return nullptr;
+  UniqueDescriptor descriptor(open(name.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
+  if (!descriptor) return nullptr;
   // The lock keeps out a second channel even with rights that pass exclusive mode.
-  if (::flock(descriptor.Get(), LOCK_EX | LOCK_NB) != 0) return nullptr;
+  if (flock(descriptor.Get(), LOCK_EX | LOCK_NB) != 0) return nullptr;
   if (!SetUp(descriptor.Get(), baudRate)) return nullptr;
-  ::ioctl(descriptor.Get(), TIOCEXCL);
-  ::ioctl(descriptor.Get(), TCFLSH, TCIFLUSH);
+  ioctl(descriptor.Get(), TIOCEXCL);
+  ioctl(descriptor.Get(), TCFLSH, TCIFLUSH);
   return std::make_unique<SerialPort>(std::move(descriptor));
 }
 
-}  // namespace cassorind
+}  // namespace merovane::platform
