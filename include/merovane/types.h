@@ -7,6 +7,8 @@
 
 #include <stdint.h>
 
+#include "annotations.h"
+
 #if defined(_WIN32)
 #define MEROVANE_CALL __stdcall
 #if defined(MEROVANE_BUILD)
@@ -19,6 +21,37 @@
 #define MEROVANE_CALL
 #define MEROVANE_API __attribute__((visibility("default")))
 #endif
+
+/** The bands of a handset, as its commands number them. */
+typedef enum QV_BAND {
+  QV_BAND_GSM = 0,
+  QV_BAND_DCS = 1,
+  QV_BAND_PCS = 3,
+  QV_BAND_GSM850 = 4
+} QV_BAND;
+
+/** The bands of an NV project, as its AGC and APC functions number them. */
+typedef enum QV_NV_BAND {
+  QV_NV_BAND_GSM = 0,
+  QV_NV_BAND_GSM850 = 1,
+  QV_NV_BAND_DCS = 2,
+  QV_NV_BAND_PCS = 3
+} QV_NV_BAND;
+
+/** What QV_ChangeGSMTDCalMode and QV_InitGSMTDCalMode can ask for. */
+typedef enum QV_CALIBRATION_MODE {
+  QV_CALIBRATION_MODE_GSM = 1,
+  QV_CALIBRATION_MODE_TD = 7
+} QV_CALIBRATION_MODE;
+
+/** The properties of QV_SetProperty and QV_GetProperty. */
+typedef enum QV_PROPERTY {
+  QV_PROPERTY_USEFUL_LOG = 0,
+  QV_PROPERTY_SAVE_RECEIVED_DATA = 1,
+  QV_PROPERTY_CHANNEL_SERVER = 2,
+  QV_PROPERTY_RECEIVE_MODE = 3,
+  QV_PROPERTY_BIG_ENDIAN = 4
+} QV_PROPERTY;
 
 /** An event of the caller's: a Win32 event handle on Windows, elsewhere an eventfd descriptor. 0
  * and, elsewhere than on Windows, negative values count as null. */

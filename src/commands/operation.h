@@ -20,20 +20,20 @@ inline constexpr std::size_t kMaxPayloadBytes =
 // its name once its arguments are checked; and returns what Finish gives back.
 class Operation {
  public:
-  Operation(Phone& phone, std::uint32_t id) : link_(phone.link) { link_.BeginOperation(id); }
+  Operation(Phone& ofPhone, std::uint32_t id) : Operation(ofPhone) { link.BeginOperation(id); }
   // For the few commands that have no id: results go by the id recorded before.
-  explicit Operation(Phone& phone) : link_(phone.link) {}
+  explicit Operation(Phone& ofPhone) : phone(ofPhone), link(ofPhone.link) {}
 
-  void Log(std::string_view name) { link_.LogLine(name); }
+  void Log(std::string_view name) { link.LogLine(name); }
 
   // Logs the result and gives it back.
   [[nodiscard]] Result Finish(Result result) {
-    link_.LogResult(result);
+    link.LogResult(result);
     return result;
   }
 
- private:
-  PhoneLink& link_;
+  Phone& phone;
+  PhoneLink& link;
 };
 
 }  // namespace merovane::commands

@@ -45,4 +45,22 @@ std::int32_t OnPhone(std::int32_t port, Command&& command) noexcept {
   return Reported(Guarded([&] { return command(*phone); }));
 }
 
+// Commands on the phone object's NV project, which get what holds it; their results are reported
+// under the operation's id.
+template <typename Command>
+std::int32_t OnProjectOf(std::int32_t port, std::uint32_t operation, Command&& command) noexcept {
+  return OnPhone(port, [&](PhoneObject& phone) {
+    TheLibrary().settings.errors.BeginOperation(operation);
+    return command(phone.project);
+  });
+}
+
+template <typename Command>
+std::int32_t OnDefaultProject(std::uint32_t operation, Command&& command) noexcept {
+  return OnDefaultPhone([&](PhoneObject& phone) {
+    TheLibrary().settings.errors.BeginOperation(operation);
+    return command(phone.project);
+  });
+}
+
 }  // namespace merovane::library

@@ -12,7 +12,7 @@ struct ResultText {
 
 constexpr std::array kResultTexts = {
 #define RESULT(code, name, publicName, meaning) ResultText{publicName, meaning},
-#include "link/result_codes.def"
+#include "api/result_codes.def"
 #undef RESULT
 };
 static_assert(kResultTexts.size() == 40);

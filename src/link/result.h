@@ -9,7 +9,7 @@ namespace merovane {
 
 enum class Result : std::int32_t {
 #define RESULT(code, name, publicName, meaning) name = code,
-#include "link/result_codes.def"
+#include "api/result_codes.def"
 #undef RESULT
 };
 

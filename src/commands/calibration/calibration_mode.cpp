@@ -1,7 +1,7 @@
 // Changing between the calibration modes, activation, the band.
 #include <string_view>
 
-#include "commands/calibration/calibration_items.h"
+#include "commands/argument_checks.h"
 #include "commands/calibration/calibration_message.h"
 #include "commands/calibration/data_command.h"
 #include "commands/calibration/gsm.h"

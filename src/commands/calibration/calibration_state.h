@@ -16,13 +16,15 @@ struct WrittenFactor {
   friend bool operator==(const WrittenFactor&, const WrittenFactor&) = default;
 };
 
-inline constexpr std::size_t kMultiChipFactors = 0
-#define MULTI_CHIP_FACTOR(name, operation, itemName, storage, band) +1
-#define MULTI_CHIP_RAMP(storage, write, read)
-#include "commands/calibration/multi_chip_data.def"
-#undef MULTI_CHIP_FACTOR
-#undef MULTI_CHIP_RAMP
-    ;
+// The factors that multi-chip handsets take as calibration data.
+enum class MultiChipFactor {
+  RampPower,
+  Flash8PskPower,
+  Ram8PskPower,
+  Flash8PskTxGain,
+  Ram8PskTxGain,
+};
+inline constexpr std::size_t kMultiChipFactors = 5;
 
 struct TransmitParameters {
   std::uint32_t first = 0;

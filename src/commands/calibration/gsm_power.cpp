@@ -3,7 +3,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "commands/calibration/calibration_items.h"
+#include "commands/argument_checks.h"
 #include "commands/calibration/calibration_message.h"
 #include "commands/calibration/gsm.h"
 #include "commands/operation.h"

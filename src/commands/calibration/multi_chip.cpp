@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdio>
 
+#include "commands/argument_checks.h"
 #include "commands/calibration/agc_log.h"
 #include "commands/calibration/data_command.h"
 #include "commands/calibration/radio_steps.h"

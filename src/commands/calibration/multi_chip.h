@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "commands/calibration/calibration_items.h"
 #include "commands/phone.h"
 #include "link/result.h"
 #include "merovane/types.h"

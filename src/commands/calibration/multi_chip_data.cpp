@@ -1,82 +1,87 @@
 #include "commands/calibration/multi_chip_data.h"
 
-#include <span>
+#include <array>
 #include <utility>
 
 #include "commands/calibration/calibration_items.h"
-#include "commands/operation.h"
+#include "declared/calibration_items.h"
 
 namespace merovane::commands {
 namespace {
 
-constexpr std::size_t kRampBytes = 32;
+enum class FactorBand { Current, Record };
+
+struct FactorItem {
+  std::uint16_t item;
+  Storage storage;
+  FactorBand band;
+};
+
+// In the order of MultiChipFactor.
+constexpr std::array<FactorItem, kMultiChipFactors> kFactorItems{{
+    {items::APC_RF_ramppwr_step_factor.item, Storage::Ram, FactorBand::Current},
+    {items::APC_RF_ramppwr_step_factor_8Psk.item, Storage::Flash, FactorBand::Record},
+    {items::APC_RF_ramppwr_step_factor_8Psk.item, Storage::Ram, FactorBand::Record},
+    {items::TxGain_8PSK.item, Storage::Flash, FactorBand::Record},
+    {items::TxGain_8PSK.item, Storage::Ram, FactorBand::Record},
+}};
 
 struct RampPair {
   DataAddress first;
   DataAddress second;
 };
 
-RampPair PairOf(const MultiChipRamp& ramp, std::uint32_t flag, std::uint32_t band) {
+RampPair PairOf(Storage storage, std::uint32_t flag, std::uint32_t band) {
   const auto bandWord = static_cast<std::uint16_t>(band);
   const auto [first, second] =
       flag ? std::pair{items::RampTableConstUp.item, items::RampUpParamNum.item}
            : std::pair{items::RampTable.item, items::RampTableConstDown.item};
-  return {{ramp.storage, bandWord, first, 0}, {ramp.storage, bandWord, second, 0}};
+  return {{storage, bandWord, first, 0}, {storage, bandWord, second, 0}};
 }
 
-// Levels count from 5 in the bands 0 and 4.
-std::uint16_t LevelBase(std::uint32_t band) { return band == 0 || band == 4 ? 5 : 0; }
+// Levels count from 5 in GSM and GSM850.
+std::uint16_t LevelBase(std::uint32_t band) {
+  return band == QV_BAND_GSM || band == QV_BAND_GSM850 ? 5 : 0;
+}
 
 }  // namespace
 
-Result SetMultiChipFactor(Phone& phone, const MultiChipFactor& factor, const QV_POWER_STEP* step) {
-  Operation operation(phone, factor.operation);
-  if (!step || (factor.band == FactorBand::Record && !IsBand(step->first))) {
-    return Result::InvalidParam;
-  }
-  operation.Log(factor.logName);
-  const WrittenFactor wanted{step->third, step->fourth, step->second};
-  auto& last = phone.calibration.lastFactors[factor.cache];
+Result SetMultiChipFactor(Operation& operation, MultiChipFactor factor, const QV_POWER_STEP& step) {
+  const FactorItem& item = kFactorItems[static_cast<std::size_t>(factor)];
+  CalibrationState& state = operation.phone.calibration;
+  const WrittenFactor wanted{step.third, step.fourth, step.second};
+  auto& last = state.lastFactors[static_cast<std::size_t>(factor)];
   if (last == wanted) return operation.Finish(Result::Success);
 
-  const std::uint32_t offset = (wanted.index << 4) + wanted.level - LevelBase(step->first);
-  const auto band = factor.band == FactorBand::Record ? static_cast<std::uint16_t>(step->first)
-                                                      : phone.calibration.currentBand;
+  const std::uint32_t offset = (wanted.index << 4) + wanted.level - LevelBase(step.first);
+  const auto band =
+      item.band == FactorBand::Record ? static_cast<std::uint16_t>(step.first) : state.currentBand;
   const Result result =
-      WriteWord(phone.link, {factor.storage, band, factor.item, static_cast<std::uint16_t>(offset)},
+      WriteWord(operation.link, {item.storage, band, item.item, static_cast<std::uint16_t>(offset)},
                 wanted.value);
   if (Succeeded(result)) last = wanted;
   return operation.Finish(result);
 }
 
-Result WriteMultiChipRamp(Phone& phone, const MultiChipRamp& ramp, std::uint32_t flag,
-                          const std::uint16_t* first, const std::uint16_t* second,
-                          std::uint32_t band) {
-  Operation operation(phone, ramp.writeOperation);
-  if (!first || !second || !IsBand(band)) return Result::InvalidParam;
-  operation.Log(ramp.writeLogName);
-  const RampPair pair = PairOf(ramp, flag, band);
-  const auto write = [&](const DataAddress& address, const std::uint16_t* table) {
-    return WriteData(phone.link, address,
-                     {reinterpret_cast<const std::uint8_t*>(table), kRampBytes}, Element::U16);
-  };
-  Result result = write(pair.first, first);
-  if (Succeeded(result)) result = write(pair.second, second);
+Result WriteMultiChipRamp(Operation& operation, Storage storage, std::uint32_t flag,
+                          std::span<const std::uint16_t, kRampPoints> first,
+                          std::span<const std::uint16_t, kRampPoints> second, std::uint32_t band) {
+  const RampPair pair = PairOf(storage, flag, band);
+  Result result = WriteData(operation.link, pair.first, BytesOf(first), Element::U16);
+  if (Succeeded(result)) {
+    result = WriteData(operation.link, pair.second, BytesOf(second), Element::U16);
+  }
   return operation.Finish(result);
 }
 
-Result ReadMultiChipRamp(Phone& phone, const MultiChipRamp& ramp, std::uint32_t flag,
-                         std::uint16_t* first, std::uint16_t* second, std::uint32_t band) {
-  Operation operation(phone, ramp.readOperation);
-  if (!first || !second || !IsBand(band)) return Result::InvalidParam;
-  operation.Log(ramp.readLogName);
-  const RampPair pair = PairOf(ramp, flag, band);
-  const auto read = [&](const DataAddress& address, std::uint16_t* table) {
-    return ReadData(phone.link, address, {reinterpret_cast<std::uint8_t*>(table), kRampBytes},
-                    Element::U16);
-  };
-  Result result = read(pair.first, first);
-  if (Succeeded(result)) result = read(pair.second, second);
+Result ReadMultiChipRamp(Operation& operation, Storage storage, std::uint32_t flag,
+                         std::span<std::uint16_t, kRampPoints> first,
+                         std::span<std::uint16_t, kRampPoints> second, std::uint32_t band) {
+  const RampPair pair = PairOf(storage, flag, band);
+  Result result = ReadData(operation.link, pair.first, BytesOf(first), Element::U16);
+  if (Succeeded(result)) {
+    result = ReadData(operation.link, pair.second, BytesOf(second), Element::U16);
+  }
   return operation.Finish(result);
 }
 

@@ -3,8 +3,9 @@
 #include <array>
 #include <string_view>
 
-#include "commands/calibration/calibration_items.h"
+#include "commands/argument_checks.h"
 #include "commands/calibration/data_command.h"
+#include "declared/calibration_items.h"
 #include "link/byte_order.h"
 
 namespace merovane::commands::steps {

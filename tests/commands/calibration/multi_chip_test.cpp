@@ -1,8 +1,8 @@
 #include "commands/calibration/multi_chip.h"
 
 #include "commands/calibration/calibration_fixture.h"
-#include "commands/calibration/multi_chip_data.h"
 #include "commands/calibration/radio_steps.h"
+#include "declared/multi_chip_data.h"
 
 namespace merovane::test {
 namespace {
@@ -220,8 +220,7 @@ TEST_F(MultiChipData, PowerFactorGoesToItsLevelsPlace) {
                                        {QV_POWER_STEP{2, 15, 0x0BCD, 2}, 47U}}) {
       static_cast<void>(Log());
       ExpectWrite(Header({0, 3, 21, offset, 2}).U16(0x0BCD));
-      EXPECT_EQ(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, &step),
-                Result::Success);
+      EXPECT_EQ(PwrStepFactorSet_MChip(phone, &step), Result::Success);
       ExpectLogged("PwrStepFactorSet_MChip:");
       EXPECT_EQ(OperationOf(Result::Success), 70U);
     }
@@ -231,23 +230,22 @@ TEST_F(MultiChipData, PowerFactorGoesToItsLevelsPlace) {
 TEST_F(MultiChipData, FactorsAreWrittenOnceEachToItsOwnPlace) {
   const QV_POWER_STEP step{1, 0, 0, 0};
   const QV_POWER_STEP wrongBand{2, 0, 0, 0};
-  const auto expectOnce = [&](const MultiChipFactor& factor, unsigned storage, unsigned item,
-                              std::uint32_t operation) {
-    SCOPED_TRACE(factor.logName);
+  const auto expectOnce = [&](Result (*factor)(Phone&, const QV_POWER_STEP*), unsigned storage,
+                              unsigned item, std::uint32_t operation) {
+    SCOPED_TRACE(operation);
     // A failed write is repeated, a good one not; zeros are a value as any other.
     handset.ExpectAnyPayload(32, 0).Silent();
-    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::NoAnswer);
+    EXPECT_EQ(factor(phone, &step), Result::NoAnswer);
     EXPECT_EQ(OperationOf(Result::NoAnswer), operation);
     ExpectWrite(Header({storage, 1, item, 0, 2}).U16(0));
-    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::Success);
-    EXPECT_EQ(SetMultiChipFactor(phone, factor, &step), Result::Success);
-    ExpectRefused(operation, CALL(SetMultiChipFactor(phone, factor, nullptr)),
-                  CALL(SetMultiChipFactor(phone, factor, &wrongBand)));
+    EXPECT_EQ(factor(phone, &step), Result::Success);
+    EXPECT_EQ(factor(phone, &step), Result::Success);
+    ExpectRefused(operation, CALL(factor(phone, nullptr)), CALL(factor(phone, &wrongBand)));
   };
-  expectOnce(multi_chip::Set_Flash_8PSK_PWR_FACTOR_MChip, 1, 36, 228);
-  expectOnce(multi_chip::Set_Ram_8PSK_PWR_FACTOR_MChip, 0, 36, 229);
-  expectOnce(multi_chip::Set_Ram_8PSK_PWR_TX_GAIN_MChip, 0, 37, 241);
-  ExpectRefused(70, CALL(SetMultiChipFactor(phone, multi_chip::PwrStepFactorSet_MChip, nullptr)));
+  expectOnce(Set_Flash_8PSK_PWR_FACTOR_MChip, 1, 36, 228);
+  expectOnce(Set_Ram_8PSK_PWR_FACTOR_MChip, 0, 36, 229);
+  expectOnce(Set_Ram_8PSK_PWR_TX_GAIN_MChip, 0, 37, 241);
+  ExpectRefused(70, CALL(PwrStepFactorSet_MChip(phone, nullptr)));
 }
 
 TEST_F(MultiChipData, RampsComeInPairs) {
@@ -256,8 +254,7 @@ TEST_F(MultiChipData, RampsComeInPairs) {
     GuardedBuffer<std::uint16_t> second(16);
     ExpectRead(Header({1, 3, 9, 0, 32}), ReadAnswer().U16(0x1234).Zeros(40));
     ExpectRead(Header({1, 3, 11, 0, 32}), ReadAnswer().U16(0x5678));
-    EXPECT_EQ(ReadMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, first.Data(), second.Data(), 3),
-              Result::Success);
+    EXPECT_EQ(ReadRamp_Flash_MChip(phone, 1, first.Data(), second.Data(), 3), Result::Success);
     EXPECT_EQ(OperationOf(Result::Success), 140U);
     EXPECT_EQ(first[0], 0x1234);
     EXPECT_EQ(first[15], 0);
@@ -269,18 +266,15 @@ TEST_F(MultiChipData, RampsComeInPairs) {
     static_cast<void>(Log());
     ExpectWrite(Header({0, 4, 8, 0, 32}).U16(0x0102).U16(2).Zeros(28));
     ExpectWrite(Header({0, 4, 10, 0, 32}).U16(0x0304).U16(4).Zeros(28));
-    EXPECT_EQ(WriteMultiChipRamp(phone, multi_chip::Ramp_Ram, 0, up.data(), down.data(), 4),
-              Result::Success);
+    EXPECT_EQ(RampSetting_Ram_MChip(phone, 0, up.data(), down.data(), 4), Result::Success);
     EXPECT_EQ(LogText().front(), "RampSetting_Ram_MChip:");
     ExpectWriteRefused();
-    EXPECT_EQ(WriteMultiChipRamp(phone, multi_chip::Ramp_Flash, 1, up.data(), down.data(), 4),
-              Result::Refused);
+    EXPECT_EQ(RampSetting_Flash_MChip(phone, 1, up.data(), down.data(), 4), Result::Refused);
   });
   std::uint16_t table[16] = {};
-  using multi_chip::Ramp_Flash, multi_chip::Ramp_Ram;
-  ExpectRefused(138, CALL(ReadMultiChipRamp(phone, Ramp_Ram, 1, nullptr, table, 0)));
-  ExpectRefused(137, CALL(WriteMultiChipRamp(phone, Ramp_Ram, 1, table, nullptr, 0)));
-  ExpectRefused(139, CALL(WriteMultiChipRamp(phone, Ramp_Flash, 1, table, table, 2)));
+  ExpectRefused(138, CALL(ReadRamp_Ram_MChip(phone, 1, nullptr, table, 0)));
+  ExpectRefused(137, CALL(RampSetting_Ram_MChip(phone, 1, table, nullptr, 0)));
+  ExpectRefused(139, CALL(RampSetting_Flash_MChip(phone, 1, table, table, 2)));
 }
 
 }  // namespace

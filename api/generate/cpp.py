@@ -1,0 +1,304 @@
+"""The C++ faces: prototypes that bodies must match, what comes ahead of each body, the exported functions."""
+from model import BANDS, camel
+
+MADE = "// Made by api/generate from api/exports/*.api.\n"
+
+
+def namespace_of(kind):
+    return {"command": "merovane::commands", "project": "merovane::nvproject", "session": "merovane::library"}[kind]
+
+
+def subject(declaration):
+    """What a command works on, ahead of the caller's arguments."""
+    if declaration.kind == "command":
+        return ["Phone& phone"]
+    if declaration.kind == "project":
+        holder = ["std::unique_ptr<CFileParser>& holder"] if "holder" in declaration.flags else ["CFileParser* project"]
+        return holder + (["const ImageContext& context"] if "image" in declaration.flags else [])
+    return []
+
+
+def returned(declaration):
+    if declaration.kind == "session":
+        return "void" if declaration.returns == "void" else "std::int32_t"
+    return "Result"
+
+
+def prototype(declaration):
+    parameters = subject(declaration) + [argument.cpp_parameter() for argument in declaration.arguments]
+    return f"{returned(declaration)} {declaration.name}({', '.join(parameters)})"
+
+
+# ---- What a body gets: checked arguments ----
+
+def view_type(argument):
+    """The type that the body sees; None where it is the caller's own."""
+    constant = "const " if argument.direction == "in" else ""
+    if argument.type == "flag" and not argument.is_pointer:
+        return "bool"
+    if not argument.is_pointer or argument.type == "text":
+        return None
+    element = constant + argument.cpp_element
+    if argument.extent:
+        fixed = argument.fixed_extent is not None and not argument.may_be_null
+        return f"std::span<{element}, {argument.extent}>" if fixed else f"std::span<{element}>"
+    return f"{element}*" if argument.may_be_null else f"{element}&"
+
+
+def body_parameters(declaration):
+    if declaration.kind == "command":
+        parameters = ["Operation& operation"]
+    elif "holder" in declaration.flags:
+        parameters = ["std::unique_ptr<CFileParser>& holder"]
+    else:
+        parameters = ["CFileParser& project"] + (["const ImageContext& context"] if "image" in declaration.flags else [])
+    for argument in declaration.arguments:
+        if declaration.counts(argument):
+            continue
+        kind = view_type(argument)
+        parameters.append(f"{kind} {camel(argument.name)}" if kind else argument.cpp_parameter())
+    return parameters
+
+
+def body_prototype(declaration):
+    return f"Result {declaration.name}({', '.join(body_parameters(declaration))})"
+
+
+def is_wrapped(argument):
+    kind = view_type(argument)
+    return kind is not None and kind != "bool" and not kind.endswith("*")
+
+
+def raw_name(argument):
+    return camel(argument.name) + ("At" if is_wrapped(argument) else "")
+
+
+def refusals(declaration):
+    """(condition in C++ under which the arguments are refused)"""
+    found = []
+    for argument in declaration.arguments:
+        guard = f"({argument.when}) && " if argument.when else ""
+        name = raw_name(argument)
+        if argument.is_pointer and not argument.optional:
+            found.append(f"{guard}!{name}" if not guard else f"({guard}!{name})")
+        value = f"*{name}" if argument.is_pointer else name
+        if argument.type == "band":
+            outside = f"!IsBand({value})"
+        elif argument.one_of:
+            outside = f"!IsOneOf({value}, {{{', '.join(map(str, argument.one_of))}}})"
+        else:
+            bounds = []
+            if argument.low is not None and (argument.low > 0 or argument.type == "i32"):
+                bounds.append(f"{value} < {argument.low}")
+            if argument.high is not None:
+                bounds.append(f"{value} > {argument.high}")
+            outside = " || ".join(bounds)
+        if outside:
+            found.append(f"({guard}({outside}))" if guard else outside)
+    return found
+
+
+def views(declaration):
+    lines = []
+    for argument in declaration.arguments:
+        kind, name = view_type(argument), camel(argument.name)
+        if not is_wrapped(argument):
+            continue
+        raw = raw_name(argument)
+        if kind.endswith("&"):
+            lines.append(f"  {kind} {name} = *{raw};\n")
+            continue
+        pointer = raw if argument.type != "bytes" else f"static_cast<{kind[10:-1].split(',')[0]}*>({raw})"
+        extent = argument.extent
+        for other in declaration.arguments:
+            if extent.lstrip("*") == other.name:
+                starred = extent.startswith("*")
+                extent = ("*" if starred else "") + (raw_name(other) if starred else camel(other.name))
+        if argument.fixed_extent is None:
+            extent = f"static_cast<std::size_t>({as_cpp(extent, declaration)})"
+        if argument.may_be_null:
+            there = raw if not argument.when else f"({argument.when}) && {raw}"
+            lines.append(f"  const {kind} {name} = {there} ? {kind}({pointer}, {extent}) : {kind}();\n")
+        else:
+            lines.append(f"  const {kind} {name}({pointer}, {extent});\n")
+    return lines
+
+
+def as_cpp(expression, declaration):
+    import re
+    for argument in declaration.arguments:
+        expression = re.sub(rf"(?<!\w){argument.name}(?!\w)", camel(argument.name), expression)
+    return expression
+
+
+def argument_for_body(argument):
+    name = camel(argument.name)
+    return f"{name} != 0" if view_type(argument) == "bool" else name
+
+
+def definition(declaration):
+    parameters = subject(declaration)
+    for argument in declaration.arguments:
+        parameter = argument.cpp_parameter()
+        parameters.append(parameter + "At" if is_wrapped(argument) else parameter)
+    out = [f"{returned(declaration)} {declaration.name}({', '.join(parameters)}) {{\n"]
+    if declaration.kind == "command":
+        operation = f", {declaration.operation}" if declaration.operation is not None else ""
+        out.append(f"  [[maybe_unused]] Operation operation(phone{operation});\n")
+    is_project = declaration.kind == "project" and "holder" not in declaration.flags
+    no_project = "  if (project == nullptr) return Result::NvProjectNotOpen;\n" if is_project else ""
+    if "project-first" in declaration.flags:
+        out.append(no_project)
+    conditions = refusals(declaration)
+    if conditions:
+        out.append(f"  if ({' || '.join(conditions)}) return Result::InvalidParam;\n")
+    out += views(declaration)
+    for condition, _ in declaration.requirements:
+        out.append(f"  if (!({condition})) return Result::InvalidParam;\n")
+    if "project-first" not in declaration.flags:
+        out.append(no_project)
+    if declaration.log:
+        out.append(f"  operation.Log({declaration.log});\n")
+    if declaration.runs:
+        call = declaration.runs
+    else:
+        first = {"command": ["operation"], "project": ["*project"]}[declaration.kind]
+        if "holder" in declaration.flags:
+            first = ["holder"]
+        elif "image" in declaration.flags:
+            first.append("context")
+        given = [argument_for_body(argument) for argument in declaration.arguments if not declaration.counts(argument)]
+        call = f"body::{declaration.name}({', '.join(first + given)})"
+    out.append(f"  return {call};\n}}\n\n")
+    return "".join(out)
+
+
+def units(api, kinds):
+    return list(dict.fromkeys(d.unit for d in api.declarations if d.kind in kinds))
+
+
+def in_unit(api, unit, kinds):
+    return [d for d in api.declarations if d.unit == unit and d.kind in kinds]
+
+
+STANDARD = "#include <cstddef>\n#include <cstdint>\n#include <memory>\n#include <span>\n\n"
+
+
+def declared_header(api, unit):
+    """What other code may call, and what bodies must match."""
+    if unit in api.legacy:
+        return MADE
+    kinds = [kind for kind in ("command", "project", "session") if in_unit(api, unit, (kind,))]
+    out = [MADE, "#pragma once\n\n", STANDARD]
+    if "command" in kinds:
+        out.append('#include "commands/operation.h"\n#include "commands/phone.h"\n')
+    if "project" in kinds:
+        out.append('#include "nvproject/file_parser.h"\n')
+    out.append('#include "link/result.h"\n#include "merovane/types.h"\n')
+    for kind in kinds:
+        declarations = in_unit(api, unit, (kind,))
+        out.append(f"\nnamespace {namespace_of(kind)} {{\n\n")
+        out += [prototype(d) + ";\n" for d in declarations]
+        bodies = [d for d in declarations if kind != "session" and not d.runs]
+        if bodies:
+            out.append("\n// Their arguments are checked and their names logged.\nnamespace body {\n\n")
+            out += [body_prototype(d) + ";\n" for d in bodies]
+            out.append("\n}  // namespace body\n")
+        if kind == "session":
+            out.append("\nnamespace operation_id {\n\n")
+            out += [f"inline constexpr std::uint32_t k{d.name} = {d.operation};\n" for d in declarations
+                    if d.operation is not None]
+            out.append("\n}  // namespace operation_id\n")
+        out.append(f"\n}}  // namespace {namespace_of(kind)}\n")
+    return "".join(out)
+
+
+def declared_source(api, unit):
+    if unit in api.legacy or not in_unit(api, unit, ("command", "project")):
+        return MADE
+    out = [MADE, f'#include "declared/{unit}.h"\n\n#include "commands/argument_checks.h"\n'
+           if in_unit(api, unit, ("command",)) else f'#include "declared/{unit}.h"\n']
+    out += [f'#include "{path}"\n' for path in api.includes[unit]]
+    for kind in ("command", "project"):
+        declarations = in_unit(api, unit, (kind,))
+        if declarations:
+            out.append(f"\nnamespace {namespace_of(kind)} {{\n\n")
+            out += [definition(d) for d in declarations]
+            out.append(f"}}  // namespace {namespace_of(kind)}\n")
+    return "".join(out)
+
+
+def legacy_call(export):
+    declaration = export.declaration
+    names = [camel(argument.name) for argument in declaration.arguments]
+    if declaration.kind == "command":
+        call = f"commands::{declaration.name}({', '.join(['phone'] + names)})"
+    else:
+        function = declaration.name.replace("_", "").replace("Bianry", "Binary").replace("VersionTD", "VersionTd")
+        project = "phone.project" if "holder" in declaration.flags else "phone.project.get()"
+        context = ["library::ImageContextNow()"] if "image" in declaration.flags else []
+        call = (f"library::RunProjectOperation({declaration.operation}, [&] {{ "
+                f"return nvproject::{function}({', '.join([project] + names + context)}); }})")
+    frame = "OnPhone(port, " if export.twin else "OnDefaultPhone("
+    return f"library::{frame}[&](auto& phone) {{ return {call}; }})"
+
+
+def call(export, legacy):
+    declaration = export.declaration
+    if declaration.unit in legacy and declaration.kind != "session":
+        return legacy_call(export)
+    names = [camel(argument.name) for argument in declaration.arguments]
+    if declaration.kind == "session":
+        return f"library::{declaration.name}({', '.join(names)})"
+    if declaration.kind == "command":
+        frame = "OnPhone(port, " if export.twin else "OnDefaultPhone("
+        return f"library::{frame}[&](auto& phone) {{ return commands::{declaration.name}({', '.join(['phone'] + names)}); }})"
+    frame = "OnProjectOf(port, " if export.twin else "OnDefaultProject("
+    first = ["holder"] if "holder" in declaration.flags else ["holder.get()"]
+    if "image" in declaration.flags:
+        first.append("library::ImageContextNow()")
+    return (f"library::{frame}{declaration.operation}, [&](auto& holder) "
+            f"{{ return nvproject::{declaration.name}({', '.join(first + names)}); }})")
+
+
+def exports_source(api):
+    out = [MADE, '#define MEROVANE_BUILD\n#include "merovane/merovane.h"\n\n#include "library/export_frame.h"\n']
+    for unit in units(api, ("command", "project", "session")):
+        out += [f'#include "{path}"\n' for path in api.includes[unit]] if unit in api.legacy else [f'#include "declared/{unit}.h"\n']
+    out.append('\nusing namespace merovane;\n\nextern "C" {\n\n')
+    for export in api.exports:
+        parameters = ", ".join(argument.cpp_parameter() for argument in export.arguments)
+        kind = "void" if export.declaration.returns == "void" else "std::int32_t"
+        out.append(f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n  return {call(export, api.legacy)};\n}}\n\n")
+    return "".join(out) + '}  // extern "C"\n'
+
+
+def items_header(api):
+    out = [MADE, "#pragma once\n\n#include <array>\n\n#include \"commands/calibration/calibration_item.h\"\n\n"
+           "namespace merovane::commands {\n\nnamespace items {\n\n"]
+    kinds = {"imei": "Imei", "commit": "Commit"}
+    for item in api.items:
+        element = {"u16": "U16", "u32": "U32"}.get(item["data"], "Byte")
+        size = {"u16": 2, "u32": 4, "imei": 8, "commit": 0}[item["data"]]
+        data = kinds.get(item["data"], "Counted" if item["counted"] else "Array" if item["count"] > 1 else "Value")
+        exports = ", ".join("{}" if not cell else f'{{"{cell[0]}", {-1 if cell[1] is None else cell[1]}}}'
+                            for cell in item["exports"])
+        out.append(f"inline constexpr CalibrationItem {item['name']}{{\n"
+                   f"    .name = \"{item['name']}\", .item = {item['number']}, .offset = {item['fixed_offset']}, "
+                   f".perIndex = {item['per_index']},\n    .bytes = {0 if item['counted'] else size * item['count']}, "
+                   f".element = Element::{element}, .data = ItemData::{data}, .perBand = {str(item['per_band']).lower()},\n"
+                   f"    .either = {str(item['either']).lower()}, .exports = {{{{{exports}}}}}}};\n")
+    out.append("\n}  // namespace items\n\ninline constexpr std::array kCalibrationItems{\n")
+    out += [f"    &items::{item['name']},\n" for item in api.items]
+    return "".join(out) + "};\n\n}  // namespace merovane::commands\n"
+
+
+def checks_header():
+    """Kept here so that the bands stand once."""
+    numbers = ", ".join(str(number) for number in BANDS)
+    return (MADE + "#pragma once\n\n#include <algorithm>\n#include <cstdint>\n#include <initializer_list>\n\n"
+            "namespace merovane::commands {\n\n"
+            "inline bool IsOneOf(std::uint32_t value, std::initializer_list<std::uint32_t> values) {\n"
+            "  return std::ranges::find(values, value) != values.end();\n}\n\n"
+            f"inline bool IsBand(std::uint32_t band) {{ return IsOneOf(band, {{{numbers}}}); }}\n\n"
+            "}  // namespace merovane::commands\n")

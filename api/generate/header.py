@@ -1,0 +1,203 @@
+"""The public headers: merovane.h, the manual of every exported function, and result_codes.h."""
+from model import BANDS, USES
+
+WIDTH = 100
+
+
+def wrap(prefix, text, indent):
+    """Comment lines of at most WIDTH columns, the first led by `prefix`."""
+    words, lines, line = text.split(), [], prefix
+    for word in words:
+        if len(line) + 1 + len(word) > WIDTH and line.strip(" *"):
+            lines.append(line.rstrip())
+            line = indent
+        line += ("" if line.endswith(" ") else " ") + word
+    return lines + [line.rstrip()]
+
+
+def sentence(text):
+    return text[0].upper() + text[1:]
+
+
+def listed(parts, last=" or "):
+    return parts[0] if len(parts) == 1 else ", ".join(parts[:-1]) + last + parts[-1]
+
+
+def range_text(argument):
+    if argument.one_of:
+        return listed([str(value) for value in argument.one_of])
+    if argument.high is not None:
+        return f"{argument.low or 0} to {argument.high}"
+    if argument.low is not None:
+        return f"{argument.low} and up" if argument.low != 1 or argument.type == "i32" else "above 0"
+    return ""
+
+
+def extent_text(argument):
+    if not argument.extent:
+        return ""
+    unit = "bytes" if argument.c_element in ("uint8_t", "char", "void") else "values"
+    if argument.fixed_extent is not None:
+        return f"{argument.extent} {unit}"
+    extent = argument.extent
+    return f"`{extent}` {unit}"
+
+
+def facts(argument):
+    """What the declaration itself says of an argument."""
+    found = [extent_text(argument)]
+    if argument.stored:
+        found.append(f"`{argument.stored}` tells how many were stored")
+    found.append(range_text(argument))
+    if argument.type == "ms":
+        found.append("milliseconds")
+    if argument.optional:
+        found.append("may be null")
+    if argument.when and argument.is_pointer:
+        found.append(f"may be null unless `{argument.when}`")
+    return ", ".join(fact for fact in found if fact)
+
+
+def refused(export):
+    """The reasons for PC_ERR_INVALID_PARAM, in words."""
+    declaration = export.declaration
+    reasons = []
+    if export.twin:
+        reasons.append("`port` below 1")
+    pointers = [argument for argument in declaration.arguments if argument.is_pointer and not argument.optional]
+    if pointers:
+        always = [argument for argument in pointers if not argument.when]
+        reasons.append("a null pointer" if always and len(always) == len(declaration.arguments) or len(always) > 1
+                       else listed([f"`{argument.name}`" for argument in always]) + " is null" if always
+                       else "a null pointer that would be used")
+    for argument in declaration.arguments:
+        bounds = range_text(argument)
+        if argument.type == "band":
+            reasons.append("another band")
+        elif bounds:
+            reasons.append(f"`{argument.name}` other than {bounds}")
+    return reasons + [text for _, text in declaration.requirements]
+
+
+def results(export, api):
+    """(name, text) of every result that this function describes itself."""
+    declaration = export.declaration
+    own = {internal: " ".join(lines) for internal, lines in declaration.results}
+    found = []
+    reasons = refused(export) if declaration.kind != "session" else []
+    if reasons or "InvalidParam" in own:
+        text = "; ".join(reasons + ([own.pop("InvalidParam")] if "InvalidParam" in own else []))
+        found.append(("InvalidParam", text))
+    if declaration.kind == "project" and "holder" not in declaration.flags:
+        own.setdefault("NvProjectNotOpen", "no NV project is open")
+    for internal, text in own.items():
+        found.append((internal, text))
+    found.sort(key=lambda row: api.result(row[0]).code)
+    return [(api.result(internal), text) for internal, text in found]
+
+
+def exchange_codes(declaration, api):
+    described = {internal for internal, _ in declaration.results}
+    return [api.result(internal).short_name if internal in ("NoAnswer", "Refused") else api.result(internal).public_name
+            for internal in USES[declaration.uses] if internal not in described]
+
+
+def comment(export, api):
+    declaration = export.declaration
+    if export.twin:
+        lines = wrap("/**", f"QV_{declaration.name} for the port `port`, with the same results. {sentence(declaration.brief[0])}"
+                     if len(declaration.brief) == 1 else
+                     f"QV_{declaration.name} for the port `port`, with the same effect and results.", " *")
+    else:
+        lines = wrap("/**", " ".join(declaration.brief), " *")
+    for argument in export.arguments:
+        own = facts(argument)
+        text = " ".join(argument.documentation)
+        text = f"{text} ({own})" if text and own else text or own
+        lines += wrap(f" * @param {argument.name}  ", text, " *   ")
+    if not export.twin:
+        for code, text in results(export, api):
+            name = code.short_name
+            lines += wrap(f" * @retval {name}  ", text, " *   ")
+        codes = exchange_codes(declaration, api)
+        if codes:
+            lines += wrap(" * @return ", f"0 (PC_ERR_SUCCESS), {'one of the above, ' if results(export, api) else ''}{listed(codes)}",
+                          " *   ")
+        elif export.declaration.returns != "void" and declaration.kind != "session":
+            lines += wrap(" * @return", "0 (PC_ERR_SUCCESS)" + (" or one of the above" if results(export, api) else ""), " *   ")
+    return "\n".join(lines) + " */\n"
+
+
+def annotated(argument):
+    """The argument as the header declares it, with what static analysis can use."""
+    if not argument.is_pointer:
+        return argument.c_type() + argument.name
+    word = {"in": "IN", "out": "OUT", "inout": "INOUT"}[argument.direction]
+    opt = "_OPT" if argument.may_be_null else ""
+    if argument.type == "text":
+        macro = f"MEROVANE_IN_TEXT{opt}"
+    elif argument.extent:
+        macro = f"MEROVANE_{word}_N{opt}({argument.extent.replace(' ', '')})"
+    else:
+        macro = f"MEROVANE_{word}{opt}"
+    return f"{macro} {argument.c_type()}{argument.name}"
+
+
+def access(export):
+    """GCC's access attributes: which argument is read or written, and which one counts its elements."""
+    found = []
+    words = {"in": "READS", "out": "WRITES", "inout": "UPDATES"}
+    arguments = export.arguments
+    for at, argument in enumerate(arguments, 1):
+        if not argument.is_pointer or argument.type == "text":
+            continue
+        counter = next((n for n, other in enumerate(arguments, 1)
+                        if other.name == argument.extent and not other.is_pointer), None)
+        found.append(f"MEROVANE_{words[argument.direction]}{'_N' if counter else ''}({at}{f', {counter}' if counter else ''})")
+    return "".join(" " + text for text in found)
+
+
+def prototype(export):
+    arguments = ", ".join(annotated(argument) for argument in export.arguments) or "void"
+    text = f"MEROVANE_API {export.declaration.returns} MEROVANE_CALL {export.name}({arguments}){access(export)};"
+    if len(text) <= WIDTH:
+        return text + "\n"
+    head, _, tail = text.partition("(")
+    lines, line = [], " " * 4
+    for part in tail.split(", "):
+        if len(line) + len(part) + 1 > WIDTH and line.strip():
+            lines.append(line.rstrip())
+            line = " " * 4
+        line += part + ", "
+    return head + "(\n" + "\n".join(lines + [line[:-2]]) + "\n"
+
+
+def merovane_h(api, templates):
+    out = [(templates / "header_preamble.txt").read_text()]
+    group = None
+    for export in api.exports:
+        if export.declaration.group != group:
+            group = export.declaration.group
+            out.append(f"\n/* ---- {group} {'-' * max(3, 80 - len(group))} */\n")
+        out.append("\n" + comment(export, api) + prototype(export))
+    out.append((templates / "header_end.txt").read_text())
+    return "".join(out)
+
+
+def result_codes_h(api):
+    out = ["/* The result codes: what every command returns.\n *\n"
+           " * A code has the name that the logs show, and where that one misleads a second one that says what\n * happened. */\n"
+           "#ifndef MEROVANE_RESULT_CODES_H\n#define MEROVANE_RESULT_CODES_H\n\ntypedef enum QV_RESULT {\n"]
+    rows = []
+    for code in api.result_codes:
+        rows.append(f"  /** {sentence(code.meaning)}. */\n  {code.public_name} = {code.code}")
+        if code.short_name != code.public_name:
+            rows.append(f"  {code.short_name} = {code.code}")
+    refused = api.result("Refused")
+    rows.append(f"  /** The name that {refused.short_name} had first. */\n  QV_REFUSED = {refused.code}")
+    out.append(",\n".join(rows) + "\n} QV_RESULT;\n\n#endif\n")
+    return "".join(out)
+
+
+def bands_h():
+    return "".join(f"  {name} = {number},\n" for number, name in BANDS.items())

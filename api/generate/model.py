@@ -1,0 +1,181 @@
+"""What a declaration says, once it is read."""
+import re
+from dataclasses import dataclass, field
+
+# Types of the declarations: what C calls them, what C++ calls them, the unit that a number of this kind has.
+TYPES = {
+    "u8": ("uint8_t", "std::uint8_t", ""), "u16": ("uint16_t", "std::uint16_t", ""),
+    "u32": ("uint32_t", "std::uint32_t", ""), "i32": ("int32_t", "std::int32_t", ""),
+    "char": ("char", "char", ""), "bytes": ("void", "std::uint8_t", ""),
+    "word": ("uintptr_t", "std::uintptr_t", ""), "event": ("QV_EVENT", "QV_EVENT", ""),
+    "ms": ("uint32_t", "std::uint32_t", "ms"),
+    "flag": ("uint32_t", "std::uint32_t", ""),   # 0 or not
+    "band": ("uint32_t", "std::uint32_t", ""),   # of a handset: one of BANDS
+    "text": ("char", "char", ""),                # ends with a zero; always a pointer
+}
+BANDS = {0: "QV_BAND_GSM", 1: "QV_BAND_DCS", 3: "QV_BAND_PCS", 4: "QV_BAND_GSM850"}
+# How a command uses the link, and the results that follow from it.
+USES = {
+    "asks": ("PortNotOpen", "WriteFailed", "NoAnswer", "Refused"),
+    "sends": ("PortNotOpen", "WriteFailed"),
+    "listens": ("PortNotOpen", "NoAnswer", "Refused"),
+    "local": (),
+}
+
+
+def camel(name):
+    head, *tail = name.split("_")
+    return head + "".join(part.capitalize() for part in tail)
+
+
+@dataclass
+class Argument:
+    name: str
+    type: str
+    direction: str = "value"     # value, in, out, inout
+    extent: str = ""             # elements behind the pointer; empty for one
+    stored: str = ""             # the argument that tells how many elements were stored
+    low: int | None = None
+    high: int | None = None
+    one_of: tuple = ()
+    optional: bool = False       # null is allowed
+    when: str = ""               # checked only when this holds
+    documentation: list = field(default_factory=list)
+
+    @property
+    def is_pointer(self):
+        return self.direction != "value"
+
+    @property
+    def c_element(self):
+        return TYPES[self.type][0] if self.type in TYPES else self.type
+
+    @property
+    def cpp_element(self):
+        return TYPES[self.type][1] if self.type in TYPES else self.type
+
+    def c_type(self):
+        if not self.is_pointer:
+            return self.c_element + " "
+        return ("const " if self.direction == "in" else "") + self.c_element + " *"
+
+    def cpp_parameter(self):
+        """As the exported function's argument, in C++."""
+        if not self.is_pointer:
+            return f"{self.cpp_element} {camel(self.name)}"
+        element = "void" if self.type == "bytes" else self.cpp_element
+        return ("const " if self.direction == "in" else "") + f"{element}* {camel(self.name)}"
+
+    @property
+    def fixed_extent(self):
+        return int(self.extent) if self.extent.isdigit() else None
+
+    @property
+    def may_be_null(self):
+        return self.optional or bool(self.when and self.is_pointer)
+
+
+@dataclass
+class Declaration:
+    kind: str                    # command, session, project
+    name: str
+    operation: int | None = None
+    reported_as: str = ""        # the command under whose id the result goes
+    uses: str = "local"
+    flags: frozenset = frozenset()
+    arguments: list = field(default_factory=list)
+    requirements: list = field(default_factory=list)   # (C++ condition, text when it does not hold)
+    log: str | None = None       # C++ expression of what is logged ahead of the body; None: nothing, or the body does
+    log_names: list = field(default_factory=list)
+    runs: str = ""               # C++ expression in place of a body of the command's own name
+    brief: list = field(default_factory=list)          # lines ahead of the parameters
+    results: list = field(default_factory=list)        # [name of result_codes.def, lines]
+    group: str = ""
+    unit: str = ""               # the file, without order number and ending
+    item: dict | None = None     # the calibration item that it reads or writes
+
+    @property
+    def returns(self):
+        return "void" if "void" in self.flags else "int32_t"
+
+    @property
+    def has_twin(self):
+        return self.kind != "session" and not {"plain", "decorated"} & self.flags
+
+    def argument(self, name):
+        return next((argument for argument in self.arguments if argument.name == name), None)
+
+    def counts(self, argument):
+        """Whether the argument is only the number of elements behind another one's pointer."""
+        return argument.direction == "value" and any(other.extent == argument.name for other in self.arguments)
+
+
+@dataclass
+class Export:
+    """One exported function: a declaration's own, or its twin for a port."""
+    declaration: Declaration
+    twin: bool
+
+    @property
+    def name(self):
+        return f"QV_{self.declaration.name}{'_MT' if self.twin else ''}"
+
+    @property
+    def decorated(self):
+        return ("twin-decorated" if self.twin else "decorated") in self.declaration.flags
+
+    @property
+    def arguments(self):
+        if not self.twin:
+            return self.declaration.arguments
+        port = Argument("port", "i32", low=1, documentation=["1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT"])
+        return [port] + self.declaration.arguments
+
+    @property
+    def argument_bytes(self):
+        # Every argument takes one stack slot of 4 bytes on 32-bit Windows; there are no 64-bit ones.
+        return 4 * len(self.arguments)
+
+    @property
+    def windows_name(self):
+        return f"_{self.name}@{self.argument_bytes}" if self.decorated else self.name
+
+    def symbol(self, stdcall):
+        return self.name + (f"@{self.argument_bytes}" if stdcall else "")
+
+
+@dataclass
+class ResultCode:
+    code: int
+    internal: str
+    name: str                    # in logs; may be empty
+    meaning: str
+
+    @property
+    def short_name(self):
+        """The name that says in plain words what happened; often the log's own."""
+        words = re.sub(r"(?<=[a-z])(?=[A-Z])", "_", self.internal)
+        return "PC_ERR_" + words.upper()
+
+    @property
+    def public_name(self):
+        return self.name or self.short_name
+
+
+@dataclass
+class Api:
+    declarations: list
+    items: list                  # calibration items
+    result_codes: list
+    includes: dict               # unit: headers that its `runs` and `require` expressions need
+    legacy: set
+
+    @property
+    def exports(self):
+        for declaration in self.declarations:
+            yield Export(declaration, False)
+            if declaration.has_twin:
+                yield Export(declaration, True)
+
+    def result(self, internal):
+        return next(code for code in self.result_codes if code.internal == internal)
