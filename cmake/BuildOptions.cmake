@@ -1,8 +1,12 @@
-# Flags that every target of ours takes (link it PRIVATE): warnings are errors.
+# Flags that every target of ours takes (link it PRIVATE). The presets make warnings errors.
 add_library(merovane_build_options INTERFACE)
 target_compile_options(merovane_build_options INTERFACE
-  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Werror
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion
+  $<$<COMPILE_LANGUAGE:C>:-Wmissing-prototypes>
   $<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual>
+  # A function that no header declares has no name outside its file.
+  $<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wmissing-declarations>
+  $<$<COMPILE_LANG_AND_ID:CXX,Clang>:-Wmissing-prototypes -Wthread-safety>
   # g++ 12 takes optimised string concatenations for overlapping copies.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
@@ -13,7 +17,7 @@ if(NOT MEROVANE_SANITIZE)
 endif()
 
 if(MEROVANE_SANITIZE)
-  add_compile_options(-fsanitize=${MEROVANE_SANITIZE} -fno-omit-frame-pointer -g)
+  add_compile_options(-fsanitize=${MEROVANE_SANITIZE} -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${MEROVANE_SANITIZE})
   if(MEROVANE_SANITIZE MATCHES "undefined")
     add_compile_options(-fno-sanitize-recover=undefined)
@@ -43,6 +47,11 @@ if(WIN32)
     endif()
   endforeach()
 endif()
+
+# The version stands in the project's declaration: programs say it from here.
+configure_file(${CMAKE_SOURCE_DIR}/cmake/version.h.in ${CMAKE_BINARY_DIR}/generated/merovane_version/version.h @ONLY)
+add_library(merovane_version INTERFACE)
+target_include_directories(merovane_version INTERFACE ${CMAKE_BINARY_DIR}/generated)
 
 # Header-only packages (Asio, CLI11, nlohmann-json) for companions, simulator, tools and tests.
 add_library(merovane_header_only INTERFACE)

@@ -67,16 +67,11 @@ need_packages() {
 build_preset() {
   local preset=$1
   shift
-  local launcher=()
-  if have ccache && [[ -z ${CCACHE_DISABLE:-} ]]; then
-    # One clone's objects serve the next one's build.
-    export CCACHE_BASEDIR=$MEROVANE_ROOT CCACHE_NOHASHDIR=true
-    launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache
-      -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON)
-  fi
-  cmake -S "$MEROVANE_ROOT" --preset "$preset" "${launcher[@]}" &&
+  cmake -S "$MEROVANE_ROOT" --preset "$preset" &&
     cmake --build "$MEROVANE_ROOT/build/$preset" --parallel "$(nproc)" ${1:+--target "$@"}
 }
+
+ctest_preset() { ctest --preset "$1" --no-tests=error --parallel "$(nproc)"; }
 
 now_ms() { date +%s%3N; }
 

@@ -3,10 +3,14 @@
 #include "platform/thread.h"
 
 #if defined(_WIN32)
-#define PROBE_EXPORT __declspec(dllexport)
+#define PROBE_EXPORT extern "C" __declspec(dllexport)
 #else
-#define PROBE_EXPORT __attribute__((visibility("default")))
+#define PROBE_EXPORT extern "C" __attribute__((visibility("default")))
 #endif
+
+// The test finds them by name.
+PROBE_EXPORT int PlatformProbeAnswer();
+PROBE_EXPORT void PlatformProbeStartThread(bool* endedInTime);
 
 namespace {
 
@@ -26,9 +30,9 @@ struct Worker {
 
 }  // namespace
 
-extern "C" PROBE_EXPORT int PlatformProbeAnswer() { return 42; }
+int PlatformProbeAnswer() { return 42; }
 
-extern "C" PROBE_EXPORT void PlatformProbeStartThread(bool* endedInTime) {
+void PlatformProbeStartThread(bool* endedInTime) {
   if (worker.thread.Start([stop = worker.stop] { stop->WaitMs(UINT32_MAX); })) {
     worker.endedInTime = endedInTime;
   }

@@ -4,6 +4,7 @@
 
 #include "link/result.h"
 #include "merovane/project_tool.h"
+#include "merovane_version/version.h"
 
 namespace {
 
@@ -21,7 +22,7 @@ int PrintResults() {
 int Run(int argc, char** argv) {
   CLI::App app("Merovane's command-line tool");
   app.require_subcommand(1);
-  app.set_version_flag("--version", "1.0.0");
+  app.set_version_flag("--version", kVersion);
   std::function<int()> run;
   std::string project, path, value, second, filter;
   bool json = false, littleEndian = false;
