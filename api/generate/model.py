@@ -128,7 +128,7 @@ class Export:
     def arguments(self):
         if not self.twin:
             return self.declaration.arguments
-        port = Argument("port", "i32", low=1, documentation=["1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT"])
+        port = Argument("port", "i32", low=1, documentation=["opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT"])
         return [port] + self.declaration.arguments
 
     @property

@@ -165,7 +165,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
 
 /** QV_RecvPhoneStartData for the port `port`, with the same results. Waits for the frame that a
  * handset sends while it boots.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param data  the frame's 8-byte header, as received
  * @param capacity  bytes at `data`, 1 to 2147483647
  * @param length  bytes stored, at most 8
@@ -182,7 +182,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 
 /** QV_SetPhoneStartMode for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode  0 to 127; 128 is added, and the sum sent in 8 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_t mode);
 
@@ -195,7 +195,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx(uint32_t mode, uint32_
 
 /** QV_SetPhoneStartModeEx for the port `port`, with the same results. QV_RecvPhoneStartData, then
  * QV_SetPhoneStartMode.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode
  * @param timeout_ms  of the wait for the start frame (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx_MT(
@@ -212,7 +212,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetModeAndCampParam(
 
 /** QV_SetModeAndCampParam for the port `port`, with the same results. QV_SetPhoneStartMode with the
  * camp parameters in the request's sequence field.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode
  * @param first_camp_parameter  4 bits
  * @param second_camp_parameter  11 bits */
@@ -227,7 +227,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog(uint32_t enable);
 
 /** QV_EnableArmLog for the port `port`, with the same results. Switches the handset's ARM trace
  * output on (non-zero) or off. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param enable */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog_MT(int32_t port, uint32_t enable);
 
@@ -239,7 +239,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog(uint32_t enable);
 
 /** QV_EnableDspLog for the port `port`, with the same results. Switches the handset's DSP trace
  * output on (non-zero) or off; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param enable */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog_MT(int32_t port, uint32_t enable);
 
@@ -251,7 +251,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode(uint8_t mode);
 
 /** QV_ChangePhoneMode for the port `port`, with the same results. Changes the running handset's
  * mode; 4000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode_MT(int32_t port, uint8_t mode);
 
@@ -266,7 +266,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode(
 
 /** QV_UsbChangePhoneMode for the port `port`, with the same results. QV_ChangePhoneMode that tells
  * whether the handset stays reachable on its port.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode
  * @param answered  1 when the answer's payload has 2 bytes or more, else 0; written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode_MT(
@@ -286,7 +286,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangeModeAndSetCampParam(
 
 /** QV_UsbChangeModeAndSetCampParam for the port `port`, with the same results.
  * QV_UsbChangePhoneMode with the camp parameters in the request's sequence field.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode
  * @param first_camp_parameter
  * @param second_camp_parameter
@@ -303,7 +303,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone(uint32_t timeout_ms);
 
 /** QV_RestartPhone for the port `port`, with the same results. Restarts the handset and waits for
  * its acknowledgement.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param timeout_ms  above 0 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone_MT(int32_t port, uint32_t timeout_ms);
 
@@ -318,7 +318,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode(
     MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(1);
 
 /** QV_ReadMode for the port `port`, with the same results. Reads the handset's mode; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param data  the answer's payload, cut to `capacity`. Byte 3, where there is one, is turned into
  *   a start mode code (0x80 to 0x8F)
  * @param capacity  bytes at `data`, 1 to 2147483647 */
@@ -338,7 +338,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Read(
 
 /** QV_Read for the port `port`, with the same results. Takes the next whole frame of any type,
  * unescaped, header included.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param data  the frame, cut to the capacity
  * @param length  in: bytes at `data`, 1 to 2147483647; out: bytes stored
  * @param timeout_ms  milliseconds */
@@ -356,7 +356,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Write(
     MEROVANE_IN const uint8_t *data, int32_t length) MEROVANE_READS(1);
 
 /** QV_Write for the port `port`, with the same results. Writes bytes to the channel as they are.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param data
  * @param length  above 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Write_MT(
@@ -381,7 +381,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand(
 
 /** QV_SendAtCommand for the port `port`, with the same results. Sends an AT command and collects
  * its answer until that ends in "OK" and a line end.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  text up to its terminating zero; CR and LF are added
  * @param command_length  not used
  * @param wait  0: only the acknowledgement (1000 ms) is awaited, and the next three may be null
@@ -415,7 +415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
 
 /** QV_SendAT for the port `port`, with the same results. Sends AT command bytes as they are and
  * collects the lines before "OK", line ends removed; a prompt ">" ends it too.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command
  * @param length  of the command, 1 to 9216
  * @param answer  text before the frame with the "OK", without a terminating zero; null: only the
@@ -439,7 +439,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo(
 
 /** QV_GetCurrCellInfo for the port `port`, with the same results. Reads the serving cell with
  * "AT+CCED=0,1"; 2000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param cell */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo_MT(
     int32_t port, MEROVANE_OUT QV_CELL_INFO *cell) MEROVANE_WRITES(2);
@@ -451,7 +451,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode(void);
 
 /** QV_EnterDeepSleepMode for the port `port`, with the same results. Sends the handset into deep
  * sleep. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode_MT(int32_t port);
 
 /* ---- Flash items, NV items, registers ------------------------------------------------ */
@@ -471,7 +471,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash(
 
 /** QV_ReadFlash for the port `port`, with the same results. Reads a production flash item from its
  * start.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them
  * @param length  bytes wanted and room at `data`, 1 to 65535
@@ -495,7 +495,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
 
 /** QV_WriteFlash for the port `port`, with the same results. Writes a production flash item from
  * its start.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item
  * @param data
  * @param length  bytes at `data`, 1 to 65523
@@ -511,7 +511,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash(uint32_t timeout_ms);
 
 /** QV_EraseFlash for the port `port`, with the same results. Erases the production flash area.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param timeout_ms  above 0 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash_MT(int32_t port, uint32_t timeout_ms);
 
@@ -529,7 +529,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv(
     MEROVANE_OUT uint32_t *data_length, uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
 
 /** QV_ReadNv for the port `port`, with the same results. Reads an NV item.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them
  * @param capacity  bytes at `data`, 1 to 2147483647
@@ -550,7 +550,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(
     uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length) MEROVANE_READS(2);
 
 /** QV_WriteNv for the port `port`, with the same results. Writes an NV item; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item
  * @param data
  * @param length  bytes at `data`, 0 to 65525 */
@@ -585,7 +585,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister(
     uint32_t count) MEROVANE_WRITES(3);
 
 /** QV_ReadRegister for the port `port`, with the same results. Reads registers; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param access_width  0 bytes, 1 16-bit units, others 32-bit units
  * @param address  of the first unit
  * @param data  `count` units, in the handset's byte order. Units that did not arrive read as 0
@@ -608,7 +608,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister(
 
 /** QV_WriteRegister for the port `port`, with the same results. Writes registers; 1000 ms.
  * Arguments as QV_ReadRegister.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param access_width
  * @param address
  * @param data  `count` units, in the handset's byte order
@@ -628,7 +628,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID(MEROVANE_OUT uint32_t *id) MEROV
 
 /** QV_GetChipID for the port `port`, with the same results. Reads the chip's identification word;
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param id */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(
     int32_t port, MEROVANE_OUT uint32_t *id) MEROVANE_WRITES(2);
@@ -641,7 +641,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType(MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(1);
 
 /** QV_GetChipType for the port `port`, with the same results. Reads the chip's type word; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param type */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(
     int32_t port, MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(2);
@@ -660,7 +660,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
 
 /** QV_GetLcdIcDriverID for the port `port`, with the same results. Reads the identification of an
  * LCD's controller; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param second_lcd  0: the first LCD's; otherwise the second's
  * @param id  as it arrived, its first 100 bytes at most
  * @param capacity  bytes at `id`, above 0
@@ -679,7 +679,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo(
 
 /** QV_GetFlashInfo for the port `port`, with the same results. Reads the flash description; 1000
  * ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param info  written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(
     int32_t port, MEROVANE_OUT QV_FLASH_INFO *info) MEROVANE_WRITES(2);
@@ -696,7 +696,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(
 
 /** QV_GetMSVersion for the port `port`, with the same results. Reads the software version's text;
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param version  as it arrived: terminated by a zero only when the handset sends one, so clear it
  *   before
  * @param capacity  bytes at `version`, 1 to 2147483647; a longer text is cut without an error */
@@ -718,7 +718,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand(
 
 /** QV_Send7310KCommand for the port `port`, with the same results. Exchanges ten words with the
  * 7310K.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  its id, 8 bits
  * @param words  ten
  * @param answered_words  ten. An answer of 20 bytes and more fills all, one of 6 and more the first
@@ -743,7 +743,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand(
 
 /** QV_Recv7310KCommand for the port `port`, with the same results. Waits for ten words of the
  * 7310K, which it sends unasked. The wait is not lengthened by the setting.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  as in QV_Send7310KCommand
  * @param answered_words  as there
  * @param timeout_ms  0: 1000 (milliseconds) */
@@ -762,7 +762,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV(uint32_t mode);
 
 /** QV_CheckFixedNV for the port `port`, with the same results. Asks whether the handset's fixed NV
  * is there; 1000 ms. Reported under the operation id of QV_ReadNv.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode  10: the information block is asked about, otherwise the NV items */
 MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV_MT(int32_t port, uint32_t mode);
 
@@ -776,7 +776,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(
     MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(1);
 
 /** QV_NvWriteDirect for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param info */
 MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect_MT(
     int32_t port, MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(2);
@@ -791,7 +791,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo(
 
 /** QV_FastWriteNvInfo for the port `port`, with the same results. Writes the fields whose flags are
  * set, in one frame with a checksum; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param info */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
     int32_t port, MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(2);
@@ -807,7 +807,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(
     MEROVANE_OUT QV_FIXED_NV_INFO *info) MEROVANE_WRITES(1);
 
 /** QV_FastReadNvInfo for the port `port`, with the same results. Reads all fields; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param info  its flags stay as they were. With codes 4, 6 and 34 all of it does; with the link's
  *   codes it is filled as from an empty block: IMEIs and addresses of zeros. A damaged digit of an
  *   IMEI reads as a letter a to f */
@@ -828,7 +828,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(
     MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
 
 /** QV_ReadSN for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param serial_number  24 bytes, padded with zeros
  * @param capacity  bytes at `serial_number`, 1 to 2147483647 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN_MT(
@@ -844,7 +844,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2(
     MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
 
 /** QV_ReadSN2 for the port `port`, with the same results. QV_ReadSN for the second serial number.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param serial_number
  * @param capacity */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2_MT(
@@ -864,7 +864,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN(
     MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
 
 /** QV_WriteSN for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param serial_number
  * @param length  bytes at `serial_number`, 1 to 23 */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN_MT(
@@ -880,7 +880,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2(
     MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
 
 /** QV_WriteSN2 for the port `port`, with the same results. QV_WriteSN for the second serial number.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param serial_number
  * @param length */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
@@ -895,7 +895,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT uint8_t *guid) MEROV
 
 /** QV_ReadGuid for the port `port`, with the same results. Reads the handset's GUID; 4000 ms. Its
  * lines and operation id are those of QV_ReadFlash.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param guid  16 bytes, as the handset holds them */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(
     int32_t port, MEROVANE_OUT uint8_t *guid) MEROVANE_WRITES(2);
@@ -912,7 +912,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(
 
 /** QV_FastWriteProduct for the port `port`, with the same results. Writes the production block and
  * its checksum; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param block
  * @param length  bytes at `block`, at most 65525; 256 in handsets that keep their serial numbers
  *   there */
@@ -933,7 +933,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(
 
 /** QV_FastReadProduct for the port `port`, with the same results. Reads the production block; 3000
  * ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param block  as the handset holds it, without its checksum
  * @param capacity  bytes at `block`, 1 to 2147483647 and all writable
  * @param length  of the whole block, also when it was cut; as it was with code 4, 0 with all other
@@ -955,7 +955,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion(
 
 /** QV_FastReadVerSion for the port `port`, with the same results. Reads the version block.
  * Arguments and results as QV_FastReadProduct.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param block
  * @param capacity
  * @param length */
@@ -974,7 +974,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(
     MEROVANE_OUT uint32_t *count) MEROVANE_WRITES(1);
 
 /** QV_FastReaIMEICount for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param count  the answer's first word in this machine's byte order, whatever the handset's;
  *   written with code 13 too */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount_MT(
@@ -990,7 +990,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_LedOn(uint32_t on);
 
 /** QV_LedOn for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_LedOn_MT(int32_t port, uint32_t on);
 
@@ -1002,7 +1002,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn(uint32_t on);
 
 /** QV_VibrationOn for the port `port`, with the same results. Switches the vibrator on (non-zero)
  * or off. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn_MT(int32_t port, uint32_t on);
 
@@ -1014,7 +1014,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn(uint32_t on);
 
 /** QV_LcdOn for the port `port`, with the same results. Switches the LCD on (non-zero) or off.
  * Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn_MT(int32_t port, uint32_t on);
 
@@ -1026,7 +1026,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn(uint32_t on);
 
 /** QV_keyLightOn for the port `port`, with the same results. Switches the key light on (non-zero)
  * or off. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn_MT(int32_t port, uint32_t on);
 
@@ -1038,7 +1038,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn(uint32_t on);
 
 /** QV_CameraOn for the port `port`, with the same results. Switches the camera on (non-zero) or
  * off. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
 
@@ -1053,7 +1053,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
     uint8_t channel, MEROVANE_OUT uint8_t *value, uint32_t timeout_ms) MEROVANE_WRITES(2);
 
 /** QV_ADCCalibration for the port `port`, with the same results. Measures an ADC channel.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param channel  the handset's number of it
  * @param value  2 bytes, most significant first; written on success only
  * @param timeout_ms  above 0 (milliseconds) */
@@ -1076,7 +1076,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
     uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4);
 
 /** QV_ReadAdcValue for the port `port`, with the same results. Measures an ADC channel.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param channel  the handset's number of it
  * @param value  written on success only, as the next two
  * @param third_byte  of the answer; null: not wanted
@@ -1096,7 +1096,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(
     MEROVANE_OUT uint32_t *voltage) MEROVANE_WRITES(1);
 
 /** QV_ReadPhoneVolt for the port `port`, with the same results. Measures the battery; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param voltage  in the handset's unit; 0 is stored when the exchange failed */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt_MT(
     int32_t port, MEROVANE_OUT uint32_t *voltage) MEROVANE_WRITES(2);
@@ -1109,7 +1109,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard(uint32_t key);
 
 /** QV_PressKeyboard for the port `port`, with the same results. Makes the handset act as if a key
  * were pressed; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param key  the handset's code of it */
 MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t key);
 
@@ -1123,7 +1123,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
 
 /** QV_GpsOpen for the port `port`, with the same results. Opens (non-zero) or closes the receiver;
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param open */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
 
@@ -1137,7 +1137,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(
     MEROVANE_IN const uint8_t *block) MEROVANE_READS(1);
 
 /** QV_GpsWriteNv for the port `port`, with the same results. Writes the GPS settings; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is
  *   the handset's */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
@@ -1152,7 +1152,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(MEROVANE_OUT uint8_t *block) MEROVANE_WRITES(1);
 
 /** QV_GpsReadNv for the port `port`, with the same results. Reads the GPS settings; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive
  *   read as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv_MT(
@@ -1168,7 +1168,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode(uint32_t enter);
 
 /** QV_EnterEUTMode for the port `port`, with the same results. Enters (non-zero) or leaves the
  * Bluetooth test mode; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param enter */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode_MT(int32_t port, uint32_t enter);
 
@@ -1181,7 +1181,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr(
     MEROVANE_IN const uint8_t *address) MEROVANE_READS(1);
 
 /** QV_SaveBTAddr for the port `port`, with the same results. Stores the Bluetooth address; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param address  6 bytes, most significant first */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
     int32_t port, MEROVANE_IN const uint8_t *address) MEROVANE_READS(2);
@@ -1194,7 +1194,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
 
 /** QV_LoadBTAddr for the port `port`, with the same results. Reads the Bluetooth address; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param address  6 bytes, most significant first */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(
     int32_t port, MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(2);
@@ -1210,7 +1210,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(
 
 /** QV_StartBtRadioTest for the port `port`, with the same results. Starts (3000 ms) or stops (1000
  * ms) a radio test.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  0: stop; `words` is not looked at
  * @param words  four: the handset's, except the second, which is the channel, 0 to 78 */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
@@ -1225,7 +1225,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC(uint32_t start, uint32_t channe
 
 /** QV_StartBtAFC for the port `port`, with the same results. Starts (3000 ms) or stops (1000 ms) a
  * carrier for frequency adjustment.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  0: stop; `channel` is not looked at
  * @param channel  0 to 78 */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC_MT(int32_t port, uint32_t start, uint32_t channel);
@@ -1238,7 +1238,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue(uint32_t value);
 
 /** QV_SetBtDacValue for the port `port`, with the same results. Tries a value of the frequency DAC;
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  0 to 63 */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue_MT(int32_t port, uint32_t value);
 
@@ -1250,7 +1250,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue(uint32_t value);
 
 /** QV_SaveBtDacValue for the port `port`, with the same results. Stores the value of the frequency
  * DAC; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  0 to 63 */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t value);
 
@@ -1264,7 +1264,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(
 
 /** QV_LoadBtDacValue for the port `port`, with the same results. Reads the stored value of the
  * frequency DAC; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1415,7 +1415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode(int32_t mode);
 
 /** QV_ChangeGSMTDCalMode for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_t mode);
 
@@ -1428,7 +1428,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_
 MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode(int32_t mode);
 
 /** QV_InitGSMTDCalMode for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode */
 MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode_MT(int32_t port, int32_t mode);
 
@@ -1440,7 +1440,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active(uint32_t on);
 
 /** QV_Active for the port `port`, with the same results. Activates (non-zero) or deactivates the
  * calibration layer; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MT(int32_t port, uint32_t on);
 
@@ -1453,7 +1453,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark(uint32_t band);
 
 /** QV_SetPhoneClassmark for the port `port`, with the same results. Chooses the band that the
  * following commands work in; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  0, 1, 3 or 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MT(int32_t port, uint32_t band);
 
@@ -1470,7 +1470,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart(
 
 /** QV_AfcStart for the port `port`, with the same results. Starts (non-zero) or stops transmitting
  * with a frequency trim; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start
  * @param parameters  not used to stop */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
@@ -1504,7 +1504,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart(
     MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /** QV_AgcStart for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start
  * @param parameters
  * @param measured */
@@ -1524,7 +1524,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet(
 
 /** QV_PwrStepFactorSet for the port `port`, with the same results. Sets a power step factor; 1000
  * ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -1540,7 +1540,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PASetting(
 
 /** QV_PASetting for the port `port`, with the same results. Sets the power amplifier; 1000 ms. Only
  * the low 16 bits of `fourth` are put into the handset's byte order.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param setting */
 MEROVANE_API int32_t MEROVANE_CALL QV_PASetting_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *setting) MEROVANE_READS(2);
@@ -1558,7 +1558,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting(
     uint32_t band) MEROVANE_READS(2) MEROVANE_READS(3);
 
 /** QV_RampSetting for the port `port`, with the same results. Sets the ramps of a band; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  sent as 1 when not 0
  * @param ramp_up  16 points
  * @param ramp_down  16 points
@@ -1574,7 +1574,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus(void);
 
 /** QV_EnterMaxTxPowerStatus for the port `port`, with the same results. Switches to maximum
  * transmit power. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MT(int32_t port);
 
 /** Leaves maximum transmit or receive power. Nothing is awaited.
@@ -1584,7 +1584,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus(void);
 
 /** QV_LeaveMaxTxPowerStatus for the port `port`, with the same results. Leaves maximum transmit or
  * receive power. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MT(int32_t port);
 
 /** Switches to maximum receive power. Nothing is awaited.
@@ -1594,7 +1594,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus(void);
 
 /** QV_EnterMaxRxPowerStatus for the port `port`, with the same results. Switches to maximum receive
  * power. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MT(int32_t port);
 
 /** Leaves maximum transmit or receive power. Nothing is awaited.
@@ -1604,7 +1604,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus(void);
 
 /** QV_LeaveMaxRxPowerStatus for the port `port`, with the same results. Leaves maximum transmit or
  * receive power. Nothing is awaited.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
 
 /* ---- Calibration: IMEI --------------------------------------------------------------- */
@@ -1618,7 +1618,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT uint8_t *imei) MEROV
 
 /** QV_ReadIMEI for the port `port`, with the same results. Reads the IMEI from the handset's NV
  * item 5; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param imei  8 bytes, two digits each, as the handset keeps them */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
     int32_t port, MEROVANE_OUT uint8_t *imei) MEROVANE_WRITES(2);
@@ -1632,7 +1632,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(MEROVANE_OUT char *text) MEROVANE_WRITES(1);
 
 /** QV_ReadIMEI_ASCII for the port `port`, with the same results. The same as text.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value,
  *   10 to 15, and the text is cut to 15 characters */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
@@ -1651,7 +1651,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0(
 
 /** QV_ReadData_Flash_ADC_Adc0 for the port `port`, with the same results. Reads item 1 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1664,7 +1664,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0(uint32_t value);
 
 /** QV_WriteData_Flash_ADC_Adc0 for the port `port`, with the same results. Writes item 1 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, uint32_t value);
 
@@ -1679,7 +1679,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1(
 
 /** QV_ReadData_Flash_ADC_Adc1 for the port `port`, with the same results. Reads item 1 in flash:
  * one value from offset 1. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1692,7 +1692,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1(uint32_t value);
 
 /** QV_WriteData_Flash_ADC_Adc1 for the port `port`, with the same results. Writes item 1 in flash:
  * one value from offset 1. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, uint32_t value);
 
@@ -1707,7 +1707,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0(
 
 /** QV_ReadData_Ram_ADC_Battery0 for the port `port`, with the same results. Reads item 1 in RAM:
  * one value from offset 2. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1720,7 +1720,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0(uint32_t value)
 
 /** QV_WriteData_Ram_ADC_Battery0 for the port `port`, with the same results. Writes item 1 in RAM:
  * one value from offset 2. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port, uint32_t value);
 
@@ -1735,7 +1735,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0(
 
 /** QV_ReadData_Flash_ADC_Battery0 for the port `port`, with the same results. Reads item 1 in
  * flash: one value from offset 2. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1748,7 +1748,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0(uint32_t valu
 
 /** QV_WriteData_Flash_ADC_Battery0 for the port `port`, with the same results. Writes item 1 in
  * flash: one value from offset 2. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t port, uint32_t value);
 
@@ -1763,7 +1763,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1(
 
 /** QV_ReadData_Ram_ADC_Battery1 for the port `port`, with the same results. Reads item 1 in RAM:
  * one value from offset 3. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1776,7 +1776,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1(uint32_t value)
 
 /** QV_WriteData_Ram_ADC_Battery1 for the port `port`, with the same results. Writes item 1 in RAM:
  * one value from offset 3. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port, uint32_t value);
 
@@ -1791,7 +1791,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1(
 
 /** QV_ReadData_Flash_ADC_Battery1 for the port `port`, with the same results. Reads item 1 in
  * flash: one value from offset 3. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1804,7 +1804,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1(uint32_t valu
 
 /** QV_WriteData_Flash_ADC_Battery1 for the port `port`, with the same results. Writes item 1 in
  * flash: one value from offset 3. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t port, uint32_t value);
 
@@ -1819,7 +1819,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0(
 
 /** QV_ReadData_Flash_ADC_Reserved0 for the port `port`, with the same results. Reads item 1 in
  * flash: one value from offset 4. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1832,7 +1832,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0(uint32_t val
 
 /** QV_WriteData_Flash_ADC_Reserved0 for the port `port`, with the same results. Writes item 1 in
  * flash: one value from offset 4. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
     int32_t port, uint32_t value);
@@ -1848,7 +1848,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1(
 
 /** QV_ReadData_Flash_ADC_Reserved1 for the port `port`, with the same results. Reads item 1 in
  * flash: one value from offset 5. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1861,7 +1861,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1(uint32_t val
 
 /** QV_WriteData_Flash_ADC_Reserved1 for the port `port`, with the same results. Writes item 1 in
  * flash: one value from offset 5. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
     int32_t port, uint32_t value);
@@ -1877,7 +1877,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7(
 
 /** QV_ReadData_Flash_ADC_Reserved7 for the port `port`, with the same results. Reads item 1 in
  * flash: one value from offset 11. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1890,7 +1890,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7(uint32_t val
 
 /** QV_WriteData_Flash_ADC_Reserved7 for the port `port`, with the same results. Writes item 1 in
  * flash: one value from offset 11. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
     int32_t port, uint32_t value);
@@ -1907,7 +1907,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC(
 
 /** QV_ReadData_Flash_ADC for the port `port`, with the same results. Reads item 1 in flash: one
  * value from offset `offset`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param offset  of the value, in elements
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_MT(
@@ -1922,7 +1922,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC(uint8_t offset, uint32
 
 /** QV_WriteData_Flash_ADC for the port `port`, with the same results. Writes item 1 in flash: one
  * value from offset `offset`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param offset  of the value, in elements
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
@@ -1941,7 +1941,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center(
 
 /** QV_ReadData_Ram_AFC_afc_center for the port `port`, with the same results. Reads item 2 in RAM:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -1954,7 +1954,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center(uint16_t valu
 
 /** QV_WriteData_Ram_AFC_afc_center for the port `port`, with the same results. Writes item 2 in
  * RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t port, uint16_t value);
 
@@ -1969,7 +1969,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center(
 
 /** QV_ReadData_Flash_AFC_afc_center for the port `port`, with the same results. Reads item 2 in
  * flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -1982,7 +1982,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center(uint16_t va
 
 /** QV_WriteData_Flash_AFC_afc_center for the port `port`, with the same results. Writes item 2 in
  * flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
     int32_t port, uint16_t value);
@@ -1998,7 +1998,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits(
 
 /** QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Reads
  * item 3 in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2011,7 +2011,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits(u
 
 /** QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Writes
  * item 3 in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, uint16_t value);
@@ -2027,7 +2027,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits(
 
 /** QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Reads
  * item 3 in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2040,7 +2040,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits
 
 /** QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Writes
  * item 3 in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, uint16_t value);
@@ -2056,7 +2056,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length(
 
 /** QV_ReadData_Ram_AFC_slope_length for the port `port`, with the same results. Reads item 5 in
  * RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2069,7 +2069,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length(uint16_t va
 
 /** QV_WriteData_Ram_AFC_slope_length for the port `port`, with the same results. Writes item 5 in
  * RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
     int32_t port, uint16_t value);
@@ -2085,7 +2085,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length(
 
 /** QV_ReadData_Flash_AFC_slope_length for the port `port`, with the same results. Reads item 5 in
  * flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2098,7 +2098,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length(uint16_t 
 
 /** QV_WriteData_Flash_AFC_slope_length for the port `port`, with the same results. Writes item 5 in
  * flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
     int32_t port, uint16_t value);
@@ -2114,7 +2114,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC(
 
 /** QV_ReadData_Ram_AFC_CDAC for the port `port`, with the same results. Reads item 6 in RAM: one
  * value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2127,7 +2127,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC(uint16_t value);
 
 /** QV_WriteData_Ram_AFC_CDAC for the port `port`, with the same results. Writes item 6 in RAM: one
  * value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, uint16_t value);
 
@@ -2142,7 +2142,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC(
 
 /** QV_ReadData_Flash_AFC_CDAC for the port `port`, with the same results. Reads item 6 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2155,7 +2155,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC(uint16_t value);
 
 /** QV_WriteData_Flash_AFC_CDAC for the port `port`, with the same results. Writes item 6 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, uint16_t value);
 
@@ -2170,7 +2170,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC(
 
 /** QV_ReadData_Ram_AFC_CAFC for the port `port`, with the same results. Reads item 7 in RAM: one
  * value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2183,7 +2183,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC(uint16_t value);
 
 /** QV_WriteData_Ram_AFC_CAFC for the port `port`, with the same results. Writes item 7 in RAM: one
  * value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, uint16_t value);
 
@@ -2198,7 +2198,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC(
 
 /** QV_ReadData_Flash_AFC_CAFC for the port `port`, with the same results. Reads item 7 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2211,7 +2211,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
 
 /** QV_WriteData_Flash_AFC_CAFC for the port `port`, with the same results. Writes item 7 in flash:
  * one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, uint16_t value);
 
@@ -2226,7 +2226,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(
 
 /** QV_ReadData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Reads item 14 in
  * RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2241,7 +2241,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr(
 
 /** QV_WriteData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Writes item 14 in
  * RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2257,7 +2257,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(
 
 /** QV_ReadData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Reads item 14 in
  * flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2272,7 +2272,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr(
 
 /** QV_WriteData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Writes item 14
  * in flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2288,7 +2288,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(
 
 /** QV_ReadData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Reads item 4 in
  * RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2303,7 +2303,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr(
 
 /** QV_WriteData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Writes item 4
  * in RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2319,7 +2319,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(
 
 /** QV_ReadData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Reads item 4
  * in flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2334,7 +2334,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr(
 
 /** QV_WriteData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Writes item 4
  * in flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2350,7 +2350,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_ar
 
 /** QV_ReadData_Ram_AFC_slope_value_reciprocal_arr for the port `port`, with the same results. Reads
  * item 15 in RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2365,7 +2365,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
 
 /** QV_WriteData_Ram_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
  * Writes item 15 in RAM: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2381,7 +2381,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_
 
 /** QV_ReadData_Flash_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
  * Reads item 15 in flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
@@ -2396,7 +2396,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
 
 /** QV_WriteData_Flash_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
  * Writes item 15 in flash: 17 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
@@ -2415,7 +2415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
 
 /** QV_ReadData_Ram_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Reads
  * item 21 of a band in RAM: 80 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_MT(
@@ -2432,7 +2432,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor(
 
 /** QV_WriteData_Ram_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Writes
  * item 21 of a band in RAM: 80 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_MT(
@@ -2450,7 +2450,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
 
 /** QV_ReadData_Flash_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Reads
  * item 21 of a band in flash: 80 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_MT(
@@ -2467,7 +2467,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 
 /** QV_WriteData_Flash_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Writes
  * item 21 of a band in flash: 80 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_MT(
@@ -2485,7 +2485,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8P
 
 /** QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
  * Reads item 36 of a band in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
@@ -2502,7 +2502,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8
 
 /** QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
  * Writes item 36 of a band in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
@@ -2520,7 +2520,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_
 
 /** QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
  * Reads item 36 of a band in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk_MT(
@@ -2537,7 +2537,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 
 /** QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
  * Writes item 36 of a band in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk_MT(
@@ -2557,7 +2557,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index(
 
 /** QV_ReadData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Reads item 24
  * of a band in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index_MT(
@@ -2574,7 +2574,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index(
 
 /** QV_WriteData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Writes item
  * 24 of a band in RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
@@ -2592,7 +2592,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index(
 
 /** QV_ReadData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Reads item
  * 24 of a band in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index_MT(
@@ -2609,7 +2609,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index(
 
 /** QV_WriteData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Writes item
  * 24 of a band in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
@@ -2628,7 +2628,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
 
 /** QV_ReadData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Reads item
  * 18 of a band in RAM: `count` values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758) */
@@ -2649,7 +2649,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value(
 
 /** QV_WriteData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Writes item
  * 18 of a band in RAM: `count` values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758) */
@@ -2670,7 +2670,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
 
 /** QV_ReadData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Reads item
  * 18 of a band in flash: `count` values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758) */
@@ -2691,7 +2691,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value(
 
 /** QV_WriteData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Writes
  * item 18 of a band in flash: `count` values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758) */
@@ -2711,7 +2711,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
 
 /** QV_ReadData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Reads item 23 of a
  * band in RAM: 91 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
@@ -2728,7 +2728,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word(
 
 /** QV_WriteData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Writes item 23 of
  * a band in RAM: 91 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
@@ -2746,7 +2746,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
 
 /** QV_ReadData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Reads item 23 of
  * a band in flash: 91 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
@@ -2763,7 +2763,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word(
 
 /** QV_WriteData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Writes item 23
  * of a band in flash: 91 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
@@ -2784,7 +2784,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
 
 /** QV_ReadRampTable_Ram for the port `port`, with the same results. Reads item 8 of a band in RAM:
  * 20 values from offset 20 x `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what the answer lacks stays as it was (20 values) */
@@ -2804,7 +2804,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram(
 
 /** QV_SetRampTable_Ram for the port `port`, with the same results. Writes item 8 of a band in RAM:
  * 20 values from offset 20 x `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values) */
@@ -2825,7 +2825,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
 
 /** QV_ReadRampTable_Flash for the port `port`, with the same results. Reads item 8 of a band in
  * flash: 20 values from offset 20 x `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what the answer lacks stays as it was (20 values) */
@@ -2845,7 +2845,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash(
 
 /** QV_SetRampTable_Flash for the port `port`, with the same results. Writes item 8 of a band in
  * flash: 20 values from offset 20 x `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values) */
@@ -2866,7 +2866,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram(
 
 /** QV_ReadRampTableConstUp_Ram for the port `port`, with the same results. Reads item 9 of a band
  * in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -2885,7 +2885,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram(
 
 /** QV_SetRampTableConstUp_Ram for the port `port`, with the same results. Writes item 9 of a band
  * in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -2905,7 +2905,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash(
 
 /** QV_ReadRampTableConstUp_Flash for the port `port`, with the same results. Reads item 9 of a band
  * in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -2924,7 +2924,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash(
 
 /** QV_SetRampTableConstUp_Flash for the port `port`, with the same results. Writes item 9 of a band
  * in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -2944,7 +2944,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram(
 
 /** QV_ReadRampTableConstDown_Ram for the port `port`, with the same results. Reads item 10 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -2963,7 +2963,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram(
 
 /** QV_SetRampTableConstDown_Ram for the port `port`, with the same results. Writes item 10 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -2983,7 +2983,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash(
 
 /** QV_ReadRampTableConstDown_Flash for the port `port`, with the same results. Reads item 10 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3002,7 +3002,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash(
 
 /** QV_SetRampTableConstDown_Flash for the port `port`, with the same results. Writes item 10 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3021,7 +3021,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram(
 
 /** QV_ReadRampUpParamNum_Ram for the port `port`, with the same results. Reads item 11 of a band in
  * RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
@@ -3037,7 +3037,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram(uint32_t band, uint1
 
 /** QV_SetRampUpParamNum_Ram for the port `port`, with the same results. Writes item 11 of a band in
  * RAM: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
@@ -3055,7 +3055,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash(
 
 /** QV_ReadRampUpParamNum_Flash for the port `port`, with the same results. Reads item 11 of a band
  * in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
@@ -3071,7 +3071,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash(uint32_t band, uin
 
 /** QV_SetRampUpParamNum_Flash for the port `port`, with the same results. Writes item 11 of a band
  * in flash: one value. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
@@ -3089,7 +3089,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
 
 /** QV_ReadRampTableAllConstUp_Flash for the port `port`, with the same results. Reads item 9 of a
  * band in flash: 16 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
@@ -3106,7 +3106,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash(
 
 /** QV_SetRampTableAllConstUp_Flash for the port `port`, with the same results. Writes item 9 of a
  * band in flash: 16 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
@@ -3124,7 +3124,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
 
 /** QV_ReadRampTableAllConstDown_Flash for the port `port`, with the same results. Reads item 10 of
  * a band in flash: 16 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
@@ -3141,7 +3141,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash(
 
 /** QV_SetRampTableAllConstDown_Flash for the port `port`, with the same results. Writes item 10 of
  * a band in flash: 16 values. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
@@ -3162,7 +3162,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing(
 
 /** QV_ReadData_Ram_Delta_Timing for the port `port`, with the same results. Reads item 12 of a band
  * in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3181,7 +3181,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing(
 
 /** QV_WriteData_Ram_Delta_Timing for the port `port`, with the same results. Writes item 12 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3201,7 +3201,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing(
 
 /** QV_ReadData_Flash_Delta_Timing for the port `port`, with the same results. Reads item 12 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3220,7 +3220,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing(
 
 /** QV_WriteData_Flash_Delta_Timing for the port `port`, with the same results. Writes item 12 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3240,7 +3240,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration(
 
 /** QV_ReadData_Ram_Duration for the port `port`, with the same results. Reads item 13 of a band in
  * RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3259,7 +3259,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration(
 
 /** QV_WriteData_Ram_Duration for the port `port`, with the same results. Writes item 13 of a band
  * in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3279,7 +3279,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration(
 
 /** QV_ReadData_Flash_Duration for the port `port`, with the same results. Reads item 13 of a band
  * in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3298,7 +3298,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration(
 
 /** QV_WriteData_Flash_Duration for the port `port`, with the same results. Writes item 13 of a band
  * in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3318,7 +3318,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK(
 
 /** QV_ReadData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Reads item 38 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3337,7 +3337,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK(
 
 /** QV_WriteData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Writes item 38 of
  * a band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3357,7 +3357,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK(
 
 /** QV_ReadData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Reads item 38 of
  * a band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3376,7 +3376,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK(
 
 /** QV_WriteData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Writes item 38
  * of a band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3396,7 +3396,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK(
 
 /** QV_ReadData_Ram_Duration_8PSK for the port `port`, with the same results. Reads item 39 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3415,7 +3415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK(
 
 /** QV_WriteData_Ram_Duration_8PSK for the port `port`, with the same results. Writes item 39 of a
  * band in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3435,7 +3435,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK(
 
 /** QV_ReadData_Flash_Duration_8PSK for the port `port`, with the same results. Reads item 39 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3454,7 +3454,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK(
 
 /** QV_WriteData_Flash_Duration_8PSK for the port `port`, with the same results. Writes item 39 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written */
@@ -3474,7 +3474,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK(
 
 /** QV_ReadData_Ram_TxGain_8PSK for the port `port`, with the same results. Reads item 37 of a band
  * in RAM: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3494,7 +3494,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK(
 
 /** QV_ReadData_Flash_TxGain_8PSK for the port `port`, with the same results. Reads item 37 of a
  * band in flash: one value from offset `index`. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what the answer lacks stays as it was */
@@ -3516,7 +3516,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI(
 
 /** QV_ReadData_Flash_IMEI for the port `port`, with the same results. Reads item 30 in flash, an
  * IMEI. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
  *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes) */
@@ -3532,7 +3532,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI(MEROVANE_IN_TEXT cons
 
 /** QV_WriteData_Flash_IMEI for the port `port`, with the same results. Writes item 30 in flash, an
  * IMEI. Waits 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  begins with 15 decimal digits; what follows does not matter */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
     int32_t port, MEROVANE_IN_TEXT const char *text);
@@ -3550,7 +3550,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI(
 
 /** QV_ReadData_Flash_SecIMEI for the port `port`, with the same results. Reads item 35 in flash, an
  * IMEI. Waits 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
  *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes) */
@@ -3566,7 +3566,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI(MEROVANE_IN_TEXT c
 
 /** QV_WriteData_Flash_SecIMEI for the port `port`, with the same results. Writes item 35 in flash,
  * an IMEI. Waits 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  begins with 15 decimal digits; what follows does not matter */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(
     int32_t port, MEROVANE_IN_TEXT const char *text);
@@ -3581,7 +3581,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
 
 /** QV_SaveToFlash for the port `port`, with the same results. Saves all items in RAM to flash,
  * through item 32.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t timeout_ms);
 
@@ -3596,7 +3596,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(
 
 /** QV_GetRfScheme for the port `port`, with the same results. Reads item 33 in RAM: 6 values. Waits
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what the answer lacks stays as it was (6 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(
     int32_t port, MEROVANE_OUT_N(6) uint16_t *values) MEROVANE_WRITES(2);
@@ -3782,7 +3782,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
 
 /** QV_SetPhoneClassmark_MChip for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  0, 1, 3 or 4 */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip_MT(int32_t port, uint32_t band);
 
@@ -3795,7 +3795,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
 
 /** QV_SetPhoneAfcMode for the port `port`, with the same results. Chooses how QV_AfcStart_MChip
  * trims: with CDAC and CAFC (not 0) or with the CAFC centre (0). Nothing is sent.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t mode);
 
@@ -3818,7 +3818,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip(uint32_t on);
 
 /** QV_Active_MChip for the port `port`, with the same results. Activates (non-zero) or deactivates
  * the calibration layer; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on);
 
@@ -3834,7 +3834,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on)
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip(uint32_t on, uint16_t channel, uint16_t level);
 
 /** QV_TxOn_MChip for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param on
  * @param channel
  * @param level */
@@ -3855,7 +3855,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
     uint32_t start, MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
 
 /** QV_AfcStart_MChip for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start
  * @param parameters  not used to stop */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
@@ -3877,7 +3877,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
     MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /** QV_AgcStart_MChip for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start
  * @param parameters
  * @param measured  `value` stays as it was; not used to stop */
@@ -3897,7 +3897,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr(
     MEROVANE_OUT uint16_t *second) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
 /** QV_CalDirectCurr for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param first  the second word of the measurement
  * @param second  the first word of the measurement */
 MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr_MT(
@@ -3917,7 +3917,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd(
     uint32_t timeout_ms) MEROVANE_READS(1) MEROVANE_WRITES(2);
 
 /** QV_SendNonSignalCmd for the port `port`, with the same results. Sends a non-signalling command.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command
  * @param answer  written for command 6 only, also when the handset reports a failure; for others it
  *   may be null
@@ -3941,7 +3941,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
 /** QV_PwrStepFactorSet_MChip for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step  band, level, value and index, as described there */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -3956,7 +3956,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(
 
 /** QV_Set_Flash_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes `third` to
  * item 36 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step  band, level, value and index, as described there */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -3971,7 +3971,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(
 
 /** QV_Set_Ram_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes `third` to
  * item 36 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step  band, level, value and index, as described there */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -3986,7 +3986,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(
 
 /** QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes `third`
  * to item 37 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step  band, level, value and index, as described there */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -4001,7 +4001,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(
 
 /** QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes `third` to
  * item 37 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step  band, level, value and index, as described there */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -4021,7 +4021,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip(
 
 /** QV_RampSetting_Ram_MChip for the port `port`, with the same results. Writes two ramp tables in
  * RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  which pair of items
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
@@ -4047,7 +4047,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip(
 
 /** QV_ReadRamp_Ram_MChip for the port `port`, with the same results. Reads two ramp tables from
  * RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  which pair of items
  * @param first  the points of the first item; those that an answer lacks stay as they were (16
  *   values)
@@ -4072,7 +4072,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip(
 
 /** QV_RampSetting_Flash_MChip for the port `port`, with the same results. Writes two ramp tables in
  * flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  which pair of items
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
@@ -4098,7 +4098,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip(
 
 /** QV_ReadRamp_Flash_MChip for the port `port`, with the same results. Reads two ramp tables from
  * flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  which pair of items
  * @param first  the points of the first item; those that an answer lacks stay as they were (16
  *   values)
@@ -4120,7 +4120,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep(
 
 /** QV_TDTxSweep for the port `port`, with the same results. Starts a transmit sweep over a list of
  * points; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param sweep */
 MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep_MT(
     int32_t port, MEROVANE_IN const QV_TD_TX_SWEEP *sweep) MEROVANE_READS(2);
@@ -4134,7 +4134,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx(
     MEROVANE_IN const QV_TD_TX_START *start) MEROVANE_READS(1);
 
 /** QV_TdStartTx for the port `port`, with the same results. Starts transmitting; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start */
 MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx_MT(
     int32_t port, MEROVANE_IN const QV_TD_TX_START *start) MEROVANE_READS(2);
@@ -4149,7 +4149,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD(
 
 /** QV_PwrStepFactorSweepSet_TD for the port `port`, with the same results. Sets the power steps to
  * sweep over; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param sweep */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_TD_POWER_SWEEP *sweep) MEROVANE_READS(2);
@@ -4164,7 +4164,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
 
 /** QV_PwrStepFactorSet_TD for the port `port`, with the same results. Sets a power step factor,
  * with what QV_SetTDContTxRxMode said; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
@@ -4178,7 +4178,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
 
 /** QV_SetTDContTxRxMode for the port `port`, with the same results. Chooses continuous transmission
  * and reception (not 0) for QV_PwrStepFactorSet_TD. Nothing is sent.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode_MT(int32_t port, uint32_t mode);
 
@@ -4192,7 +4192,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD(
     MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(1);
 
 /** QV_ReadMode_TD for the port `port`, with the same results. Reads the handset's mode; 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param data  the answer's payload, cut to `capacity`
  * @param capacity  bytes at `data`, above 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
@@ -4207,7 +4207,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD(uint32_t mode);
 
 /** QV_SetPhoneStartMode_TD for the port `port`, with the same results. Puts a booting handset into
  * a TD-SCDMA start mode and takes the next frame as its acknowledgement; 3000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode  128 is added, and the sum sent in 8 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint32_t mode);
 
@@ -4221,7 +4221,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(
 
 /** QV_ReadTDCalParam for the port `port`, with the same results. Reads calibration parameters; 1000
  * ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param parameters  selector and count are given, the values written, on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(
     int32_t port, MEROVANE_OUT QV_TD_PARAMETERS *parameters) MEROVANE_WRITES(2);
@@ -4236,7 +4236,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(
 
 /** QV_WriteTDCalParam for the port `port`, with the same results. Writes calibration parameters;
  * 1000 ms.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param parameters */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
     int32_t port, MEROVANE_IN const QV_TD_PARAMETERS *parameters) MEROVANE_READS(2);
@@ -4255,7 +4255,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile(MEROVANE_IN_TEXT const char *path);
 
 /** QV_OpenPrjFile for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  of the project file, in the system's narrow encoding; its module files are read with
  *   it. `path` must have a directory part ("./p.prj"): without one, reading stops at the first
  *   TARGET or MODULE line that is not absolute, and the result is 0 with the modules read so far,
@@ -4269,7 +4269,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile(void);
 
 /** QV_ClosePrjFile for the port `port`, with the same results. Closes the phone object's NV
  * project. Changes that were not put into an image are lost.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
 
 /** Reads an item's content as text.
@@ -4286,7 +4286,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue(
     uint32_t capacity) MEROVANE_WRITES(3);
 
 /** QV_GetNvValue for the port `port`, with the same results. Reads an item's content as text.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param module  not used: the first item of that path in load order answers
  * @param path  full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
  * @param text  exactly `capacity` bytes are written: the text, cut to fit, then zeros. A text of
@@ -4308,7 +4308,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue(
     uint32_t module, MEROVANE_IN_TEXT const char *path, MEROVANE_IN_TEXT const char *text);
 
 /** QV_SetNvValue for the port `port`, with the same results. Replaces an item's content.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param module
  * @param path
  * @param text  a block of 256 bytes; at most 255 characters, up to the first zero, are stored.
@@ -4329,7 +4329,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory(
 
 /** QV_GenerateNvBianryDataBlockInMemory for the port `port`, with the same results. Builds the NV
  * image.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param buffer  65,536 bytes; those behind the image become zero
  * @param length  bytes of the image */
 MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
@@ -4353,7 +4353,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize(
     MEROVANE_IN_TEXT const char *path, MEROVANE_OUT uint32_t *offset) MEROVANE_WRITES(2);
 
 /** QV_GetItemOffsetAndSize for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  letter case counts
  * @param offset  in bytes. No size is told, whatever the name says */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
@@ -4375,7 +4375,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType(
     uint32_t length) MEROVANE_WRITES(2);
 
 /** QV_ConvertDataByDataType for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
  * @param data
@@ -4401,7 +4401,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc(
 
 /** QV_GetNvValue_Agc for the port `port`, with the same results. Reads a band's AGC words, gain
  * index and receive boundaries.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param agc_words  91 values
  * @param gain_index  one value
  * @param rx_boundary  4 values
@@ -4427,7 +4427,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc(
     uint32_t band) MEROVANE_READS(1) MEROVANE_READS(3);
 
 /** QV_SetNvValue_Agc for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param agc_words  91 values
  * @param gain_index
  * @param rx_compensation  5 values
@@ -4456,7 +4456,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc(
     uint32_t band) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6);
 
 /** QV_GetNvValue_Apc for the port `port`, with the same effect and results.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param ramp_up_stage0  16 values, as are the next three
  * @param ramp_up_stage1
  * @param ramp_down_stage0
@@ -4480,7 +4480,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc(
     MEROVANE_IN const uint16_t *step_factor, uint32_t band) MEROVANE_READS(1);
 
 /** QV_SetNvValue_Apc for the port `port`, with the same results. Writes a band's step factors.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param step_factor  80 values
  * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc_MT(
@@ -4505,7 +4505,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion(
 
 /** QV_GetNvValue_NvVersion for the port `port`, with the same results. Reads the version of the
  * calibration parameters.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param version */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_MT(
     int32_t port, MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(2);
@@ -4519,7 +4519,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD(
     MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(1);
 
 /** QV_GetNvValue_NvVersion_TD for the port `port`, with the same results. Reads the same version.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param version */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD_MT(
     int32_t port, MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(2);
@@ -4536,7 +4536,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1(
 
 /** QV_GetNvValue_Adc_1 for the port `port`, with the same results. Reads the ADC's and the
  * battery's calibration points.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param adc  2 values
  * @param battery  2 values */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1_MT(
@@ -4555,7 +4555,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1(
 
 /** QV_SetNvValue_Adc_1 for the port `port`, with the same results. Writes the ADC's and the
  * battery's calibration points, 2 values each.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param adc
  * @param battery */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1_MT(
@@ -4572,7 +4572,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2(
 
 /** QV_GetNvValue_Adc_2 for the port `port`, with the same results. Reads the charger's voltage
  * table.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param voltage_table  16 values */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2_MT(
     int32_t port, MEROVANE_OUT uint16_t *voltage_table) MEROVANE_WRITES(2);
@@ -4587,7 +4587,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2(
 
 /** QV_SetNvValue_Adc_2 for the port `port`, with the same results. Writes the charger's voltage
  * table, 16 values.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param voltage_table */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2_MT(
     int32_t port, MEROVANE_IN const uint16_t *voltage_table) MEROVANE_READS(2);
@@ -4603,7 +4603,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1(
     MEROVANE_OUT uint16_t *slope) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
 /** QV_GetNvValue_Afc_1 for the port `port`, with the same results. Reads the AFC centre and slope.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param center
  * @param slope */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1_MT(
@@ -4618,7 +4618,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1(uint16_t center, uint16_t slope);
 
 /** QV_SetNvValue_Afc_1 for the port `port`, with the same results. Writes the AFC centre and slope.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param center
  * @param slope */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1_MT(
@@ -4640,7 +4640,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2(
     MEROVANE_OUT uint16_t *slope_reciprocal) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6);
 
 /** QV_GetNvValue_Afc_2 for the port `port`, with the same results. Reads the AFC structure.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param slope_length
  * @param cdac
  * @param cafc
@@ -4669,7 +4669,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2(
     MEROVANE_IN const uint16_t *slope_reciprocal) MEROVANE_READS(4) MEROVANE_READS(5) MEROVANE_READS(6);
 
 /** QV_SetNvValue_Afc_2 for the port `port`, with the same results. Writes the AFC structure.
- * @param port  1 and up, opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param slope_length
  * @param cdac
  * @param cafc
