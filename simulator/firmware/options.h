@@ -19,6 +19,8 @@ using std::chrono::milliseconds;
 // production-information block.
 enum class SerialLayout { Flash, Production };
 
+inline constexpr std::size_t kSerialNumberBytes = 24;
+
 struct HandsetOptions : PortOptions {
   ByteOrder byteOrder = ByteOrder::Big;
 
@@ -42,6 +44,10 @@ struct HandsetOptions : PortOptions {
   // starts with nothing written, whatever the file held.
   std::string stateFile;
   bool blank = false;
+  // What a new handset's factory wrote: one to four IMEIs of 15 digits, one or two serial numbers
+  // of at most 24 characters.
+  std::vector<std::string> imeis{"490154203237518", "490154203237526"};
+  std::vector<std::string> serialNumbers{"SIM0000000001", "SIM0000000002"};
   SerialLayout serialLayout = SerialLayout::Flash;
 
   // An unknown command is refused (subtype 2 of its type), or ignored.

@@ -18,16 +18,22 @@ void Storage::Open(const std::string& path, bool blank) {
   blank_ = blank;
   changed_ = true;
   if (path.empty() || blank || !std::filesystem::exists(path)) return;
+  const auto fail = [&](const std::string& reason) {
+    throw std::runtime_error("cannot read handset state " + path + ": " + reason);
+  };
   try {
     std::ifstream file(path);
+    if (!file) fail("it cannot be opened");
     const auto json = nlohmann::json::parse(file);
-    if (json.at("version") != kFormatVersion) throw std::runtime_error("another version");
+    if (json.at("version") != kFormatVersion) fail("it is of another version");
     for (const auto& part : json.at("made")) made_.insert(part.get<std::string>());
     for (const auto& [name, hex] : json.at("items").items()) {
       items_[name] = FromHex(hex.get<std::string>());
     }
-  } catch (const std::exception& error) {
-    throw std::runtime_error("cannot read handset state " + path + ": " + error.what());
+  } catch (const nlohmann::json::exception&) {
+    fail("it is not a state file of a simulated handset");
+  } catch (const std::invalid_argument& error) {
+    fail(error.what());
   }
   changed_ = false;
 }

@@ -37,6 +37,20 @@ std::string Describe(const char* direction, const Frame& frame) {
   return line;
 }
 
+void Check(const HandsetOptions& options) {
+  for (const std::string& imei : options.imeis) {
+    if (imei.size() != 15 || imei.find_first_not_of("0123456789") != std::string::npos) {
+      throw std::invalid_argument("not an IMEI: " + imei + " (it has 15 digits)");
+    }
+  }
+  for (const std::string& number : options.serialNumbers) {
+    if (number.size() > kSerialNumberBytes) {
+      throw std::invalid_argument("not a serial number: " + number + " (it has at most " +
+                                  std::to_string(kSerialNumberBytes) + " characters)");
+    }
+  }
+}
+
 }  // namespace
 
 Core::Core(HandsetOptions options)
@@ -54,6 +68,7 @@ Core::Core(HandsetOptions options)
           io_, faults_, options_.timeScale,
           [this](Bytes bytes) { transport_->Write(std::move(bytes)); },
           [this] { CutConnection(); }) {
+  Check(options_);
   for (const std::string& fault : options_.faults) faults_.Set(fault);
 }
 

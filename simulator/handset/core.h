@@ -27,6 +27,7 @@ namespace handset {
 
 class Core final : public Firmware {
  public:
+  // Throws std::invalid_argument when an option says nothing that a handset can be.
   explicit Core(HandsetOptions options);
   ~Core();
 

@@ -28,8 +28,18 @@ constexpr std::array<FaultName, kFaultKinds> kNames{{
     {"disconnect", "", 0, "", 0},
 }};
 
+// Says what would have been one.
 [[noreturn]] void Refuse(std::string_view text) {
-  throw std::invalid_argument("not a fault: " + std::string(text));
+  std::string known;
+  for (const FaultName& each : kNames) {
+    known += ", " + std::string(each.name);
+    for (const std::string_view key : {each.timeKey, each.countKey}) {
+      if (!key.empty()) known += "[," + std::string(key) + ":N]";
+    }
+  }
+  throw std::invalid_argument("not a fault: " + std::string(text) +
+                              " (name=probability, name=next:N or none; the names are" +
+                              known.substr(1) + ")");
 }
 
 unsigned ParseNumber(std::string_view digits, std::string_view text) {

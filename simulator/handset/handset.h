@@ -33,6 +33,7 @@ struct HandsetState {
 
 class Handset {
  public:
+  // Throws std::invalid_argument when an option says nothing that a handset can be.
   explicit Handset(HandsetOptions options);
   Handset(const Handset&) = delete;
   Handset& operator=(const Handset&) = delete;

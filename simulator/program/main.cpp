@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <stdexcept>
 #include <string>
 #include <thread>
 
@@ -31,6 +32,14 @@ void TakeTcpAddress(const std::string& text, HandsetOptions& options) {
   options.transport = TransportKind::Tcp;
   options.tcpPort = static_cast<std::uint16_t>(number);
   if (!host.empty()) options.address = host;
+}
+
+constexpr int kTrouble = 1;
+constexpr int kBadOptions = 2;
+
+int Complain(const std::exception& error, int exitCode) {
+  std::fprintf(stderr, "merovane-handset: %s\n", error.what());
+  return exitCode;
 }
 
 struct CommandLine {
@@ -94,6 +103,13 @@ void Declare(CLI::App& app, CommandLine& line) {
          },
          "Where a new handset has its serial numbers")
       ->check(CLI::IsMember({"flash", "production"}));
+  app.add_option("--imei", o.imeis, "IMEI of a new handset; give it again for more, up to four")
+      ->take_all()
+      ->expected(1, 4);
+  app.add_option("--serial-number", o.serialNumbers,
+                 "Serial number of a new handset; give it again for the second one")
+      ->take_all()
+      ->expected(1, 2);
   app.add_flag_callback(
       "--ignore-unknown", [&o] { o.refuseUnknown = false; },
       "Ignore unknown commands instead of refusing them");
@@ -128,9 +144,14 @@ void Serve(const HandsetOptions& options) {
 
 int Run(int argc, char** argv) {
   CLI::App app("A simulated handset on a pseudo-terminal, a TCP port or a serial device");
+  app.set_version_flag("--version", MEROVANE_VERSION);
   CommandLine line;
   Declare(app, line);
-  CLI11_PARSE(app, argc, argv);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? EXIT_SUCCESS : kBadOptions;
+  }
   if (line.verbose) {
     line.options.transcript = [](const std::string& text) { std::cerr << text + "\n"; };
   }
@@ -143,8 +164,9 @@ int Run(int argc, char** argv) {
 int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
+  } catch (const std::invalid_argument& error) {
+    return Complain(error, kBadOptions);
   } catch (const std::exception& error) {
-    std::fprintf(stderr, "merovane-handset: %s\n", error.what());
-    return EXIT_FAILURE;
+    return Complain(error, kTrouble);
   }
 }

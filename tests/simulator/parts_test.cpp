@@ -247,6 +247,18 @@ TEST(Parts, WifiCountsPacketsWhileTheReceiverIsOn) {
   EXPECT_EQ(talk.Ask("54/9"), none);
 }
 
+TEST(Parts, ANewHandsetHasItsOwnNumbers) {
+  HandsetOptions options = Running();
+  options.imeis = {"356938035643809"};
+  options.serialNumbers = {"LINE-7"};
+  const Talk talk(options);
+  EXPECT_EQ(talk.phone.Status("fixed_nv.imei1"), "356938035643809");
+  EXPECT_EQ(talk.phone.Status("identity.imei_count"), "1");
+  EXPECT_EQ(talk.phone.Status("identity.sn"), "LINE-7");
+  options.serialNumbers = {std::string(25, 'x')};
+  EXPECT_THROW(Handset{options}, std::invalid_argument);
+}
+
 class StateFile : public testing::Test {
  protected:
   StateFile() {

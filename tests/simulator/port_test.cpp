@@ -42,6 +42,7 @@ TEST(PtyPort, LinkIsReplacedAndRemovedButNothingElseIs) {
   {
     Started phone(options);
     EXPECT_EQ(phone.DevicePath(), options.link);
+    EXPECT_THROW(Started{options}, std::runtime_error) << "the name is another handset's";
     EXPECT_TRUE(WireStation(options.link).Ask(28, 0));
   }
   EXPECT_FALSE(fs::exists(fs::symlink_status(options.link)));

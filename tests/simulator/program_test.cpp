@@ -75,16 +75,23 @@ TEST(HandsetProgram, ServesTcp) {
 }
 
 TEST(HandsetProgram, SaysWhatIsWrongAndFails) {
-  for (const std::vector<std::string>& arguments :
-       std::vector<std::vector<std::string>>{{"--serial", "/dev/no-such-device"},
-                                             {"--tcp", "host:x"},
-                                             {"--fault", "drop=7"},
-                                             {"--tcp", "0", "--link", "/tmp/x"},
-                                             {"--state", HANDSET_PROGRAM},
-                                             {"--mode", "256"}}) {
-    Program program(arguments);
-    EXPECT_NE(program.Line(), "") << arguments[0];
-    EXPECT_GT(program.Wait(), 0) << arguments[0];
+  struct Case {
+    std::vector<std::string> arguments;
+    int exitCode;
+    const char* words;
+  };
+  for (const Case& each :
+       {Case{{"--serial", "/dev/no-such-device"}, 1, "cannot open /dev/no-such-device"},
+        {{"--tcp", "host:x"}, 2, "[host:]port"},
+        {{"--fault", "bogus=1"}, 2, "drop, duplicate, corrupt[,bytes:N]"},
+        {{"--tcp", "0", "--link", "/tmp/x"}, 2, "--link"},
+        {{"--state", HANDSET_PROGRAM}, 1, "not a state file"},
+        {{"--imei", "4901542032375"}, 2, "15 digits"},
+        {{"--mode", "256"}, 2, "--mode"},
+        {{"--version"}, 0, "."}}) {
+    Program program(each.arguments);
+    EXPECT_NE(program.Line(each.words), "") << each.words;
+    EXPECT_EQ(program.Wait(), each.exitCode) << each.words;
   }
 }
 

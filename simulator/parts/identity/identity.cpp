@@ -20,7 +20,6 @@ constexpr std::size_t kProductionBytes = 256;
 constexpr const char* kFlashItem = "flash/0";
 constexpr std::size_t kFlashItemBytes = 1752;
 constexpr std::size_t kGuidOffset = 152;
-constexpr std::size_t kSerialBytes = 24;
 
 struct Layout {
   const char* name;
@@ -43,7 +42,7 @@ bool HasMagic(const Bytes* item, const Layout& layout) {
 
 std::string Text(const Bytes& item, std::size_t offset) {
   std::string text;
-  for (std::size_t i = offset; i < std::min(item.size(), offset + kSerialBytes); ++i) {
+  for (std::size_t i = offset; i < std::min(item.size(), offset + kSerialNumberBytes); ++i) {
     if (item[i] == 0) break;
     text += static_cast<char>(item[i]);
   }
@@ -83,8 +82,9 @@ class IdentityPart final : public Part {
     const Layout& layout = inFlash ? kFlashLayout : kProductionLayout;
     Bytes item(inFlash ? kFlashItemBytes : kProductionBytes);
     Place(item, 0, layout.magic);
-    Place(item, layout.serial, "SIM0000000001");
-    Place(item, layout.secondSerial, "SIM0000000002");
+    const std::vector<std::string>& numbers = firmware_.Options().serialNumbers;
+    if (!numbers.empty()) Place(item, layout.serial, numbers[0]);
+    if (numbers.size() > 1) Place(item, layout.secondSerial, numbers[1]);
     if (inFlash) Place(item, kGuidOffset, "simulated-guid-1");
     flash.Put(layout.item, std::move(item));
   }
@@ -121,7 +121,7 @@ class IdentityPart final : public Part {
 
   std::uint32_t ImeiCount() const {
     std::uint32_t count = 0;
-    for (FixedNvField field : {kImei1, kImei2, kImei3, kImei4}) {
+    for (const FixedNvField field : kImeis) {
       const Bytes imei = ReadFixedNv(firmware_.Flash(), field);
       count += std::any_of(imei.begin(), imei.end(), [](std::uint8_t byte) { return byte != 0; });
     }

@@ -2,6 +2,7 @@
 // of the handset read and write its fields.
 #pragma once
 
+#include <array>
 #include <span>
 #include <string>
 
@@ -22,6 +23,7 @@ inline constexpr FixedNvField kGpsBlock{22, 44};
 inline constexpr FixedNvField kWifiAddress{66, 6};  // first byte first
 inline constexpr FixedNvField kImei3{74, 8};
 inline constexpr FixedNvField kImei4{82, 8};
+inline constexpr std::array kImeis{kImei1, kImei2, kImei3, kImei4};
 
 // A blank handset holds zeros.
 Bytes FixedNv(Storage& flash);

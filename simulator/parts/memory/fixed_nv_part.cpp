@@ -1,4 +1,5 @@
 // The fixed-NV information block as stations read and write it, type 94.
+#include <algorithm>
 #include <array>
 
 #include "parts/memory/crc16.h"
@@ -48,8 +49,10 @@ class FixedNvPart final : public Part {
   }
 
   void WriteFactoryData(Storage& flash) override {
-    WriteFixedNv(flash, kImei1, PackImei("490154203237518"));
-    WriteFixedNv(flash, kImei2, PackImei("490154203237526"));
+    const std::vector<std::string>& imeis = firmware_.Options().imeis;
+    for (std::size_t i = 0; i < std::min(imeis.size(), kImeis.size()); ++i) {
+      WriteFixedNv(flash, kImeis[i], PackImei(imeis[i]));
+    }
     WriteFixedNv(flash, kBluetoothAddress, Bytes{0x06, 0x05, 0x04, 0x03, 0x02, 0x02});
     WriteFixedNv(flash, kWifiAddress, Bytes{0x02, 0x12, 0x13, 0x14, 0x15, 0x16});
   }

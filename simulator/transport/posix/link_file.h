@@ -1,5 +1,5 @@
 // A symbolic link with a fixed name for a device whose own name changes. Without a name it
-// stands in a temporary folder of its own.
+// stands in a temporary folder of its own. A name belongs to one handset of the machine at a time.
 #pragma once
 
 #include <filesystem>
@@ -8,6 +8,7 @@ namespace handset {
 
 class LinkFile {
  public:
+  // Throws std::runtime_error when another handset that runs has the name.
   explicit LinkFile(std::filesystem::path path);
   LinkFile(const LinkFile&) = delete;
   LinkFile& operator=(const LinkFile&) = delete;
@@ -19,8 +20,11 @@ class LinkFile {
   const std::filesystem::path& Path() const { return path_; }
 
  private:
+  void Claim();
+
   std::filesystem::path path_;
   std::filesystem::path ownFolder_;
+  int claim_ = -1;
 };
 
 }  // namespace handset
