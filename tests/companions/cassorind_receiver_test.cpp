@@ -6,6 +6,8 @@
 
 #include "companions/cassorind_channel.h"
 #include "companions/chunks.h"
+#include "platform/event.h"
+#include "platform/thread.h"
 
 namespace peers {
 namespace {
@@ -77,11 +79,28 @@ TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
 
 TEST_P(CassorindReceiver, CloseEndsPostingToAQueueThatStaysFull) {
   FillQueue();
+  if (PostMessageToThread(self, 1, 0, 0)) GTEST_SKIP() << "no queue is ever full here";
   OpenWithReceiver();
   peer->Send("never taken");
   EXPECT_NE(channel->Close(), 0);
   Message message;
   while (TakeMessage(message, 0)) EXPECT_EQ(message.id, 1u);
+}
+
+TEST_P(CassorindReceiver, IsDroppedWhenItsThreadHasEndedAndNothingIsLost) {
+  merovane::platform::Thread receiver;
+  merovane::platform::Event end;
+  ASSERT_TRUE(receiver.Start([&end] { end.WaitMs(UINT32_MAX); }));
+  ASSERT_NE(channel->SetReceiver(kDataMessage, 1, receiver.Id()), 0);
+  Open();
+  end.Set();
+  ASSERT_TRUE(receiver.WaitMs(kPatienceMs));
+  for (int round = 0; round < 2; ++round) {
+    peer->Send("read");
+    EXPECT_EQ(ReadAll(*channel, 4), "read");
+    EXPECT_NE(channel->Close(), 0);
+    Open();
+  }
 }
 
 TEST_P(CassorindReceiver, AVanishedDeviceIsToldToReadsAndWrites) {

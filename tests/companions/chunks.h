@@ -11,6 +11,7 @@
 namespace peers {
 
 using merovane::platform::Message;
+using merovane::platform::PostMessageToThread;
 using merovane::platform::TakeMessage;
 
 // Takes chunks until `bytes` bytes are there.
@@ -36,7 +37,7 @@ inline void EmptyQueue() {
 inline int FillQueue() {
   const std::uint32_t self = merovane::platform::CurrentThreadId();
   int posted = 0;
-  while (posted < 10000 && merovane::platform::PostMessageToThread(self, 1, 0, 0)) ++posted;
+  while (posted < 10000 && PostMessageToThread(self, 1, 0, 0)) ++posted;
   return posted;
 }
 

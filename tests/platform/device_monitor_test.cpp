@@ -5,6 +5,7 @@
 #include <set>
 
 #include "platform/clock.h"
+#include "platform/serial_ports.h"
 #include "platform/system.h"
 
 namespace merovane::platform {
@@ -79,6 +80,18 @@ TEST_F(DeviceMonitorTest, PassesOverWhatIsNoNumberedDevice) {
   for (const auto& [name, value] : variables) SetVariable(name, value);
   EXPECT_EQ(NextArrival(kFewLooksMs), 0);
   for (const auto& [name, value] : variables) SetVariable(name, nullptr);
+}
+
+TEST(PortDevice, IsWhatTheEnvironmentNamesElseTheSystemsOwn) {
+  for (const std::int32_t port : {5, 250, 300}) {
+    const std::string variable = "CASSORIND_COM" + std::to_string(port);
+    EXPECT_EQ(DeviceOfPort(port), test::StandardDevice(port));
+    SetVariable(variable, "socket://127.0.0.1:80");
+    EXPECT_EQ(DeviceOfPort(port), "socket://127.0.0.1:80");
+    SetVariable(variable, "");
+    EXPECT_EQ(DeviceOfPort(port), test::StandardDevice(port)) << "an empty one says nothing";
+    SetVariable(variable, nullptr);
+  }
 }
 
 }  // namespace

@@ -12,8 +12,10 @@
 namespace merovane::platform {
 namespace {
 
-TEST(Event, StaysSetForEveryWaiterUntilItIsReset) {
-  Event event;
+class EventTest : public testing::TestWithParam<Event::For> {};
+
+TEST_P(EventTest, StaysSetForEveryWaiterUntilItIsReset) {
+  Event event(GetParam());
   EXPECT_FALSE(event.WaitMs(5));
   std::atomic<int> woken{0};
   std::vector<std::thread> waiters;
@@ -33,6 +35,9 @@ TEST(Event, StaysSetForEveryWaiterUntilItIsReset) {
   EXPECT_FALSE(event.IsSet());
   EXPECT_FALSE(event.WaitMs(0));
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, EventTest,
+                         testing::Values(Event::For::Threads, Event::For::Devices));
 
 // The waiter owns the event: it may be gone before Set has returned from telling.
 TEST(Event, MayBeDestroyedByTheWaiterAsSoonAsItIsSet) {

@@ -56,14 +56,19 @@ TEST(MessageQueue, WakesTheThreadThatWaits) {
     if (TakeMessage(message, UINT32_MAX)) taken = message.id;
   });
   asked.WaitMs(UINT32_MAX);
-  EXPECT_FALSE(PostMessageToThread(id, kOurs, 0, 0)) << "before it has a queue";
+  const MessageReceiver receiver(id);
+  EXPECT_FALSE(receiver.Post(kOurs, 0, 0)) << "before it has a queue";
+  EXPECT_FALSE(receiver.IsGone());
   asked.Reset();
   waiting.Set();
   asked.WaitMs(UINT32_MAX);
-  EXPECT_TRUE(PostMessageToThread(id, kOurs, 0, 0));
+  EXPECT_TRUE(receiver.Post(kOurs, 0, 0));
   taker.join();
   EXPECT_EQ(taken, kOurs);
-  EXPECT_FALSE(PostMessageToThread(id, kOurs, 0, 0)) << "after its thread has ended";
+  EXPECT_FALSE(receiver.Post(kOurs, 0, 0)) << "after its thread has ended";
+  // The system may still be busy with its end.
+  for (int i = 0; !receiver.IsGone() && i < 10'000; ++i) SystemClock().SleepMs(1);
+  EXPECT_TRUE(receiver.IsGone());
   EXPECT_FALSE(PostMessageToThread(0, kOurs, 0, 0));
 }
 

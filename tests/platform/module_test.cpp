@@ -5,53 +5,72 @@
 #include <fstream>
 
 #include "platform/files.h"
+#include "platform/system.h"
 #include "support/temp_directory.h"
 
 namespace merovane::platform {
 namespace {
+
+// Loads the probe library, whose thread starts with it.
+bool LoadProbe(Module& module) {
+  if (!module.Load("PlatformProbe")) return false;
+  const auto runs = reinterpret_cast<bool (*)()>(module.Find("PlatformProbeRuns"));
+  return runs && runs();
+}
 
 TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
   const merovane::test::TempDirectory elsewhere;
   const auto before = std::filesystem::current_path();
   std::filesystem::current_path(elsewhere.Path());
   Module module;
-  EXPECT_TRUE(module.Load("PlatformProbe"));
+  EXPECT_TRUE(LoadProbe(module));
   std::filesystem::current_path(before);
 
-  const auto answer = reinterpret_cast<int (*)()>(module.Find("PlatformProbeAnswer"));
-  ASSERT_NE(answer, nullptr);
-  EXPECT_EQ(answer(), 42);
   EXPECT_EQ(module.Find("NoSuchFunction"), nullptr);
   module.Free();
   EXPECT_FALSE(module.IsLoaded());
-  EXPECT_EQ(module.Find("PlatformProbeAnswer"), nullptr);
+  EXPECT_EQ(module.Find("PlatformProbeRuns"), nullptr);
 }
 
-// The system lets no thread end while a library is being unloaded on Windows; waiting for one there
-// must not take the whole limit.
-TEST(Module, IsUnloadedWithoutWaitingInVainForItsThreads) {
+// A station may keep its libraries in another folder than the program that loads the first of them.
+TEST(Module, IsFoundBesideTheLibraryThatLoadsIt) {
+  const merovane::test::TempDirectory elsewhere;
+  const std::filesystem::path probe = test::LibraryFile("PlatformProbe");
+  std::filesystem::copy_file(ExecutableDirectory() / probe, elsewhere.Path() / probe);
+  std::filesystem::copy_file(ExecutableDirectory() / probe,
+                             elsewhere.Path() / test::LibraryFile("PlatformOther"));
+  const test::LoadedFile library(elsewhere.Path() / probe);
+  const auto finds = reinterpret_cast<bool (*)(const char*)>(library.Find("PlatformProbeFinds"));
+  ASSERT_NE(finds, nullptr);
+  EXPECT_TRUE(finds("PlatformOther"));
+  EXPECT_FALSE(finds("PlatformMissing"));
+  EXPECT_FALSE(Module().Load("PlatformOther")) << "it is not beside this program";
+}
+
+// No thread runs before its library is loaded, and on Windows none can end while it is unloaded:
+// neither may be waited for.
+TEST(Module, IsLoadedAndUnloadedWithoutWaitingInVainForItsThreads) {
   bool endedInTime = false;
   Module module;
-  ASSERT_TRUE(module.Load("PlatformProbe"));
-  const auto start = reinterpret_cast<void (*)(bool*)>(module.Find("PlatformProbeStartThread"));
-  ASSERT_NE(start, nullptr);
-  start(&endedInTime);
+  ASSERT_TRUE(LoadProbe(module));
+  const auto tell = reinterpret_cast<void (*)(bool*)>(module.Find("PlatformProbeTellTheEnd"));
+  ASSERT_NE(tell, nullptr);
+  tell(&endedInTime);
   module.Free();
   EXPECT_TRUE(endedInTime);
 }
 
 TEST(Module, IsNotLoadedWhenItIsMissingOrNoLibrary) {
   Module module;
-  ASSERT_TRUE(module.Load("PlatformProbe"));
+  ASSERT_TRUE(LoadProbe(module));
   EXPECT_FALSE(module.Load("NoSuchLibrary"));
   EXPECT_FALSE(module.IsLoaded()) << "the one before is let go";
   EXPECT_FALSE(module.Load(""));
 
-  const std::filesystem::path garbage[] = {ExecutableDirectory() / "libPlatformGarbage.so",
-                                           ExecutableDirectory() / "PlatformGarbage.dll"};
-  for (const auto& path : garbage) std::ofstream(path) << "no library";
+  const auto garbage = ExecutableDirectory() / test::LibraryFile("PlatformGarbage");
+  std::ofstream(garbage) << "no library";
   EXPECT_FALSE(module.Load("PlatformGarbage"));
-  for (const auto& path : garbage) std::filesystem::remove(path);
+  std::filesystem::remove(garbage);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
-// A library that runs a thread and ends it when it is unloaded, as ours does.
+// A library that starts a thread when it is loaded and ends it when it is unloaded, and that loads
+// another, as ours do.
 #include "platform/event.h"
+#include "platform/module.h"
 #include "platform/thread.h"
 
 #if defined(_WIN32)
@@ -9,31 +11,47 @@
 #endif
 
 // The test finds them by name.
-PROBE_EXPORT int PlatformProbeAnswer();
-PROBE_EXPORT void PlatformProbeStartThread(bool* endedInTime);
+// True as soon as the thread runs.
+PROBE_EXPORT bool PlatformProbeRuns();
+PROBE_EXPORT bool PlatformProbeFinds(const char* probe);
+PROBE_EXPORT void PlatformProbeTellTheEnd(bool* endedInTime);
 
 namespace {
 
 using merovane::platform::Event;
+using merovane::platform::Module;
 using merovane::platform::Thread;
 
 struct Worker {
-  std::shared_ptr<Event> stop = std::make_shared<Event>();
+  struct Shared {
+    Event running, stop;
+  };
+  std::shared_ptr<Shared> shared = std::make_shared<Shared>();
   Thread thread;
   bool* endedInTime = nullptr;
 
+  Worker() {
+    thread.StartWithoutQueue([shared = shared] {
+      shared->running.Set();
+      shared->stop.WaitMs(UINT32_MAX);
+    });
+  }
   ~Worker() {
-    stop->Set();
-    if (endedInTime) *endedInTime = thread.WaitMs(10'000);
+    shared->stop.Set();
+    const bool inTime = thread.WaitMs(10'000);
+    if (endedInTime) *endedInTime = inTime;
   }
 } worker;
 
 }  // namespace
 
-int PlatformProbeAnswer() { return 42; }
+bool PlatformProbeRuns() { return worker.shared->running.WaitMs(60'000); }
 
-void PlatformProbeStartThread(bool* endedInTime) {
-  if (worker.thread.Start([stop = worker.stop] { stop->WaitMs(UINT32_MAX); })) {
-    worker.endedInTime = endedInTime;
-  }
+bool PlatformProbeFinds(const char* probe) {
+  Module module;
+  if (!PlatformProbeRuns() || !module.Load(probe)) return false;
+  const auto runs = reinterpret_cast<bool (*)()>(module.Find("PlatformProbeRuns"));
+  return runs && runs();
 }
+
+void PlatformProbeTellTheEnd(bool* endedInTime) { worker.endedInTime = endedInTime; }

@@ -10,6 +10,26 @@ namespace merovane::platform::test {
 // Null takes the variable away.
 void SetVariable(const std::string& name, const char* value);
 
+// The file of a library of this name.
+std::filesystem::path LibraryFile(const std::string& name);
+
+// A library that is loaded from a certain file.
+class LoadedFile {
+ public:
+  explicit LoadedFile(const std::filesystem::path& file);
+  ~LoadedFile();
+  LoadedFile(const LoadedFile&) = delete;
+  LoadedFile& operator=(const LoadedFile&) = delete;
+
+  void* Find(const char* function) const;
+
+ private:
+  void* handle_;
+};
+
+// The system's own device of port `port`.
+std::string StandardDevice(std::int32_t port);
+
 // An event as the library's callers make it.
 class OwnedEvent {
  public:

@@ -6,6 +6,13 @@ namespace cassorind {
 
 using platform::MutexLock;
 
+namespace {
+
+// How often a read that has nothing to read looks whether the receiver is still there.
+constexpr std::uint32_t kReceiverLookMs = 20;
+
+}  // namespace
+
 std::size_t Session::TakeKept(std::span<std::byte> buffer) {
   const MutexLock lock(keptMutex_);
   if (!fetchedLeft_.empty()) {
@@ -22,9 +29,12 @@ std::size_t Session::TakeKept(std::span<std::byte> buffer) {
 }
 
 std::int32_t Session::Read(std::span<std::byte> buffer, std::uint32_t timeLimitMs) {
-  if (PostsToAnyone()) {
+  while (PostsToAnyone()) {
     if (const std::size_t kept = TakeKept(buffer)) return static_cast<std::int32_t>(kept);
-    return ended_->WaitMs(timeLimitMs) ? platform::kDeviceGone : 0;
+    const std::uint32_t waitMs = std::min(timeLimitMs, kReceiverLookMs);
+    if (ended_->WaitMs(waitMs)) return platform::kDeviceGone;
+    timeLimitMs -= waitMs;
+    if (timeLimitMs == 0) return 0;
   }
   const MutexLock lock(readMutex_);
   if (const std::size_t kept = TakeKept(buffer)) return static_cast<std::int32_t>(kept);

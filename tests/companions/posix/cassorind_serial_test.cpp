@@ -6,6 +6,7 @@
 
 #include "companions/cassorind_channel.h"
 #include "companions/posix/pty_peer.h"
+#include "platform/message_queue.h"
 
 namespace peers {
 namespace {
@@ -19,7 +20,7 @@ TEST(CassorindSerial, OpensAndClosesLeaveNoDescriptors) {
   const PtyPeer pty;
   const PortDevice device(kPort, pty.DeviceName());
   const ChannelPointer channel = NewChannel();
-  ASSERT_NE(channel->SetReceiver(1124, 1, 1), 0);
+  ASSERT_NE(channel->SetReceiver(1124, 1, merovane::platform::CurrentThreadId()), 0);
   const std::size_t before = OpenDescriptors();
   for (int i = 0; i < 50; ++i) {
     ASSERT_TRUE(OpenAt(*channel, kPort, 115200));

@@ -18,7 +18,7 @@ std::unique_ptr<Peer> Make(const std::string& kind) {
 
 void TcpPeer::AwaitDelivery() {
   for (int unacknowledged = 1; unacknowledged > 0;) {
-    ASSERT_EQ(::ioctl(stream_.native_handle(), TIOCOUTQ, &unacknowledged), 0);
+    ASSERT_EQ(::ioctl(server_.Connection().native_handle(), TIOCOUTQ, &unacknowledged), 0);
   }
 }
 

@@ -11,6 +11,7 @@
 #include <ctime>
 #include <optional>
 #include <thread>
+#include <utility>
 
 #include "companions/posix/pty_peer.h"
 #include "platform/console.h"
@@ -55,6 +56,14 @@ TEST(PosixFiles, KeepModeAndLinkWhateverIsDoneToThem) {
   EXPECT_TRUE(std::filesystem::is_symlink(directory / "link"));
   EXPECT_EQ(FileText(real), kNew);
   EXPECT_EQ(ModeOf(real), 0640U);
+  if (getuid() == 0) {
+    constexpr uid_t kNobody = 65534;
+    ASSERT_EQ(chown(real.c_str(), kNobody, kNobody - 1), 0);
+    ASSERT_TRUE(ReplaceFile(real, kNew));
+    struct stat status {};
+    ASSERT_EQ(stat(real.c_str(), &status), 0);
+    EXPECT_EQ(std::pair(status.st_uid, status.st_gid), std::pair(kNobody, kNobody - 1));
+  }
 
   const auto longest = directory / std::string(NAME_MAX, 'n');
   EXPECT_TRUE(ReplaceFile(longest, kNew));
@@ -235,8 +244,10 @@ TEST(PosixSerialPorts, AreTheStandardDevicesWhereNothingElseIsNamed) {
   EXPECT_EQ(ports.Present().contains(1), exists);
   SetVariable("CASSORIND_COM1", "/nonexistent/port");
   EXPECT_FALSE(ports.Present().contains(1));
-  SetVariable("CASSORIND_COM1", nullptr);
-  EXPECT_EQ(ports.Present().contains(1), exists);
+  for (const char* silent : {"", static_cast<const char*>(nullptr)}) {
+    SetVariable("CASSORIND_COM1", silent);
+    EXPECT_EQ(ports.Present().contains(1), exists);
+  }
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "platform/system.h"
 
+#include <dlfcn.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -17,6 +18,15 @@ void SetVariable(const std::string& name, const char* value) {
     unsetenv(name.c_str());
   }
 }
+
+std::filesystem::path LibraryFile(const std::string& name) { return "lib" + name + ".so"; }
+
+LoadedFile::LoadedFile(const std::filesystem::path& file)
+    : handle_(dlopen(file.c_str(), RTLD_NOW | RTLD_LOCAL)) {}
+LoadedFile::~LoadedFile() { dlclose(handle_); }
+void* LoadedFile::Find(const char* function) const { return dlsym(handle_, function); }
+
+std::string StandardDevice(std::int32_t port) { return "/dev/ttyS" + std::to_string(port - 1); }
 
 // A blocking one: the library must not be held by it.
 OwnedEvent::OwnedEvent() : handle_(eventfd(0, EFD_CLOEXEC)) {}

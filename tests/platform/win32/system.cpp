@@ -50,6 +50,16 @@ void SetVariable(const std::string& name, const char* value) {
   SetEnvironmentVariableA(name.c_str(), value);
 }
 
+std::filesystem::path LibraryFile(const std::string& name) { return name + ".dll"; }
+
+LoadedFile::LoadedFile(const std::filesystem::path& file) : handle_(LoadLibraryW(file.c_str())) {}
+LoadedFile::~LoadedFile() { FreeLibrary(static_cast<HMODULE>(handle_)); }
+void* LoadedFile::Find(const char* function) const {
+  return reinterpret_cast<void*>(GetProcAddress(static_cast<HMODULE>(handle_), function));
+}
+
+std::string StandardDevice(std::int32_t port) { return "COM" + std::to_string(port); }
+
 OwnedEvent::OwnedEvent()
     : handle_(reinterpret_cast<std::intptr_t>(CreateEventW(nullptr, TRUE, FALSE, nullptr))) {}
 OwnedEvent::~OwnedEvent() { CloseHandle(reinterpret_cast<HANDLE>(handle_)); }
