@@ -93,6 +93,7 @@ void Connection::Receive() {
 }
 
 void Connection::SendBacklog() {
+  asio::const_buffer piece;
   {
     const platform::MutexLock lock(backlogMutex_);
     beingSent_.clear();
@@ -102,12 +103,13 @@ void Connection::SendBacklog() {
       if (finishing_) Close();
       return;
     }
+    // Only this thread changes what is being sent.
+    piece = asio::buffer(beingSent_);
   }
-  asio::async_write(socket_, asio::buffer(beingSent_),
-                    [this](const std::error_code& error, std::size_t) {
-                      if (error) return Close();
-                      SendBacklog();
-                    });
+  asio::async_write(socket_, piece, [this](const std::error_code& error, std::size_t) {
+    if (error) return Close();
+    SendBacklog();
+  });
 }
 
 void Connection::Finish() {
