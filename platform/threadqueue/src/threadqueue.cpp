@@ -120,25 +120,25 @@ Queue* CallersQueue() {
 
 std::uint32_t threadqueue_current_thread() { return static_cast<std::uint32_t>(::gettid()); }
 
-int threadqueue_post(std::uint32_t thread_id, std::uint32_t id, std::uintptr_t first,
+int threadqueue_post(std::uint32_t threadId, std::uint32_t id, std::uintptr_t first,
                      std::intptr_t second) try {
-  const auto queue = TheRegistry().Find(thread_id);
+  const auto queue = TheRegistry().Find(threadId);
   return queue && queue->Post({id, first, second}) ? 1 : 0;
 } catch (const std::bad_alloc&) {
   return 0;
 }
 
-int threadqueue_take(THREADQUEUE_MESSAGE* message, std::uint32_t time_limit_ms) try {
+int threadqueue_take(THREADQUEUE_MESSAGE* message, std::uint32_t timeLimitMs) try {
   Queue* const queue = CallersQueue();
-  return queue && message && queue->Take(*message, time_limit_ms) ? 1 : 0;
+  return queue && message && queue->Take(*message, timeLimitMs) ? 1 : 0;
 } catch (const std::bad_alloc&) {
   return 0;
 }
 
-int threadqueue_take_range(THREADQUEUE_MESSAGE* message, std::uint32_t first_id,
-                           std::uint32_t last_id) try {
+int threadqueue_take_range(THREADQUEUE_MESSAGE* message, std::uint32_t firstId,
+                           std::uint32_t lastId) try {
   Queue* const queue = CallersQueue();
-  return queue && message && queue->TakeRange(*message, first_id, last_id) ? 1 : 0;
+  return queue && message && queue->TakeRange(*message, firstId, lastId) ? 1 : 0;
 } catch (const std::bad_alloc&) {
   return 0;
 }
