@@ -1,4 +1,6 @@
 """The C++ faces: prototypes that bodies must match, what comes ahead of each body, the exported functions."""
+import re
+
 from model import BANDS, camel
 
 MADE = "// Made by api/generate from api/exports/*.api.\n"
@@ -77,7 +79,7 @@ def refusals(declaration):
     """(condition in C++ under which the arguments are refused)"""
     found = []
     for argument in declaration.arguments:
-        guard = f"({argument.when}) && " if argument.when else ""
+        guard = f"({unchecked(argument.when, declaration)}) && " if argument.when else ""
         name = raw_name(argument)
         if argument.is_pointer and not argument.optional:
             found.append(f"{guard}!{name}" if not guard else f"({guard}!{name})")
@@ -117,18 +119,26 @@ def views(declaration):
         if argument.fixed_extent is None:
             extent = f"static_cast<std::size_t>({as_cpp(extent, declaration)})"
         if argument.may_be_null:
-            there = raw if not argument.when else f"({argument.when}) && {raw}"
+            there = raw if not argument.when else f"({unchecked(argument.when, declaration)}) && {raw}"
             lines.append(f"  const {kind} {name} = {there} ? {kind}({pointer}, {extent}) : {kind}();\n")
         else:
             lines.append(f"  const {kind} {name}({pointer}, {extent});\n")
     return lines
 
 
-def as_cpp(expression, declaration):
-    import re
+def named(expression, declaration, name_of):
     for argument in declaration.arguments:
-        expression = re.sub(rf"(?<!\w){argument.name}(?!\w)", camel(argument.name), expression)
+        expression = re.sub(rf"(?<!\w){argument.name}(?!\w)", name_of(argument), expression)
     return expression
+
+
+def as_cpp(expression, declaration):
+    return named(expression, declaration, lambda argument: camel(argument.name))
+
+
+def unchecked(expression, declaration):
+    """The expression with the names that arguments have until they are checked."""
+    return named(expression, declaration, raw_name)
 
 
 def argument_for_body(argument):

@@ -43,19 +43,49 @@ def extent_text(argument):
     return f"`{extent}` {unit}"
 
 
-def facts(argument):
+def condition_text(argument, declaration):
+    """When the argument is checked at all."""
+    names = [declaration.argument(name) for name in argument.when.split(" && ")]
+    if names and all(other and other.is_pointer for other in names):
+        return f"when {listed([f'`{other.name}`' for other in names], ' and ')} " + (
+            "is not null" if len(names) == 1 else "are not null")
+    if len(names) == 1 and names[0]:
+        return f"when `{argument.when}` is not 0"
+    return f"when `{argument.when}`"
+
+
+def facts(argument, declaration):
     """What the declaration itself says of an argument."""
     found = [extent_text(argument)]
     if argument.stored:
-        found.append(f"`{argument.stored}` tells how many were stored")
-    found.append(range_text(argument))
+        found.append(f"counted in `{argument.stored}`")
+    bounds = range_text(argument)
+    if bounds and argument.when:
+        bounds += f" {condition_text(argument, declaration)}"
+    found.append(bounds)
     if argument.type == "ms":
         found.append("milliseconds")
     if argument.optional:
         found.append("may be null")
     if argument.when and argument.is_pointer:
-        found.append(f"may be null unless `{argument.when}`")
+        found.append(f"looked at only {condition_text(argument, declaration)}")
     return ", ".join(fact for fact in found if fact)
+
+
+def null_pointers(declaration):
+    """Which null pointers are refused, in words."""
+    pointers = [argument for argument in declaration.arguments if argument.is_pointer and not argument.optional]
+    always = [f"`{argument.name}`" for argument in pointers if not argument.when]
+    reasons = []
+    if len(always) > 1 and len(always) == len(pointers):
+        reasons.append("a null pointer")
+    elif always:
+        reasons.append(f"{listed(always)} is null")
+    for condition in dict.fromkeys(argument.when for argument in pointers if argument.when):
+        sometimes = [argument for argument in pointers if argument.when == condition]
+        reasons.append(f"{listed([f'`{argument.name}`' for argument in sometimes])} is null "
+                       f"{condition_text(sometimes[0], declaration)}")
+    return reasons
 
 
 def refused(export):
@@ -64,18 +94,14 @@ def refused(export):
     reasons = []
     if export.twin:
         reasons.append("`port` below 1")
-    pointers = [argument for argument in declaration.arguments if argument.is_pointer and not argument.optional]
-    if pointers:
-        always = [argument for argument in pointers if not argument.when]
-        reasons.append("a null pointer" if always and len(always) == len(declaration.arguments) or len(always) > 1
-                       else listed([f"`{argument.name}`" for argument in always]) + " is null" if always
-                       else "a null pointer that would be used")
+    reasons += null_pointers(declaration)
     for argument in declaration.arguments:
         bounds = range_text(argument)
         if argument.type == "band":
             reasons.append("another band")
         elif bounds:
-            reasons.append(f"`{argument.name}` other than {bounds}")
+            condition = f" {condition_text(argument, declaration)}" if argument.when else ""
+            reasons.append(f"`{argument.name}` other than {bounds}{condition}")
     return reasons + [text for _, text in declaration.requirements]
 
 
@@ -98,8 +124,9 @@ def results(export, api):
 
 def exchange_codes(declaration, api):
     described = {internal for internal, _ in declaration.results}
+    given = ("PortNotOpen",) if "own-results" in declaration.flags else USES[declaration.uses]
     return [api.result(internal).short_name if internal in ("NoAnswer", "Refused") else api.result(internal).public_name
-            for internal in USES[declaration.uses] if internal not in described]
+            for internal in given if internal not in described]
 
 
 def comment(export, api):
@@ -111,7 +138,7 @@ def comment(export, api):
     else:
         lines = wrap("/**", " ".join(declaration.brief), " *")
     for argument in export.arguments:
-        own = facts(argument)
+        own = facts(argument, declaration)
         text = " ".join(argument.documentation)
         text = f"{text} ({own})" if text and own else text or own
         lines += wrap(f" * @param {argument.name}  ", text, " *   ")

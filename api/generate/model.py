@@ -80,7 +80,7 @@ class Declaration:
     kind: str                    # command, session, project
     name: str
     operation: int | None = None
-    reported_as: str = ""        # the command under whose id the result goes
+    reported_as: str = ""        # the command that it ends in, whose operation it has
     uses: str = "local"
     flags: frozenset = frozenset()
     arguments: list = field(default_factory=list)

@@ -5,7 +5,7 @@ import sys
 import items
 from model import TYPES, USES, Api, Argument, Declaration, ResultCode, camel
 
-FLAGS = {"command": {"plain", "decorated", "twin-decorated"}, "session": {"void"},
+FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results"}, "session": {"void"},
          "project": {"plain", "image", "holder", "project-first"}}
 
 
@@ -114,12 +114,9 @@ def read_statement(text, where):
                               operation[3:].strip() if operation.startswith("as") else "",
                               uses[0] if uses else "local", flags, arguments)
     for argument in arguments:
-        argument.when = cpp_names(argument.when, arguments)
-        counted = argument.extent if argument.extent.isidentifier() else argument.stored
         for other in (argument.stored, argument.extent.lstrip("*") if argument.extent.lstrip("*").isidentifier() else ""):
             if other and not declaration.argument(other):
                 fail(where, f"{argument.name} names '{other}', which is no argument")
-        del counted
     read_clauses(declaration, rest[end + 1:], where)
     return declaration
 
@@ -207,6 +204,12 @@ def read_api(exports, result_codes):
                 documentation, statement = [], ""
         if statement:
             fail(path.name, f"'{statement}' does not end")
+    for declaration in api.declarations:
+        if declaration.reported_as:
+            declaration.operation = next(
+                (other.operation for other in api.declarations if other.name == declaration.reported_as), None)
+            if declaration.operation is None:
+                sys.exit(f"{declaration.name} ends in {declaration.reported_as}, which records no operation")
     names = [export.name for export in api.exports]
     for name in {name for name in names if names.count(name) > 1}:
         sys.exit(f"{name} is declared twice")

@@ -431,7 +431,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAT_MT(
 
 /** Reads the serving cell with "AT+CCED=0,1"; 2000 ms.
  * @param cell
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `cell` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo(
@@ -621,7 +621,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister_MT(
 
 /** Reads the chip's identification word; 1000 ms.
  * @param id
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `id` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID(MEROVANE_OUT uint32_t *id) MEROVANE_WRITES(1);
@@ -635,7 +635,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(
 
 /** Reads the chip's type word; 1000 ms.
  * @param type
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `type` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType(MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(1);
@@ -671,7 +671,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(
 
 /** Reads the flash description; 1000 ms.
  * @param info  written on success only
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `info` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo(
@@ -769,7 +769,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV_MT(int32_t port, uint32_t mod
 /** Writes IMEI 1 and 2, the Bluetooth address and the parameter block, those whose flags are set,
  * without a checksum; 3000 ms. The other fields' flags are not looked at.
  * @param info
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `info` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(
@@ -783,7 +783,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect_MT(
 
 /** Writes the fields whose flags are set, in one frame with a checksum; 3000 ms.
  * @param info
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `info` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo(
@@ -800,7 +800,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
  * @param info  its flags stay as they were. With codes 4, 6 and 34 all of it does; with the link's
  *   codes it is filled as from an empty block: IMEIs and addresses of zeros. A damaged digit of an
  *   IMEI reads as a letter a to f
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `info` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(
@@ -888,7 +888,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
 
 /** Reads the handset's GUID; 4000 ms. Its lines and operation id are those of QV_ReadFlash.
  * @param guid  16 bytes, as the handset holds them
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `guid` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT uint8_t *guid) MEROVANE_WRITES(1);
@@ -967,7 +967,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion_MT(
  * says: without one it gives 11.
  * @param count  the answer's first word in this machine's byte order, whatever the handset's;
  *   written with code 13 too
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `count` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(
@@ -1089,7 +1089,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
 
 /** Measures the battery; 1000 ms.
  * @param voltage  in the handset's unit; 0 is stored when the exchange failed
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `voltage` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(
@@ -1130,7 +1130,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
 /** Writes the GPS settings; 1000 ms.
  * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is
  *   the handset's
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `block` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(
@@ -1146,7 +1146,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
 /** Reads the GPS settings; 1000 ms.
  * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive
  *   read as 0
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `block` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(MEROVANE_OUT uint8_t *block) MEROVANE_WRITES(1);
@@ -1174,7 +1174,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode_MT(int32_t port, uint32_t ent
 
 /** Stores the Bluetooth address; 3000 ms.
  * @param address  6 bytes, most significant first
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr(
@@ -1188,7 +1188,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
 
 /** Reads the Bluetooth address; 1000 ms.
  * @param address  6 bytes, most significant first
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
@@ -1256,7 +1256,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t v
 
 /** Reads the stored value of the frequency DAC; 1000 ms.
  * @param value
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(
@@ -1280,7 +1280,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
 /** Stores the WiFi address; 3000 ms.
  * @param address  6 bytes. They reach the handset reversed, and QV_WIFI_LoadAddr does not turn them
  *   back: what is saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
@@ -1288,7 +1288,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
 
 /** Reads the WiFi address; 1000 ms.
  * @param address  6 bytes, as the handset holds them; written on success only
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(
@@ -1354,7 +1354,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(
 
 /** Stores the crystal's load capacitance; 3000 ms.
  * @param capacitance  2 bytes, sent as they are
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `capacitance` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
@@ -1516,7 +1516,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MT(
 
 /** Sets a power step factor; 1000 ms.
  * @param step
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet(
@@ -1532,7 +1532,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MT(
 /** Sets the power amplifier; 1000 ms. Only the low 16 bits of `fourth` are put into the handset's
  * byte order.
  * @param setting
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `setting` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PASetting(
@@ -1611,7 +1611,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
 
 /** Reads the IMEI from the handset's NV item 5; 1000 ms.
  * @param imei  8 bytes, two digits each, as the handset keeps them
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `imei` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT uint8_t *imei) MEROVANE_WRITES(1);
@@ -1626,7 +1626,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
 /** The same as text.
  * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value,
  *   10 to 15, and the text is cut to 15 characters
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(MEROVANE_OUT char *text) MEROVANE_WRITES(1);
@@ -1642,7 +1642,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
 
 /** Reads item 1 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1670,7 +1670,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, 
 
 /** Reads item 1 in flash: one value from offset 1. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1698,7 +1698,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, 
 
 /** Reads item 1 in RAM: one value from offset 2. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1726,7 +1726,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port
 
 /** Reads item 1 in flash: one value from offset 2. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1754,7 +1754,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t po
 
 /** Reads item 1 in RAM: one value from offset 3. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1782,7 +1782,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port
 
 /** Reads item 1 in flash: one value from offset 3. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1810,7 +1810,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t po
 
 /** Reads item 1 in flash: one value from offset 4. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1839,7 +1839,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
 
 /** Reads item 1 in flash: one value from offset 5. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1868,7 +1868,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
 
 /** Reads item 1 in flash: one value from offset 11. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1932,7 +1932,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
 
 /** Reads item 2 in RAM: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1960,7 +1960,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t po
 
 /** Reads item 2 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1989,7 +1989,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
 
 /** Reads item 3 in RAM: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2018,7 +2018,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_M
 
 /** Reads item 3 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2047,7 +2047,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits
 
 /** Reads item 5 in RAM: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2076,7 +2076,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
 
 /** Reads item 5 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2105,7 +2105,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
 
 /** Reads item 6 in RAM: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2133,7 +2133,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, ui
 
 /** Reads item 6 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2161,7 +2161,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, 
 
 /** Reads item 7 in RAM: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2189,7 +2189,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, ui
 
 /** Reads item 7 in flash: one value. Waits 1000 ms.
  * @param value  what the answer lacks stays as it was
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2217,7 +2217,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, 
 
 /** Reads item 14 in RAM: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2233,7 +2233,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
 
 /** Writes item 14 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr(
@@ -2248,7 +2248,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
 
 /** Reads item 14 in flash: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2264,7 +2264,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
 
 /** Writes item 14 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr(
@@ -2279,7 +2279,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
 
 /** Reads item 4 in RAM: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2295,7 +2295,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
 
 /** Writes item 4 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr(
@@ -2310,7 +2310,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
 
 /** Reads item 4 in flash: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2326,7 +2326,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
 
 /** Writes item 4 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr(
@@ -2341,7 +2341,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
 
 /** Reads item 15 in RAM: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2357,7 +2357,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_ar
 
 /** Writes item 15 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr(
@@ -2372,7 +2372,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
 
 /** Reads item 15 in flash: 17 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2388,7 +2388,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_
 
 /** Writes item 15 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr(
@@ -3507,7 +3507,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
  *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -3525,7 +3525,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI_MT(
 
 /** Writes item 30 in flash, an IMEI. Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
- * @retval PC_ERR_INVALID_PARAM  a null pointer; a text that does not begin with 15 decimal digits
+ * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI(MEROVANE_IN_TEXT const char *text);
@@ -3541,7 +3541,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
  *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -3559,7 +3559,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI_MT(
 
 /** Writes item 35 in flash, an IMEI. Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
- * @retval PC_ERR_INVALID_PARAM  a null pointer; a text that does not begin with 15 decimal digits
+ * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI(MEROVANE_IN_TEXT const char *text);
@@ -3587,7 +3587,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t time
 
 /** Reads item 33 in RAM: 6 values. Waits 1000 ms.
  * @param values  what the answer lacks stays as it was (6 values)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -3934,7 +3934,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
  * is sent when `second`, `third` and `fourth` are those that this function wrote last, whatever the
  * band and even if the handset was restarted since: the result is 0.
  * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(
@@ -3948,7 +3948,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
 
 /** Writes `third` to item 36 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band in `first`
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(
@@ -3963,7 +3963,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
 
 /** Writes `third` to item 36 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band in `first`
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(
@@ -3978,7 +3978,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
 
 /** Writes `third` to item 37 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band in `first`
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(
@@ -3993,7 +3993,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
 
 /** Writes `third` to item 37 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band in `first`
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(
@@ -4112,7 +4112,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
 
 /** Starts a transmit sweep over a list of points; 1000 ms.
  * @param sweep
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `sweep` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep(
@@ -4127,7 +4127,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep_MT(
 
 /** Starts transmitting; 1000 ms.
  * @param start
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `start` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx(
@@ -4141,7 +4141,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx_MT(
 
 /** Sets the power steps to sweep over; 1000 ms.
  * @param sweep
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `sweep` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD(
@@ -4156,7 +4156,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD_MT(
 
 /** Sets a power step factor, with what QV_SetTDContTxRxMode said; 1000 ms.
  * @param step
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
@@ -4213,7 +4213,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint
 
 /** Reads calibration parameters; 1000 ms.
  * @param parameters  selector and count are given, the values written, on success only
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(
@@ -4228,7 +4228,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(
 
 /** Writes calibration parameters; 1000 ms.
  * @param parameters
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(
@@ -4250,7 +4250,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
  *   it. `path` must have a directory part ("./p.prj"): without one, reading stops at the first
  *   TARGET or MODULE line that is not absolute, and the result is 0 with the modules read so far,
  *   mostly none
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `path` is null
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile(MEROVANE_IN_TEXT const char *path);
 
@@ -4497,7 +4497,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Factor(
 
 /** Reads the version of the calibration parameters.
  * @param version
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion(
@@ -4512,7 +4512,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_MT(
 
 /** Reads the same version.
  * @param version
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD(
@@ -4564,7 +4564,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1_MT(
 
 /** Reads the charger's voltage table.
  * @param voltage_table  16 values
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2(
@@ -4579,7 +4579,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2_MT(
 
 /** Writes the charger's voltage table, 16 values.
  * @param voltage_table
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2(
