@@ -1,4 +1,6 @@
 """The public headers: merovane.h, the manual of every exported function, and result_codes.h."""
+import re
+
 from model import BANDS, USES
 
 WIDTH = 100
@@ -30,6 +32,19 @@ def range_text(argument):
         return f"{argument.low or 0} to {argument.high}"
     if argument.low is not None:
         return f"{argument.low} and up" if argument.low != 1 or argument.type == "i32" else "above 0"
+    return ""
+
+
+def outside_text(argument):
+    """Which values are refused."""
+    if argument.one_of:
+        return f"other than {range_text(argument)}"
+    if argument.low is not None and argument.high is not None and argument.low > 0:
+        return f"outside {range_text(argument)}"
+    if argument.high is not None:
+        return f"above {argument.high}"
+    if argument.low is not None:
+        return f"below {argument.low}" if argument.low != 1 or argument.type == "i32" else "of 0"
     return ""
 
 
@@ -96,12 +111,12 @@ def refused(export):
         reasons.append("`port` below 1")
     reasons += null_pointers(declaration)
     for argument in declaration.arguments:
-        bounds = range_text(argument)
+        outside = outside_text(argument)
         if argument.type == "band":
             reasons.append("another band")
-        elif bounds:
+        elif outside:
             condition = f" {condition_text(argument, declaration)}" if argument.when else ""
-            reasons.append(f"`{argument.name}` other than {bounds}{condition}")
+            reasons.append(f"`{argument.name}` {outside}{condition}")
     return reasons + [text for _, text in declaration.requirements]
 
 
@@ -191,7 +206,8 @@ def prototype(export):
         return text + "\n"
     head, _, tail = text.partition("(")
     lines, line = [], " " * 4
-    for part in tail.split(", "):
+    # Between arguments only, not inside the macros that follow them.
+    for part in re.split(r", (?!\d)", tail):
         if len(line) + len(part) + 1 > WIDTH and line.strip():
             lines.append(line.rstrip())
             line = " " * 4

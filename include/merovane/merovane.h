@@ -151,132 +151,136 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
 
 /* ---- Test-mode start and phone modes ------------------------------------------------- */
 
-/** Waits for the frame that a handset sends while it boots.
- * @param data  the frame's 8-byte header, as received
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @param length  bytes stored, at most 8
+/** Waits for the start frame, which a handset sends while it boots. The setting "Inc Recv Timeout"
+ * does not lengthen the wait.
+ * @param data  the frame's 8-byte header, as it arrived (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @param length  how many bytes were stored, at most 8; written on success only
  * @param timeout_ms  0: nothing is read (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
+ * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time; one in the other byte order does
+ *   not count
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
-    MEROVANE_OUT uint8_t *data, uint32_t capacity, MEROVANE_OUT uint32_t *length,
-    uint32_t timeout_ms) MEROVANE_WRITES(1) MEROVANE_WRITES(3);
+    MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity, MEROVANE_OUT uint32_t *length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(1, 2) MEROVANE_WRITES(3);
 
-/** QV_RecvPhoneStartData for the port `port`, with the same results. Waits for the frame that a
- * handset sends while it boots.
+/** QV_RecvPhoneStartData for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the frame's 8-byte header, as received
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @param length  bytes stored, at most 8
+ * @param data  the frame's 8-byte header, as it arrived (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @param length  how many bytes were stored, at most 8; written on success only
  * @param timeout_ms  0: nothing is read (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
-    int32_t port, MEROVANE_OUT uint8_t *data, uint32_t capacity, MEROVANE_OUT uint32_t *length,
-    uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity,
+    MEROVANE_OUT uint32_t *length, uint32_t timeout_ms) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
-/** Puts a handset that has sent its start frame into a mode; waits 4000 ms for its acknowledgement,
- * not lengthened by the setting.
- * @param mode  0 to 127; 128 is added, and the sum sent in 8 bits
+/** Puts a handset that has sent its start frame into a mode. Waits 4000 ms for the acknowledgement;
+ * the setting "Inc Recv Timeout" does not lengthen the wait.
+ * @param mode  0 to 127, as the handset numbers its modes; mode + 128 is sent in 8 bits
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 
 /** QV_SetPhoneStartMode for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode  0 to 127; 128 is added, and the sum sent in 8 bits */
+ * @param mode  0 to 127, as the handset numbers its modes; mode + 128 is sent in 8 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_t mode);
 
-/** QV_RecvPhoneStartData, then QV_SetPhoneStartMode.
- * @param mode
- * @param timeout_ms  of the wait for the start frame (milliseconds)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** QV_RecvPhoneStartData, then QV_SetPhoneStartMode. The result is reported under the operation id
+ * of the last that ran.
+ * @param mode  as QV_SetPhoneStartMode takes it
+ * @param timeout_ms  of the wait for the start frame; 0: nothing is read (milliseconds)
+ * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time, and no mode was sent
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx(uint32_t mode, uint32_t timeout_ms);
 
 /** QV_SetPhoneStartModeEx for the port `port`, with the same results. QV_RecvPhoneStartData, then
- * QV_SetPhoneStartMode.
+ * QV_SetPhoneStartMode. The result is reported under the operation id of the last that ran.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode
- * @param timeout_ms  of the wait for the start frame (milliseconds) */
+ * @param mode  as QV_SetPhoneStartMode takes it
+ * @param timeout_ms  of the wait for the start frame; 0: nothing is read (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx_MT(
     int32_t port, uint32_t mode, uint32_t timeout_ms);
 
-/** QV_SetPhoneStartMode with the camp parameters in the request's sequence field.
- * @param mode
- * @param first_camp_parameter  4 bits
- * @param second_camp_parameter  11 bits
+/** QV_SetPhoneStartMode with camp parameters in the request's sequence field.
+ * @param mode  as QV_SetPhoneStartMode takes it
+ * @param first_camp_parameter  its low 4 bits are sent
+ * @param second_camp_parameter  its low 11 bits are sent
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetModeAndCampParam(
     uint32_t mode, uint32_t first_camp_parameter, uint32_t second_camp_parameter);
 
-/** QV_SetModeAndCampParam for the port `port`, with the same results. QV_SetPhoneStartMode with the
+/** QV_SetModeAndCampParam for the port `port`, with the same results. QV_SetPhoneStartMode with
  * camp parameters in the request's sequence field.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode
- * @param first_camp_parameter  4 bits
- * @param second_camp_parameter  11 bits */
+ * @param mode  as QV_SetPhoneStartMode takes it
+ * @param first_camp_parameter  its low 4 bits are sent
+ * @param second_camp_parameter  its low 11 bits are sent */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetModeAndCampParam_MT(
     int32_t port, uint32_t mode, uint32_t first_camp_parameter, uint32_t second_camp_parameter);
 
-/** Switches the handset's ARM trace output on (non-zero) or off. Nothing is awaited.
- * @param enable
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the handset's ARM trace output on or off.
+ * @param enable  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog(uint32_t enable);
 
 /** QV_EnableArmLog for the port `port`, with the same results. Switches the handset's ARM trace
- * output on (non-zero) or off. Nothing is awaited.
+ * output on or off.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param enable */
+ * @param enable  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog_MT(int32_t port, uint32_t enable);
 
-/** Switches the handset's DSP trace output on (non-zero) or off; 1000 ms.
- * @param enable
+/** Switches the handset's DSP trace output on or off. Waits 1000 ms.
+ * @param enable  0: off
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog(uint32_t enable);
 
 /** QV_EnableDspLog for the port `port`, with the same results. Switches the handset's DSP trace
- * output on (non-zero) or off; 1000 ms.
+ * output on or off. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param enable */
+ * @param enable  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog_MT(int32_t port, uint32_t enable);
 
-/** Changes the running handset's mode; 4000 ms.
- * @param mode
+/** Changes the mode of a running handset. Waits 4000 ms.
+ * @param mode  as the handset numbers its modes; 0 restarts it
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode(uint8_t mode);
 
-/** QV_ChangePhoneMode for the port `port`, with the same results. Changes the running handset's
- * mode; 4000 ms.
+/** QV_ChangePhoneMode for the port `port`, with the same results. Changes the mode of a running
+ * handset. Waits 4000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode */
+ * @param mode  as the handset numbers its modes; 0 restarts it */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode_MT(int32_t port, uint8_t mode);
 
-/** QV_ChangePhoneMode that tells whether the handset stays reachable on its port.
- * @param mode
- * @param answered  1 when the answer's payload has 2 bytes or more, else 0; written on success only
+/** QV_ChangePhoneMode, which also tells whether the handset stays reachable on its port.
+ * @param mode  as QV_ChangePhoneMode takes it
+ * @param answered  1 when the answer carries 2 bytes or more: the port stays; else 0. Written on
+ *   success only
  * @retval PC_ERR_INVALID_PARAM  `answered` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode(
     uint8_t mode, MEROVANE_OUT uint32_t *answered) MEROVANE_WRITES(2);
 
-/** QV_UsbChangePhoneMode for the port `port`, with the same results. QV_ChangePhoneMode that tells
- * whether the handset stays reachable on its port.
+/** QV_UsbChangePhoneMode for the port `port`, with the same results. QV_ChangePhoneMode, which also
+ * tells whether the handset stays reachable on its port.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode
- * @param answered  1 when the answer's payload has 2 bytes or more, else 0; written on success only */
+ * @param mode  as QV_ChangePhoneMode takes it
+ * @param answered  1 when the answer carries 2 bytes or more: the port stays; else 0. Written on
+ *   success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode_MT(
     int32_t port, uint8_t mode, MEROVANE_OUT uint32_t *answered) MEROVANE_WRITES(3);
 
-/** QV_UsbChangePhoneMode with the camp parameters in the request's sequence field.
- * @param mode
- * @param first_camp_parameter
- * @param second_camp_parameter
- * @param answered
+/** QV_UsbChangePhoneMode with camp parameters in the request's sequence field.
+ * @param mode  as QV_ChangePhoneMode takes it
+ * @param first_camp_parameter  its low 4 bits are sent
+ * @param second_camp_parameter  its low 11 bits are sent
+ * @param answered  as QV_UsbChangePhoneMode stores it
  * @retval PC_ERR_INVALID_PARAM  `answered` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -285,172 +289,206 @@ MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangeModeAndSetCampParam(
     MEROVANE_OUT uint32_t *answered) MEROVANE_WRITES(4);
 
 /** QV_UsbChangeModeAndSetCampParam for the port `port`, with the same results.
- * QV_UsbChangePhoneMode with the camp parameters in the request's sequence field.
+ * QV_UsbChangePhoneMode with camp parameters in the request's sequence field.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode
- * @param first_camp_parameter
- * @param second_camp_parameter
- * @param answered */
+ * @param mode  as QV_ChangePhoneMode takes it
+ * @param first_camp_parameter  its low 4 bits are sent
+ * @param second_camp_parameter  its low 11 bits are sent
+ * @param answered  as QV_UsbChangePhoneMode stores it */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangeModeAndSetCampParam_MT(
     int32_t port, uint8_t mode, uint32_t first_camp_parameter, uint32_t second_camp_parameter,
     MEROVANE_OUT uint32_t *answered) MEROVANE_WRITES(5);
 
 /** Restarts the handset and waits for its acknowledgement.
- * @param timeout_ms  above 0 (milliseconds)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+ * @param timeout_ms  of the acknowledgement (above 0, milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `timeout_ms` of 0
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone(uint32_t timeout_ms);
 
 /** QV_RestartPhone for the port `port`, with the same results. Restarts the handset and waits for
  * its acknowledgement.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param timeout_ms  above 0 (milliseconds) */
+ * @param timeout_ms  of the acknowledgement (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone_MT(int32_t port, uint32_t timeout_ms);
 
-/** Reads the handset's mode; 1000 ms.
- * @param data  the answer's payload, cut to `capacity`. Byte 3, where there is one, is turned into
- *   a start mode code (0x80 to 0x8F)
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+/** Reads the handset's mode. Waits 1000 ms.
+ * @param data  the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is not told. Byte 3
+ *   becomes a start mode code, 0x80 to 0x8F, when it arrived (`capacity` bytes)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `capacity` outside 1 to 2147483647
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode(
-    MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
 
-/** QV_ReadMode for the port `port`, with the same results. Reads the handset's mode; 1000 ms.
+/** QV_ReadMode for the port `port`, with the same results. Reads the handset's mode. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the answer's payload, cut to `capacity`. Byte 3, where there is one, is turned into
- *   a start mode code (0x80 to 0x8F)
- * @param capacity  bytes at `data`, 1 to 2147483647 */
+ * @param data  the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is not told. Byte 3
+ *   becomes a start mode code, 0x80 to 0x8F, when it arrived (`capacity` bytes)
+ * @param capacity  room at `data` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(
-    int32_t port, MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data,
+    uint32_t capacity) MEROVANE_WRITES_N(2, 3);
 
-/** Takes the next whole frame of any type, unescaped, header included.
- * @param data  the frame, cut to the capacity
- * @param length  in: bytes at `data`, 1 to 2147483647; out: bytes stored
- * @param timeout_ms  milliseconds
- * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+/** Takes the next whole frame of any type. The setting "Inc Recv Timeout" does not lengthen the
+ * wait.
+ * @param data  the frame without its flags and escapes: 8 bytes of header, then the payload
+ *   (`*length` bytes, counted in `length`)
+ * @param length  in: room at `data`; out: how many bytes were stored, 0 without a frame (1 to
+ *   2147483647)
+ * @param timeout_ms  of the frame; one that has begun to arrive gets up to 500 ms more (above 0,
+ *   milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` outside 1 to 2147483647; `timeout_ms` of 0
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the frame was cut to the room that there is
+ * @retval PC_ERR_DECODE_FAILED  a frame arrived that holds nothing
+ * @retval PC_ERR_NO_FRAME  no whole frame arrived in time
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read(
-    MEROVANE_OUT uint8_t *data, MEROVANE_OUT uint32_t *length,
-    uint32_t timeout_ms) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
+    MEROVANE_OUT_N(*length) uint8_t *data, MEROVANE_INOUT uint32_t *length,
+    uint32_t timeout_ms) MEROVANE_WRITES(1) MEROVANE_UPDATES(2);
 
-/** QV_Read for the port `port`, with the same results. Takes the next whole frame of any type,
- * unescaped, header included.
+/** QV_Read for the port `port`, with the same results. Takes the next whole frame of any type. The
+ * setting "Inc Recv Timeout" does not lengthen the wait.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the frame, cut to the capacity
- * @param length  in: bytes at `data`, 1 to 2147483647; out: bytes stored
- * @param timeout_ms  milliseconds */
+ * @param data  the frame without its flags and escapes: 8 bytes of header, then the payload
+ *   (`*length` bytes, counted in `length`)
+ * @param length  in: room at `data`; out: how many bytes were stored, 0 without a frame (1 to
+ *   2147483647)
+ * @param timeout_ms  of the frame; one that has begun to arrive gets up to 500 ms more (above 0,
+ *   milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read_MT(
-    int32_t port, MEROVANE_OUT uint8_t *data, MEROVANE_OUT uint32_t *length,
-    uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
+    int32_t port, MEROVANE_OUT_N(*length) uint8_t *data, MEROVANE_INOUT uint32_t *length,
+    uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_UPDATES(3);
 
-/** Writes bytes to the channel as they are.
- * @param data
- * @param length  above 0
- * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+/** Writes bytes to the port as they are. Neither they nor the result go to the Useful log.
+ * @param data  what is written (`length` bytes)
+ * @param length  how many bytes (1 and up)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` below 1
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
 MEROVANE_API int32_t MEROVANE_CALL QV_Write(
-    MEROVANE_IN const uint8_t *data, int32_t length) MEROVANE_READS(1);
+    MEROVANE_IN_N(length) const uint8_t *data, int32_t length) MEROVANE_READS_N(1, 2);
 
-/** QV_Write for the port `port`, with the same results. Writes bytes to the channel as they are.
+/** QV_Write for the port `port`, with the same results. Writes bytes to the port as they are.
+ * Neither they nor the result go to the Useful log.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data
- * @param length  above 0 */
+ * @param data  what is written (`length` bytes)
+ * @param length  how many bytes (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_Write_MT(
-    int32_t port, MEROVANE_IN const uint8_t *data, int32_t length) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(length) const uint8_t *data,
+    int32_t length) MEROVANE_READS_N(2, 3);
 
-/** Sends an AT command and collects its answer until that ends in "OK" and a line end.
- * @param command  text up to its terminating zero; CR and LF are added
+/** Sends an AT command and collects its answer until that ends in "OK", CR and LF.
+ * @param command  CR and LF are added; at most 9214 characters
  * @param command_length  not used
- * @param wait  0: only the acknowledgement (1000 ms) is awaited, and the next three may be null
- * @param answer  the answer's text, without a terminating zero
- * @param capacity  bytes at `answer`, 1 to 2147483647
- * @param answer_length  bytes stored
- * @param timeout_ms  of the answer, above 0, not lengthened by the setting; one further frame is
- *   waited for as long (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @param wait  0: only the acknowledgement is awaited, 1000 ms
+ * @param answer  the answer's text, line ends included, without a terminating zero (`capacity`
+ *   bytes, counted in `answer_length`, looked at only when `wait` is not 0)
+ * @param capacity  room at `answer` (1 to 2147483647 when `wait` is not 0)
+ * @param answer_length  how many characters were stored; 0 when no answer came, not written without
+ *   an acknowledgement (looked at only when `wait` is not 0)
+ * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
+ *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds)
+ * @retval PC_ERR_SUCCESS  also when time ran out after part of an answer: look for the "OK" at its
+ *   end
+ * @retval PC_ERR_INVALID_PARAM  `command` is null; `answer` or `answer_length` is null when `wait`
+ *   is not 0; `capacity` outside 1 to 2147483647 when `wait` is not 0; `timeout_ms` of 0; a
+ *   `command` of more than 9214 characters
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer; `answer` holds the frames that fitted
+ * @retval PC_ERR_NO_DATA  no answer came
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand(
     MEROVANE_IN_TEXT const char *command, uint32_t command_length, uint32_t wait,
-    MEROVANE_OUT char *answer, uint32_t capacity, MEROVANE_OUT uint32_t *answer_length,
-    uint32_t timeout_ms) MEROVANE_WRITES(4) MEROVANE_WRITES(6);
+    MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
+    MEROVANE_OUT_OPT uint32_t *answer_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(4, 5) MEROVANE_WRITES(6);
 
 /** QV_SendAtCommand for the port `port`, with the same results. Sends an AT command and collects
- * its answer until that ends in "OK" and a line end.
+ * its answer until that ends in "OK", CR and LF.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param command  text up to its terminating zero; CR and LF are added
+ * @param command  CR and LF are added; at most 9214 characters
  * @param command_length  not used
- * @param wait  0: only the acknowledgement (1000 ms) is awaited, and the next three may be null
- * @param answer  the answer's text, without a terminating zero
- * @param capacity  bytes at `answer`, 1 to 2147483647
- * @param answer_length  bytes stored
- * @param timeout_ms  of the answer, above 0, not lengthened by the setting; one further frame is
- *   waited for as long (milliseconds) */
+ * @param wait  0: only the acknowledgement is awaited, 1000 ms
+ * @param answer  the answer's text, line ends included, without a terminating zero (`capacity`
+ *   bytes, counted in `answer_length`, looked at only when `wait` is not 0)
+ * @param capacity  room at `answer` (1 to 2147483647 when `wait` is not 0)
+ * @param answer_length  how many characters were stored; 0 when no answer came, not written without
+ *   an acknowledgement (looked at only when `wait` is not 0)
+ * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
+ *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
     int32_t port, MEROVANE_IN_TEXT const char *command, uint32_t command_length, uint32_t wait,
-    MEROVANE_OUT char *answer, uint32_t capacity, MEROVANE_OUT uint32_t *answer_length,
-    uint32_t timeout_ms) MEROVANE_WRITES(5) MEROVANE_WRITES(7);
+    MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
+    MEROVANE_OUT_OPT uint32_t *answer_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(5, 6) MEROVANE_WRITES(7);
 
-/** Sends AT command bytes as they are and collects the lines before "OK", line ends removed; a
- * prompt ">" ends it too.
- * @param command
- * @param length  of the command, 1 to 9216
- * @param answer  text before the frame with the "OK", without a terminating zero; null: only the
- *   acknowledgement (1000 ms) is awaited
- * @param capacity  bytes at `answer`, 1 to 2147483647 unless `answer` or `answer_length` is null
- * @param answer_length  bytes stored; null as `answer`
- * @param timeout_ms  of the answer, above 0, not lengthened by the setting; one further frame is
- *   waited for as long (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Sends bytes to the AT command interpreter as they are and collects its answer, line ends
+ * removed, up to the frame that holds "OK" or the prompt ">". That frame is not delivered.
+ * @param command  without an added line end (`length` bytes)
+ * @param length  how many bytes (1 to 9216)
+ * @param answer  the answer's text without a terminating zero; null: only the acknowledgement is
+ *   awaited, 1000 ms (`capacity` bytes, counted in `answer_length`, may be null)
+ * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
+ *   null)
+ * @param answer_length  how many characters were stored; 0 when no answer came, not written without
+ *   an acknowledgement; null: as for `answer` (may be null)
+ * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
+ *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `command` is null; `length` outside 1 to 9216; `capacity` outside 1
+ *   to 2147483647 when `answer` and `answer_length` are not null; `timeout_ms` of 0
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer; `answer` holds the frames that fitted
+ * @retval PC_ERR_NO_DATA  neither "OK" nor a prompt came in time; `answer` holds what came before
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
-    MEROVANE_IN_TEXT const char *command, uint32_t length, MEROVANE_OUT char *answer,
-    uint32_t capacity, MEROVANE_OUT uint32_t *answer_length,
-    uint32_t timeout_ms) MEROVANE_WRITES(3) MEROVANE_WRITES(5);
+    MEROVANE_IN_N(length) const char *command, uint32_t length,
+    MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
+    MEROVANE_OUT_OPT uint32_t *answer_length,
+    uint32_t timeout_ms) MEROVANE_READS_N(1, 2) MEROVANE_WRITES_N(3, 4) MEROVANE_WRITES(5);
 
-/** QV_SendAT for the port `port`, with the same results. Sends AT command bytes as they are and
- * collects the lines before "OK", line ends removed; a prompt ">" ends it too.
+/** QV_SendAT for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param command
- * @param length  of the command, 1 to 9216
- * @param answer  text before the frame with the "OK", without a terminating zero; null: only the
- *   acknowledgement (1000 ms) is awaited
- * @param capacity  bytes at `answer`, 1 to 2147483647 unless `answer` or `answer_length` is null
- * @param answer_length  bytes stored; null as `answer`
- * @param timeout_ms  of the answer, above 0, not lengthened by the setting; one further frame is
- *   waited for as long (milliseconds) */
+ * @param command  without an added line end (`length` bytes)
+ * @param length  how many bytes (1 to 9216)
+ * @param answer  the answer's text without a terminating zero; null: only the acknowledgement is
+ *   awaited, 1000 ms (`capacity` bytes, counted in `answer_length`, may be null)
+ * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
+ *   null)
+ * @param answer_length  how many characters were stored; 0 when no answer came, not written without
+ *   an acknowledgement; null: as for `answer` (may be null)
+ * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
+ *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAT_MT(
-    int32_t port, MEROVANE_IN_TEXT const char *command, uint32_t length, MEROVANE_OUT char *answer,
-    uint32_t capacity, MEROVANE_OUT uint32_t *answer_length,
-    uint32_t timeout_ms) MEROVANE_WRITES(4) MEROVANE_WRITES(6);
+    int32_t port, MEROVANE_IN_N(length) const char *command, uint32_t length,
+    MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
+    MEROVANE_OUT_OPT uint32_t *answer_length,
+    uint32_t timeout_ms) MEROVANE_READS_N(2, 3) MEROVANE_WRITES_N(4, 5) MEROVANE_WRITES(6);
 
-/** Reads the serving cell with "AT+CCED=0,1"; 2000 ms.
- * @param cell
+/** Reads the serving cell: QV_SendAtCommand with "AT+CCED=0,1", waiting 2000 ms for the answer. The
+ * result is reported under that function's operation id.
+ * @param cell  written on success only
  * @retval PC_ERR_INVALID_PARAM  `cell` is null
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer than 9216 characters
+ * @retval PC_ERR_NO_DATA  no answer came
+ * @retval PC_ERR_NO_USEFUL_DATA  the answer holds no "+CCED"
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo(
     MEROVANE_OUT QV_CELL_INFO *cell) MEROVANE_WRITES(1);
 
-/** QV_GetCurrCellInfo for the port `port`, with the same results. Reads the serving cell with
- * "AT+CCED=0,1"; 2000 ms.
+/** QV_GetCurrCellInfo for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param cell */
+ * @param cell  written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo_MT(
     int32_t port, MEROVANE_OUT QV_CELL_INFO *cell) MEROVANE_WRITES(2);
 
-/** Sends the handset into deep sleep. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Sends the handset into deep sleep.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode(void);
 
 /** QV_EnterDeepSleepMode for the port `port`, with the same results. Sends the handset into deep
- * sleep. Nothing is awaited.
+ * sleep.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode_MT(int32_t port);
 
@@ -2619,7 +2657,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` other than 1 to 32758
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2640,12 +2678,12 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value_MT(
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` other than 1 to 32758
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value(
-    uint32_t band, MEROVANE_IN_N(count) const uint16_t *values, uint32_t count) MEROVANE_READS_N(2,
-    3);
+    uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
+    uint32_t count) MEROVANE_READS_N(2, 3);
 
 /** QV_WriteData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Writes item
  * 18 of a band in RAM: `count` values. Waits 1000 ms.
@@ -2661,7 +2699,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
  * @param band  a QV_BAND
  * @param values  what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` other than 1 to 32758
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2682,12 +2720,12 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value_MT(
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` other than 1 to 32758
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value(
-    uint32_t band, MEROVANE_IN_N(count) const uint16_t *values, uint32_t count) MEROVANE_READS_N(2,
-    3);
+    uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
+    uint32_t count) MEROVANE_READS_N(2, 3);
 
 /** QV_WriteData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Writes
  * item 18 of a band in flash: `count` values. Waits 1000 ms.
@@ -2775,7 +2813,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what the answer lacks stays as it was (20 values)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` other than 0 to 3276
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2796,7 +2834,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` other than 0 to 3276
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram(
@@ -2816,7 +2854,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what the answer lacks stays as it was (20 values)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` other than 0 to 3276
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -2837,7 +2875,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
- * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` other than 0 to 3276
+ * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash(

@@ -4,7 +4,7 @@
 #include <atomic>
 #include <exception>
 
-#include "commands/handset/phone_mode.h"
+#include "declared/phone_mode.h"
 #include "commands/operation.h"
 #include "commands/phone.h"
 #include "link/frame_codec.h"

@@ -1,20 +1,26 @@
-#include "commands/handset/phone_mode.h"
+// The handset's start into test mode, its modes, its trace output, and the link as it is.
+#include "declared/phone_mode.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <span>
 
-#include "commands/operation.h"
-#include "link/frame_codec.h"
-
 namespace merovane::commands {
 namespace {
 
 constexpr std::uint8_t kStartType = 0xFE;
+constexpr std::uint32_t kStartModeBase = 128;
 constexpr std::uint8_t kModeChangeType = 12;
-
-std::uint8_t StartModeSubtype(std::uint32_t mode) { return static_cast<std::uint8_t>(mode + 128); }
+constexpr FrameId kRestart{kModeChangeType, 0};
+constexpr FrameId kReadMode{28, 0};
+constexpr FrameId kDeepSleep{17, 2};
+constexpr FrameId kArmLogOn{2, 4};
+constexpr FrameId kArmLogOff{2, 5};
+constexpr FrameId kDspLogOn{2, 6};
+constexpr FrameId kDspLogOff{2, 7};
+constexpr std::uint32_t kModeMs = 4000;
+constexpr std::uint32_t kQuickMs = 1000;
 
 // The camp parameters as the sequence field carries them: 4 and 11 bits.
 std::uint32_t CampWord(std::uint32_t first, std::uint32_t second) {
@@ -22,130 +28,106 @@ std::uint32_t CampWord(std::uint32_t first, std::uint32_t second) {
   return low | (second & 0xFF) << 8;
 }
 
+// As much of the bytes as there is room for.
+std::uint32_t Deliver(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> room) {
+  const std::size_t delivered = std::min(bytes.size(), room.size());
+  if (delivered > 0) std::memcpy(room.data(), bytes.data(), delivered);
+  return static_cast<std::uint32_t>(delivered);
+}
+
 }  // namespace
 
-Result RecvPhoneStartData(Phone& phone, std::uint8_t* data, std::uint32_t capacity,
-                          std::uint32_t* length, std::uint32_t timeoutMs) {
-  Operation operation(phone, 5);
-  if (!data || !IsCapacity(capacity) || !length) return Result::InvalidParam;
-  operation.Log("RecvPhoneStartData:");
-
+Result body::RecvPhoneStartData(Operation& operation, std::span<std::uint8_t> data,
+                                std::uint32_t& length, std::uint32_t timeoutMs) {
   std::array<std::uint8_t, kHeaderBytes> header;
-  const Result result = phone.link.ReceiveStartFrame(header, timeoutMs);
-  if (Succeeded(result)) {
-    *length = std::min<std::uint32_t>(capacity, kHeaderBytes);
-    std::memcpy(data, header.data(), *length);
-  }
+  const Result result = operation.link.ReceiveStartFrame(header, timeoutMs);
+  if (Succeeded(result)) length = Deliver(header, data);
   return operation.Finish(result);
 }
 
-Result SetPhoneStartMode(Phone& phone, std::uint32_t mode) {
-  Operation operation(phone, 6);
-  operation.Log("SetPhoneStartMode:");
-  const FrameId id{kStartType, StartModeSubtype(mode)};
-  const Result sent = phone.link.SendFrame(id);
+Result body::SetPhoneStartMode(Operation& operation, std::uint32_t mode) {
+  const FrameId id{kStartType, static_cast<std::uint8_t>(mode + kStartModeBase)};
+  const Result sent = operation.link.SendFrame(id);
   if (!Succeeded(sent)) return sent;
   // Alone of its kind in not logging its result.
-  return phone.link.WaitForAnswer(id, 4000).Why();
+  return operation.link.WaitForAnswer(id, kModeMs).Why();
 }
 
-Result SetPhoneStartModeEx(Phone& phone, std::uint32_t mode, std::uint32_t timeoutMs) {
-  Operation operation(phone, 7);
-  operation.Log("SetPhoneStartModeEx:");
-  AnswerBuffer header;
+Result body::SetPhoneStartModeEx(Operation& operation, std::uint32_t mode,
+                                 std::uint32_t timeoutMs) {
+  std::array<std::uint8_t, kHeaderBytes> header;
   std::uint32_t length = 0;
-  Result result = RecvPhoneStartData(phone, header.data(),
-                                     static_cast<std::uint32_t>(header.size()), &length, timeoutMs);
-  if (Succeeded(result) && length == kHeaderBytes) result = SetPhoneStartMode(phone, mode);
+  Result result = commands::RecvPhoneStartData(operation.phone, header.data(), kHeaderBytes,
+                                               &length, timeoutMs);
+  if (Succeeded(result)) result = commands::SetPhoneStartMode(operation.phone, mode);
   return operation.Finish(result);
 }
 
-Result SetModeAndCampParam(Phone& phone, std::uint32_t mode, std::uint32_t firstCampParameter,
-                           std::uint32_t secondCampParameter) {
-  phone.link.SetNextSequence(CampWord(firstCampParameter, secondCampParameter));
-  return SetPhoneStartMode(phone, mode);
+Result body::SetModeAndCampParam(Operation& operation, std::uint32_t mode,
+                                 std::uint32_t firstCampParameter,
+                                 std::uint32_t secondCampParameter) {
+  operation.link.SetNextSequence(CampWord(firstCampParameter, secondCampParameter));
+  return commands::SetPhoneStartMode(operation.phone, mode);
 }
 
-Result EnableArmLog(Phone& phone, std::uint32_t enable) {
-  Operation operation(phone, 8);
-  operation.Log(enable ? "EnableArmLog:" : "DisableArmLog:");
-  return operation.Finish(phone.link.SendFrame(enable ? FrameId{2, 4} : FrameId{2, 5}));
+Result body::EnableArmLog(Operation& operation, bool enable) {
+  return operation.Finish(operation.link.SendFrame(enable ? kArmLogOn : kArmLogOff));
 }
 
-Result EnableDspLog(Phone& phone, std::uint32_t enable) {
-  Operation operation(phone, 237);
-  operation.Log(enable ? "EnableDspLog:" : "DisableDspLog:");
+Result body::EnableDspLog(Operation& operation, bool enable) {
+  const FrameId id = enable ? kDspLogOn : kDspLogOff;
+  return operation.Finish(operation.link.SendAndWaitSame(id, {}, kQuickMs).Why());
+}
+
+Result body::ChangePhoneMode(Operation& operation, std::uint8_t mode) {
   return operation.Finish(
-      phone.link.SendAndWaitSame(enable ? FrameId{2, 6} : FrameId{2, 7}, {}, 1000));
+      operation.link.SendAndWaitSame({kModeChangeType, mode}, {}, kModeMs).Why());
 }
 
-Result ChangePhoneMode(Phone& phone, std::uint8_t mode) {
-  Operation operation(phone, 9);
-  operation.Log("ChangePhoneMode:");
-  return operation.Finish(phone.link.SendAndWaitSame({kModeChangeType, mode}, {}, 4000));
-}
-
-Result UsbChangePhoneMode(Phone& phone, std::uint8_t mode, std::uint32_t* answered) {
-  Operation operation(phone, 10);
-  if (!answered) return Result::InvalidParam;
-  operation.Log("UsbChangePhoneMode:");
-  const Answer answer = phone.link.SendAndWaitSame({kModeChangeType, mode}, {}, 4000);
-  if (answer) *answered = answer.Payload().size() >= 2 ? 1 : 0;
+Result body::UsbChangePhoneMode(Operation& operation, std::uint8_t mode, std::uint32_t& answered) {
+  const Answer answer = operation.link.SendAndWaitSame({kModeChangeType, mode}, {}, kModeMs);
+  if (answer) answered = answer.Payload().size() >= 2 ? 1 : 0;
   return operation.Finish(answer.Why());
 }
 
-Result UsbChangeModeAndSetCampParam(Phone& phone, std::uint8_t mode,
-                                    std::uint32_t firstCampParameter,
-                                    std::uint32_t secondCampParameter, std::uint32_t* answered) {
-  // Not into the link when nothing will be sent: the word is for this command's own frame.
-  if (answered) phone.link.SetNextSequence(CampWord(firstCampParameter, secondCampParameter));
-  return UsbChangePhoneMode(phone, mode, answered);
+Result body::UsbChangeModeAndSetCampParam(Operation& operation, std::uint8_t mode,
+                                          std::uint32_t firstCampParameter,
+                                          std::uint32_t secondCampParameter,
+                                          std::uint32_t& answered) {
+  operation.link.SetNextSequence(CampWord(firstCampParameter, secondCampParameter));
+  return commands::UsbChangePhoneMode(operation.phone, mode, &answered);
 }
 
-Result RestartPhone(Phone& phone, std::uint32_t timeoutMs) {
-  Operation operation(phone, 11);
-  if (timeoutMs == 0) return Result::InvalidParam;
-  operation.Log("RestartPhone:");
-  return operation.Finish(phone.link.SendAndWaitSame({kModeChangeType, 0}, {}, timeoutMs));
+Result body::RestartPhone(Operation& operation, std::uint32_t timeoutMs) {
+  return operation.Finish(operation.link.SendAndWaitSame(kRestart, {}, timeoutMs).Why());
 }
 
-Result ReadMode(Phone& phone, std::uint8_t* data, std::uint32_t capacity) {
-  Operation operation(phone, 12);
-  if (!data || !IsCapacity(capacity)) return Result::InvalidParam;
-  operation.Log("ReadMode:");
-  std::uint32_t length = 0;
-  const Result result =
-      phone.link.SendAndWait({28, 0}, {28, 0}, {}, {data, capacity}, &length, 1000);
+Result body::ReadMode(Operation& operation, std::span<std::uint8_t> data) {
+  constexpr std::size_t kModeByte = 3;
+  const Answer answer = operation.link.SendAndWaitSame(kReadMode, {}, kQuickMs);
   // The mode reads as a start mode code.
-  if (Succeeded(result) && length > 3 && capacity > 3) {
-    data[3] = static_cast<std::uint8_t>((data[3] & 0x0F) | 0x80);
+  if (Deliver(answer.Payload(), data) > kModeByte) {
+    data[kModeByte] = static_cast<std::uint8_t>((data[kModeByte] & 0x0F) | kStartModeBase);
   }
+  return operation.Finish(answer.Why());
+}
+
+Result body::EnterDeepSleepMode(Operation& operation) {
+  return operation.Finish(operation.link.SendFrame(kDeepSleep));
+}
+
+Result body::Read(Operation& operation, std::span<std::uint8_t> data, std::uint32_t& length,
+                  std::uint32_t timeoutMs) {
+  const Frame frame = operation.link.ReceiveFrame(timeoutMs);
+  length = Deliver(frame.Bytes(), data);
+  if (length < frame.Bytes().size()) return operation.Finish(Result::BufferTooSmall);
+  // When nothing at all arrived, no whole frame did.
+  const Result result = frame.Why() == Result::NoData ? Result::NoFrame : frame.Why();
   return operation.Finish(result);
 }
 
-Result EnterDeepSleepMode(Phone& phone) {
-  Operation operation(phone, 21);
-  operation.Log("EnterDeepSleepMode:");
-  return operation.Finish(phone.link.SendFrame({17, 2}));
-}
-
-Result Read(Phone& phone, std::uint8_t* data, std::uint32_t* length, std::uint32_t timeoutMs) {
-  Operation operation(phone, 13);
-  if (!data || !length || !IsCapacity(*length) || timeoutMs == 0) return Result::InvalidParam;
-  const Frame frame = phone.link.ReceiveFrame(timeoutMs);
-  const auto bytes = frame.Bytes();
-  const auto capacity = *length;
-  *length = std::min(capacity, static_cast<std::uint32_t>(bytes.size()));
-  if (*length > 0) std::memcpy(data, bytes.data(), *length);
-  if (bytes.size() > capacity) return Result::BufferTooSmall;
-  // Silence, too, means that no whole frame came.
-  return frame.Why() == Result::NoData ? Result::NoFrame : frame.Why();
-}
-
-Result Write(Phone& phone, const std::uint8_t* data, std::int32_t length) {
-  Operation operation(phone, 14);
-  if (!data || length <= 0) return Result::InvalidParam;
-  return phone.link.WriteRaw({data, static_cast<std::size_t>(length)});
+Result body::Write(Operation& operation, std::span<const std::uint8_t> data) {
+  return operation.link.WriteRaw(data);
 }
 
 }  // namespace merovane::commands

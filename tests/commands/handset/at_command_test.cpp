@@ -1,4 +1,4 @@
-#include "commands/handset/at_command.h"
+#include "declared/phone_mode.h"
 
 #include "support/command_fixture.h"
 

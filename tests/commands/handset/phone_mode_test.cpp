@@ -1,4 +1,4 @@
-#include "commands/handset/phone_mode.h"
+#include "declared/phone_mode.h"
 
 #include "support/command_fixture.h"
 
@@ -152,7 +152,7 @@ TEST_F(PhoneMode, ReadModeLeavesAShortModeAsItIs) {
   EXPECT_TRUE(data.UntouchedFrom(3));
 }
 
-TEST_F(PhoneMode, ReadHandsOutTheNextFrameWhateverItIs) {
+TEST_F(PhoneMode, ReadHandsOutTheNextFrameAndLogsItsResultOnly) {
   GuardedBuffer<std::uint8_t> data(12);
   std::uint32_t length = 0;
   const auto read = [&] {
@@ -170,9 +170,11 @@ TEST_F(PhoneMode, ReadHandsOutTheNextFrameWhateverItIs) {
   EXPECT_EQ(length, 12u);
   EXPECT_EQ(data.Hex(12), "00 00 00 00 00 0D 01 01 AA BB CC DD");
   EXPECT_EQ(read(), Result::NoFrame);
+  EXPECT_EQ(length, 0u);
   handset.SayRaw("7E 01 02");
   EXPECT_EQ(read(), Result::NoFrame);
-  EXPECT_THAT(Log(), ElementsAre());
+  EXPECT_THAT(Log(), ElementsAre(ResultLine(Result::Success), ResultLine(Result::BufferTooSmall),
+                                 ResultLine(Result::NoFrame), ResultLine(Result::NoFrame)));
 }
 
 TEST_F(PhoneMode, WritePassesBytesAsTheyAreAndDropsNothing) {
@@ -181,6 +183,7 @@ TEST_F(PhoneMode, WritePassesBytesAsTheyAreAndDropsNothing) {
   const std::uint8_t bytes[] = {0x7E, 'A', 'T', 0x0D};
   EXPECT_EQ(Write(phone, bytes, 4), Result::Success);
   EXPECT_EQ(OperationOf(Result::Success), 14u);
+  EXPECT_THAT(Log(), ElementsAre());
   GuardedBuffer<std::uint8_t> data(16);
   for (const char* expected : {"03 03", "04 04"}) {
     std::uint32_t length = 16;
@@ -189,7 +192,6 @@ TEST_F(PhoneMode, WritePassesBytesAsTheyAreAndDropsNothing) {
   }
   handset.ExpectRaw("7E 41 54 0D").WriteFails();
   EXPECT_EQ(Write(phone, bytes, 4), Result::WriteFailed);
-  EXPECT_THAT(Log(), ElementsAre());
   static_cast<void>(phone.link.Close());
   std::uint32_t length = 16;
   EXPECT_EQ(Read(phone, data.Data(), &length, 100), Result::PortNotOpen);

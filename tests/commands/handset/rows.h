@@ -14,7 +14,7 @@
 #include "commands/handset/gps.h"
 #include "commands/handset/identification.h"
 #include "commands/handset/peripherals.h"
-#include "commands/handset/phone_mode.h"
+#include "declared/phone_mode.h"
 #include "commands/handset/production_block.h"
 #include "commands/handset/registers.h"
 #include "commands/handset/serial_number.h"
