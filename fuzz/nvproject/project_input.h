@@ -40,7 +40,7 @@ inline void RunProjectInput(std::string_view input) {
   parser.LoadProject("d\\p");
 
   const ItemStore& items = parser.Items();
-  const std::uint32_t count = items.Items().Size();
+  const std::uint32_t count = items.Size();
   std::vector<std::uint8_t> image(kImageCapacity);
   std::uint32_t length = 0;
   std::array<std::uint8_t, 64> block{};
@@ -51,7 +51,7 @@ inline void RunProjectInput(std::string_view input) {
     parser.SetItemContent(0, path, content + "1");
     parser.ItemOffset(path);
     parser.ConvertBlock(path, block);
-    const ImageContext context{i % 2 == 0 ? ByteOrder::Big : ByteOrder::Little, i};
+    const ImageContext context{i % 2 == 0 ? ByteOrder::Big() : ByteOrder::Little(), i};
     if (i < 4) GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, context);
   }
   std::array<std::uint16_t, 91> words{};

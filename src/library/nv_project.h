@@ -18,8 +18,7 @@ Result RunProjectOperation(std::uint32_t id, Operation&& operation) {
 }
 
 inline nvproject::ImageContext ImageContextNow() {
-  return {BigEndian() ? nvproject::ByteOrder::Big : nvproject::ByteOrder::Little,
-          platform::SystemClock().NowMs()};
+  return {CurrentByteOrder(), platform::SystemClock().NowMs()};
 }
 
 }  // namespace merovane::library

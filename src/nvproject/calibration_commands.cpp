@@ -3,6 +3,7 @@
 #include <cstring>
 #include <optional>
 #include <utility>
+#include <vector>
 
 #include "nvproject/commands.h"
 
@@ -29,22 +30,19 @@ void Deliver(std::span<const std::int16_t> values, std::uint16_t* out) {
 
 void Deliver(std::uint32_t value, std::uint16_t* out) { *out = static_cast<std::uint16_t>(value); }
 
-// Takes as many values as the parameter has.
-template <auto parameter>
-auto Take(const std::uint16_t* in) {
-  std::array<std::int16_t, ArrayOf(parameter).count> values;
-  std::memcpy(values.data(), in, sizeof(values));
+// As many values as the parameter has.
+std::vector<std::int16_t> Take(const std::uint16_t* in, std::size_t count) {
+  std::vector<std::int16_t> values(count);
+  std::memcpy(values.data(), in, count * sizeof(std::int16_t));
   return values;
 }
 
-template <BandArray parameter>
-void Write(CalibrationParameters& parameters, Band band, const std::uint16_t* in) {
-  parameters.Write(band, parameter, Take<parameter>(in));
+void Write(CalibrationParameters& parameters, Band band, BandArray array, const std::uint16_t* in) {
+  parameters.Write(band, array, Take(in, CountOf(array)));
 }
 
-template <CommonArray parameter>
-void Write(CalibrationParameters& parameters, const std::uint16_t* in) {
-  parameters.Write(parameter, Take<parameter>(in));
+void Write(CalibrationParameters& parameters, CommonArray array, const std::uint16_t* in) {
+  parameters.Write(array, Take(in, CountOf(array)));
 }
 
 }  // namespace
@@ -66,8 +64,8 @@ Result SetNvValueAgc(CFileParser* project, const std::uint16_t* agcWords, std::u
   const Result check = Check(project, AnyNull(agcWords, rxCompensation), band);
   if (!Succeeded(check)) return check;
   CalibrationParameters& parameters = project->Calibration();
-  Write<BandArray::AgcControlWord>(parameters, kBands[band], agcWords);
-  Write<BandArray::RxCompensation>(parameters, kBands[band], rxCompensation);
+  Write(parameters, kBands[band], BandArray::AgcControlWord, agcWords);
+  Write(parameters, kBands[band], BandArray::RxCompensation, rxCompensation);
   parameters.WriteGainIndex(kBands[band], gainIndex);
   return Result::Success;
 }
@@ -97,7 +95,7 @@ Result GetNvValueApc(CFileParser* project, std::uint16_t* rampUpStage0, std::uin
 Result SetNvValueApc(CFileParser* project, const std::uint16_t* stepFactor, std::uint32_t band) {
   const Result check = Check(project, AnyNull(stepFactor), band);
   if (!Succeeded(check)) return check;
-  Write<BandArray::StepFactor>(project->Calibration(), kBands[band], stepFactor);
+  Write(project->Calibration(), kBands[band], BandArray::StepFactor, stepFactor);
   return Result::Success;
 }
 
@@ -107,7 +105,7 @@ Result GetNvValueFactor(CFileParser* project, std::uint16_t* stepFactor, std::ui
   if (project == nullptr) return Result::NvProjectNotOpen;
   if (stepFactor == nullptr) return Result::InvalidParam;
   if (band >= kFactorBands.size() || !kFactorBands[band]) return Result::Success;
-  project->Calibration().LoadStepFactor(*kFactorBands[band]);
+  project->Calibration().Load(*kFactorBands[band], BandArray::StepFactor);
   Deliver(project->Calibration().Cached(*kFactorBands[band], BandArray::StepFactor), stepFactor);
   return Result::Success;
 }
@@ -159,7 +157,7 @@ Result GetNvValueAdc2(CFileParser* project, std::uint16_t* voltageTable) {
 Result SetNvValueAdc2(CFileParser* project, const std::uint16_t* voltageTable) {
   const Result check = Check(project, AnyNull(voltageTable));
   if (!Succeeded(check)) return check;
-  Write<CommonArray::AdcVoltage>(project->Calibration(), voltageTable);
+  Write(project->Calibration(), CommonArray::AdcVoltage, voltageTable);
   return Result::Success;
 }
 
@@ -207,9 +205,9 @@ Result SetNvValueAfc2(CFileParser* project, std::uint16_t slopeLength, std::uint
   parameters.Write(CommonValue::SlopeLength, slopeLength);
   parameters.Write(CommonValue::Cdac, cdac);
   parameters.Write(CommonValue::Cafc, cafc);
-  Write<CommonArray::AfcRange>(parameters, afcRange);
-  Write<CommonArray::SlopeValue>(parameters, slopeValue);
-  Write<CommonArray::SlopeReciprocal>(parameters, slopeReciprocal);
+  Write(parameters, CommonArray::AfcRange, afcRange);
+  Write(parameters, CommonArray::SlopeValue, slopeValue);
+  Write(parameters, CommonArray::SlopeReciprocal, slopeReciprocal);
   return Result::Success;
 }
 

@@ -1,31 +1,115 @@
 #include "nvproject/calibration_parameters.h"
 
-#include <algorithm>
+#include <array>
+#include <string_view>
 
 #include "nvproject/text_rules.h"
 
 namespace merovane::nvproject {
 namespace {
 
-constexpr std::array kAllBands = {Band::Gsm, Band::Dcs, Band::Pcs, Band::Gsm850};
-
 template <class Enum>
 constexpr std::size_t Number(Enum value) {
   return static_cast<std::size_t>(value);
 }
 
-std::string RootPath(Root root, bool areoSpelling) {
-  const Structure& structure = kStructures[Number(root)];
-  const bool areo = root == Root::AfcStructure && areoSpelling;
-  std::string path = structure.outer ? RootPath(*structure.outer, areoSpelling) : std::string();
-  return path.append(areo ? kAfcStructureAreo : structure.name);
-}
+constexpr std::array kAllBands = {Band::Gsm, Band::Dcs, Band::Pcs, Band::Gsm850};
 
 std::string BandPath(Band band) {
-  return RootPath(Root::DspUse, false).append(kBandStructures[Number(band)]);
+  constexpr std::array kNames = {"gsm", "dcs", "pcs", "gsm850"};
+  return std::string("calibration_param_T.rf_param_dsp_use.rf_") + kNames[Number(band)] +
+         "_param_dsp_use.";
+}
+
+// The structures that the other parameters are in.
+enum class Root { Calibration, RfCommon, AfcStructure, Charging };
+
+std::string RootPath(Root root, bool areoSpelling) {
+  constexpr std::string_view kRfCommon =
+      "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.";
+  switch (root) {
+    case Root::Calibration:
+      return "calibration_param_T.";
+    case Root::RfCommon:
+      return std::string(kRfCommon);
+    case Root::AfcStructure:
+      return std::string(kRfCommon).append(areoSpelling ? "areo2_RF_AFC_STRUCT."
+                                                        : "aero2_RF_AFC_STRUCT.");
+    case Root::Charging:
+      return "production_param_T.CHR_PARAM_T.";
+  }
+  return {};
+}
+
+struct ArrayParameter {
+  std::string_view path;
+  std::size_t count;
+  IndexNotation first = IndexNotation::Decimal;
+};
+
+// In the order of BandArray, below the band's structure.
+constexpr std::array kBandArrays = {
+    ArrayParameter{"rf_ramp_up_table_stage0.rf_ramp_up_table_stage0", 16},
+    ArrayParameter{"rf_ramp_up_table_stage1.rf_ramp_up_table_stage1", 16},
+    ArrayParameter{"rf_ramp_down_table_stage0.rf_ramp_down_table_stage0", 16},
+    ArrayParameter{"rf_ramp_down_table_stage1.rf_ramp_down_table_stage1", 16},
+    ArrayParameter{"TX_compensate_boundary_arfcn_index", 4},
+    ArrayParameter{"rf_ramppwr_step_factor", 80},
+    ArrayParameter{"RX_compensate_boundary_arfcn_index", 4},
+    ArrayParameter{"RX_compensate_value", 5},
+    ArrayParameter{"agc_ctrl_word", 91, IndexNotation::Hexadecimal},
+};
+
+constexpr std::string_view kMaxGainIndex = "max_rf_gain_index";
+
+struct CommonArrayParameter {
+  Root root;
+  ArrayParameter array;
+};
+
+// In the order of CommonArray.
+constexpr std::array kCommonArrays = {
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.afc_range_arr", 16}},
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.slope_value_arr", 16}},
+    CommonArrayParameter{Root::AfcStructure, {"slope_struct.slope_value_reciprocal_arr", 16}},
+    CommonArrayParameter{Root::Charging, {"adc_voltage_table", 16}},
+};
+
+struct ValueParameter {
+  Root root;
+  std::string_view path;
+  HexForm form = HexForm::UpperUpper;  // in which it is written
+  bool alwaysHexadecimal = false;      // when it is read
+};
+
+// In the order of CommonValue.
+constexpr std::array kCommonValues = {
+    ValueParameter{Root::Calibration, "cal_param_version", HexForm::UpperUpper, true},
+    ValueParameter{Root::RfCommon, "afc_center", HexForm::LowerLower},
+    ValueParameter{Root::RfCommon, "afc_slope_hz_per_6bits", HexForm::LowerLower},
+    ValueParameter{Root::AfcStructure, "slope_length"},
+    ValueParameter{Root::AfcStructure, "CDAC"},
+    ValueParameter{Root::AfcStructure, "CAFC"},
+    ValueParameter{Root::Calibration, "adc.adc[0]"},
+    ValueParameter{Root::Calibration, "adc.adc[1]"},
+    ValueParameter{Root::Calibration, "adc.battery[0]"},
+    ValueParameter{Root::Calibration, "adc.battery[1]"},
+    ValueParameter{Root::Charging, "charge_end_voltage"},
+    ValueParameter{Root::Charging, "pulse_charge_voltage"},
+    ValueParameter{Root::Charging, "recharge_voltage"},
+    ValueParameter{Root::Charging, "switch_voltage"},
+    ValueParameter{Root::Charging, "voltage_shutdown"},
+    ValueParameter{Root::Charging, "voltage_warning"},
+};
+
+ItemArray ItemsOf(std::string structure, const ArrayParameter& array) {
+  return ItemArray(structure.append(array.path), array.count, array.first);
 }
 
 }  // namespace
+
+std::size_t CountOf(BandArray array) { return kBandArrays[Number(array)].count; }
+std::size_t CountOf(CommonArray array) { return kCommonArrays[Number(array)].array.count; }
 
 bool HasAreoSpelling(ItemStore& items) {
   const ValueParameter& probe = kCommonValues[Number(CommonValue::SlopeLength)];
@@ -36,28 +120,24 @@ CalibrationParameters::CalibrationParameters(ItemStore& items, bool areoSpelling
   for (const Band band : kAllBands) {
     BandParameters parameters{{}, {ItemValue(BandPath(band).append(kMaxGainIndex))}};
     for (const ArrayParameter& array : kBandArrays) {
-      parameters.arrays.push_back(MakeArray(BandPath(band), array));
+      parameters.arrays.push_back({ItemsOf(BandPath(band), array), Values(array.count)});
     }
     bands_.push_back(std::move(parameters));
   }
-  for (const CommonArrayParameter& parameter : kCommonArrays) {
-    arrays_.push_back(MakeArray(RootPath(parameter.root, areoSpelling), parameter.array));
+  for (const auto& [root, array] : kCommonArrays) {
+    arrays_.push_back({ItemsOf(RootPath(root, areoSpelling), array), Values(array.count)});
   }
-  for (const ValueParameter& parameter : kCommonValues) {
-    values_.push_back({ItemValue(RootPath(parameter.root, areoSpelling).append(parameter.path))});
+  for (const ValueParameter& value : kCommonValues) {
+    values_.push_back({ItemValue(RootPath(value.root, areoSpelling).append(value.path))});
   }
-}
-
-CalibrationParameters::Array CalibrationParameters::MakeArray(
-    std::string structure, const ArrayParameter& parameter) const {
-  return {ItemArray(structure.append(parameter.path), parameter.count, parameter.first),
-          std::vector<std::int16_t>(parameter.count)};
 }
 
 void CalibrationParameters::LoadAgc(Band band) {
   LoadBands(band, BandArray::AgcControlWord);
   for (const Band each : kAllBands) {
-    Read(Of(each).gainIndex, Reading::AlwaysHexadecimal, 0);
+    Value& gainIndex = Of(each).gainIndex;
+    const auto content = gainIndex.item.Read(*items_);
+    gainIndex.value = content ? static_cast<std::uint32_t>(ParseNumber(*content, 16)) : 0;
     Load(each, BandArray::TxBoundary);
     Load(each, BandArray::RxBoundary);
   }
@@ -73,12 +153,12 @@ void CalibrationParameters::LoadApc(Band band) {
 }
 
 void CalibrationParameters::LoadCharging() {
-  for (auto value = CommonValue::ChargeEndVoltage; value <= CommonValue::VoltageWarning;
-       value = static_cast<CommonValue>(Number(value) + 1)) {
+  for (const CommonValue value : {CommonValue::ChargeEndVoltage, CommonValue::PulseChargeVoltage,
+                                  CommonValue::RechargeVoltage, CommonValue::SwitchVoltage,
+                                  CommonValue::VoltageShutdown, CommonValue::VoltageWarning}) {
     Load(value);
   }
-  Array& table = arrays_[Number(CommonArray::AdcVoltage)];
-  table.items.Read(*items_, table.values);
+  Load(CommonArray::AdcVoltage);
 }
 
 void CalibrationParameters::LoadAfcStructure() {
@@ -87,20 +167,28 @@ void CalibrationParameters::LoadAfcStructure() {
   }
   for (const CommonArray array :
        {CommonArray::AfcRange, CommonArray::SlopeValue, CommonArray::SlopeReciprocal}) {
-    arrays_[Number(array)].items.Read(*items_, arrays_[Number(array)].values);
+    Load(array);
   }
 }
 
 void CalibrationParameters::LoadAdcPoints() {
   Load(CommonValue::Adc0);
   Load(CommonValue::Battery0);
-  // The second of each pair is an element behind the first and repeats it when it is missing.
-  Read(values_[Number(CommonValue::Adc1)], Reading::ByPrefix, Cached(CommonValue::Adc0));
-  Read(values_[Number(CommonValue::Battery1)], Reading::ByPrefix, Cached(CommonValue::Battery0));
+  // The second of each pair is an element after the first and repeats it when it is missing.
+  Load(CommonValue::Adc1, Cached(CommonValue::Adc0));
+  Load(CommonValue::Battery1, Cached(CommonValue::Battery0));
 }
 
-void CalibrationParameters::Load(CommonValue value) {
-  Read(values_[Number(value)], kCommonValues[Number(value)].reading, 0);
+void CalibrationParameters::Load(CommonValue value, std::uint32_t missing) {
+  Value& target = values_[Number(value)];
+  const auto content = target.item.Read(*items_);
+  if (!content) {
+    target.value = missing;
+  } else {
+    const bool hexadecimal = kCommonValues[Number(value)].alwaysHexadecimal;
+    target.value = static_cast<std::uint32_t>(hexadecimal ? ParseNumber(*content, 16)
+                                                          : ContentValue(*content));
+  }
 }
 
 void CalibrationParameters::Load(Band band, BandArray array) {
@@ -108,19 +196,14 @@ void CalibrationParameters::Load(Band band, BandArray array) {
   target.items.Read(*items_, target.values);
 }
 
+void CalibrationParameters::Load(CommonArray array) {
+  Array& target = arrays_[Number(array)];
+  target.items.Read(*items_, target.values);
+}
+
 void CalibrationParameters::LoadBands(Band band, BandArray array) {
   for (const Band each : kAllBands) {
     if (each != Band::Pcs || band == Band::Pcs) Load(each, array);
-  }
-}
-
-void CalibrationParameters::Read(Value& value, Reading reading, std::uint32_t missing) {
-  const auto content = value.item.Read(*items_);
-  if (!content) {
-    value.value = missing;
-  } else {
-    value.value = static_cast<std::uint32_t>(
-        reading == Reading::ByPrefix ? ContentValue(*content) : ParseNumber(*content, 16));
   }
 }
 
@@ -140,15 +223,7 @@ std::uint16_t CalibrationParameters::CachedGainIndex(Band band) const {
   return static_cast<std::uint16_t>(bands_[Number(band)].gainIndex.value);
 }
 
-void CalibrationParameters::Write(Band band, BandArray array,
-                                  std::span<const std::int16_t> values) {
-  Array& target = Of(band).arrays[Number(array)];
-  target.values.assign(values.begin(), values.end());
-  target.items.Write(*items_, target.values);
-}
-
-void CalibrationParameters::Write(CommonArray array, std::span<const std::int16_t> values) {
-  Array& target = arrays_[Number(array)];
+void CalibrationParameters::Write(Array& target, std::span<const std::int16_t> values) {
   target.values.assign(values.begin(), values.end());
   target.items.Write(*items_, target.values);
 }

@@ -1,7 +1,6 @@
 // Typed access to the calibration parameters of a project, through a cache of their binary values.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -9,11 +8,50 @@
 #include <utility>
 #include <vector>
 
-#include "nvproject/calibration_table.h"
 #include "nvproject/item_store.h"
 #include "nvproject/item_values.h"
 
 namespace merovane::nvproject {
+
+enum class Band { Gsm, Dcs, Pcs, Gsm850 };
+
+// Arrays that every band has.
+enum class BandArray {
+  RampUpStage0,
+  RampUpStage1,
+  RampDownStage0,
+  RampDownStage1,
+  TxBoundary,
+  StepFactor,
+  RxBoundary,
+  RxCompensation,
+  AgcControlWord,
+};
+
+enum class CommonArray { AfcRange, SlopeValue, SlopeReciprocal, AdcVoltage };
+
+enum class CommonValue {
+  CalParamVersion,
+  AfcCenter,
+  AfcSlope,
+  SlopeLength,
+  Cdac,
+  Cafc,
+  Adc0,
+  Adc1,
+  Battery0,
+  Battery1,
+  ChargeEndVoltage,
+  PulseChargeVoltage,
+  RechargeVoltage,
+  SwitchVoltage,
+  VoltageShutdown,
+  VoltageWarning,
+};
+
+// How many values an array has.
+std::size_t CountOf(BandArray array);
+std::size_t CountOf(CommonArray array);
 
 // Which of the two spellings of the AFC structure's name the items have.
 bool HasAreoSpelling(ItemStore& items);
@@ -28,11 +66,11 @@ class CalibrationParameters {
   // indices and the boundaries of AGC.
   void LoadAgc(Band band);
   void LoadApc(Band band);
-  void LoadStepFactor(Band band) { Load(band, BandArray::StepFactor); }
+  void Load(Band band, BandArray array);
   void LoadCharging();
   void LoadAfcStructure();
   void LoadAdcPoints();
-  void Load(CommonValue value);
+  void Load(CommonValue value) { Load(value, 0); }
 
   std::span<const std::int16_t> Cached(Band band, BandArray array) const;
   std::span<const std::int16_t> Cached(CommonArray array) const;
@@ -40,17 +78,22 @@ class CalibrationParameters {
   std::uint16_t CachedGainIndex(Band band) const;
 
   // Write through the cache to the project.
-  void Write(Band band, BandArray array, std::span<const std::int16_t> values);
-  void Write(CommonArray array, std::span<const std::int16_t> values);
+  void Write(Band band, BandArray array, std::span<const std::int16_t> values) {
+    Write(Of(band).arrays[static_cast<std::size_t>(array)], values);
+  }
+  void Write(CommonArray array, std::span<const std::int16_t> values) {
+    Write(arrays_[static_cast<std::size_t>(array)], values);
+  }
   void Write(CommonValue value, std::uint32_t number);
   // Writes the cached gain indices of the other bands too (of PCS only when it is the band): those
   // that were never loaded are 0.
   void WriteGainIndex(Band band, std::uint16_t gainIndex);
 
  private:
+  using Values = std::vector<std::int16_t>;
   struct Array {
     ItemArray items;
-    std::vector<std::int16_t> values;
+    Values values;
   };
   struct Value {
     ItemValue item;
@@ -61,13 +104,14 @@ class CalibrationParameters {
     Value gainIndex;
   };
 
-  void Load(Band band, BandArray array);
+  void Load(CommonArray array);
   // GSM, DCS and GSM850 always, PCS when it is the band.
   void LoadBands(Band band, BandArray array);
-  // Reads a value; `missing` when the project does not have it.
-  void Read(Value& value, Reading reading, std::uint32_t missing);
+  // Loads a value; `missing` when the project does not have it.
+  void Load(CommonValue value, std::uint32_t missing);
 
-  Array MakeArray(std::string structure, const ArrayParameter& parameter) const;
+  void Write(Array& target, std::span<const std::int16_t> values);
+
   BandParameters& Of(Band band) { return bands_[static_cast<std::size_t>(band)]; }
 
   ItemStore* items_;

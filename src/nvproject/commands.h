@@ -33,7 +33,7 @@ Result SaveToBinaryFile(CFileParser* project, const ImageContext& context);
 // Gives the offset only.
 Result GetItemOffsetAndSize(CFileParser* project, const char* path, std::uint32_t* offset);
 // The project is checked first. An unknown path changes nothing and is a success. See
-// block_conversion.h for what is converted.
+// nv_image.h for what is converted.
 Result ConvertDataByDataType(CFileParser* project, const char* path, void* data,
                              std::uint32_t length);
 

@@ -1,6 +1,7 @@
 // One loaded NV project.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -11,20 +12,13 @@
 
 #include "link/result.h"
 #include "nvproject/calibration_parameters.h"
-#include "nvproject/item.h"
 #include "nvproject/item_store.h"
 #include "nvproject/item_values.h"
+#include "nvproject/key_reader.h"
 #include "nvproject/layout.h"
-#include "nvproject/line_reader.h"
 #include "nvproject/nv_image.h"
 
 namespace merovane::nvproject {
-
-// What an image takes from its surroundings.
-struct ImageContext {
-  ByteOrder order = ByteOrder::Big;
-  std::uint32_t tickCountMs = 0;  // the image's time stamp
-};
 
 // Holds the whole project in memory from its load on; nothing goes to disk unless it is saved.
 // Texts longer than their fields are cut. Not for use by several threads at once.
@@ -40,6 +34,9 @@ class CFileParser {
   // project file's directory. When the project's path has none, reading ends there, successfully,
   // with the file left open: the parser then refuses to read or to create.
   bool LoadProject(std::string_view path);
+  // What reading has found wrong, in the order of reading; none when the project file itself cannot
+  // be opened.
+  std::span<const Problem> Problems() const { return problems_; }
 
   // Writes the file of a new project that has no modules yet.
   bool CreateProject(std::string_view name, std::string_view path, std::string_view target,
@@ -53,8 +50,8 @@ class CFileParser {
   std::span<const ModuleRecord> Modules() const { return modules_; }
   ItemStore& Items() { return items_; }
   const ItemStore& Items() const { return items_; }
-  // Whether contents were set since the project was last read or written whole.
-  bool Changed() const { return items_.ContentRevision() != savedRevision_; }
+  // Whether contents have changed since the project was last read or written whole.
+  bool Changed() const { return items_.Changed(); }
   // Which of the two spellings the project uses for its AFC structure.
   bool HasAreoSpelling() const { return areoSpelling_; }
 
@@ -71,40 +68,41 @@ class CFileParser {
   CalibrationParameters& Calibration() { return calibration_; }
 
   // Gives items their offsets and lengths, and the list of top-level items.
-  void LayoutItems();
+  void LayoutItems() { layout_.Run(items_); }
   std::span<const TopLevelItem> TopLevelItems() const { return layout_.TopLevel(); }
-  // Items start behind a block of DSP code in the image. Off, unless a caller switches it on.
-  void SetAlternativeBase(bool on) { imageStart_ = on ? kAlternativeImageStart : kImageStart; }
-
   // The offset of the item of that path, letter case counted; none when there is no such item.
   std::optional<std::uint32_t> ItemOffset(std::string_view path);
-  // See block_conversion.h.
+  // See nv_image.h.
   void ConvertBlock(std::string_view path, std::span<std::uint8_t> data);
+
   // Builds the image: BufferTooSmall when it passes its 65,536 bytes, the buffer left as it was;
   // else all of the buffer is written.
   Result GenerateImage(std::span<std::uint8_t, kImageCapacity> buffer, std::uint32_t& length,
                        const ImageContext& context);
-  // Writes the image to the project's target. A file that cannot be read or written is told of in a
-  // message box only. `dspCodePath` is for the alternative base.
+
+  // Writes the image to the project's target. With the path of a DSP code file, that code comes
+  // ahead of the items. Of a file that cannot be read or written a message box tells, and nothing
+  // else.
   Result SaveImage(const ImageContext& context, std::string_view dspCodePath = {});
+  void SetTarget(std::string_view path) { project_.target = path.substr(0, kMaxFilePath); }
 
  private:
   enum class Reading { Done, Failed, LeftOpen };
 
-  Reading ReadProject(LineReader& lines);
-  Reading TakeValue(std::string_view key, std::string_view value);
+  Reading ReadProject(KeyReader& lines);
+  // A TARGET or MODULE line.
+  Reading TakePath(KeyReader& lines, std::string_view key);
   bool LoadModule(const std::string& path);
 
   OpenText openText_;
   ProjectRecord project_;
   std::vector<ModuleRecord> modules_;
   ItemStore items_;
-  std::unique_ptr<LineReader> projectStream_;  // while the project file is open
-  std::uint64_t savedRevision_ = 0;
+  std::vector<Problem> problems_;
+  std::unique_ptr<KeyReader> projectStream_;  // while the project file is open
   bool areoSpelling_ = false;
   CalibrationParameters calibration_;
   Layout layout_;
-  std::uint32_t imageStart_ = kImageStart;
   NvImage image_;
 };
 

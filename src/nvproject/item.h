@@ -63,10 +63,10 @@ inline constexpr std::int32_t kNoParent = -1;
 // No item: what a search that fails answers.
 inline constexpr std::uint32_t kNoItem = 0xFFFFFFFF;
 
-// The texts but the content live in the store's arena: they never change.
+// The texts but the content belong to the store: they never change.
 struct Item {
-  std::uint32_t offset =
-      0;                    // the layout's: place in its top-level item, or a structure's alignment
+  // The layout's: the place in its top-level item, or a structure's alignment.
+  std::uint32_t offset = 0;
   std::int32_t index = 0;   // where the item is stored when it is written back
   std::int32_t parent = 0;  // the parent's index
   std::uint32_t id = 0;
@@ -74,6 +74,7 @@ struct Item {
   std::uint32_t size = 0;  // elements of an array
   std::uint32_t length = 0;
   std::uint32_t pathHash = 0;  // of the full path, letter case ignored
+  std::uint32_t line = 0;      // where it begins in its module file
   std::string_view name;
   std::string_view description;
   std::string_view fullPath;

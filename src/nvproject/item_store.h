@@ -1,23 +1,17 @@
-// All items of a project, in load order, with the rules of how a changed item is written back.
+// All items of a project, in load order, and the rules of finding one and of writing it back.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "nvproject/item_list.h"
-#include "nvproject/path_index.h"
-#include "nvproject/text_arena.h"
+#include "nvproject/item.h"
 
 namespace merovane::nvproject {
-
-// Contents that changed since somebody last asked.
-struct ContentChanges {
-  bool tooMany = false;              // more than are noted one by one
-  std::vector<std::uint32_t> items;  // may name an item twice
-};
 
 // Items are named by their position among all items of all modules. An item that changes is stored
 // at the position, in its module, that its own index names: when that is another item's position,
@@ -33,11 +27,16 @@ class ItemStore {
   void BeginModule();
   // Appends to the last module.
   void Append(Item item);
-  TextArena& Texts() { return texts_; }
+  // A copy of a text for an item's fields, which lives as long as the store.
+  std::string_view Keep(std::string_view text);
 
-  const ItemList& Items() const { return items_; }
-  const Item& operator[](std::uint32_t position) const { return items_[position]; }
+  std::uint32_t Size() const { return size_; }
+  const Item& operator[](std::uint32_t position) const {
+    return blocks_[position / kBlockItems][position % kBlockItems];
+  }
   std::span<const Module> Modules() const { return modules_; }
+  // The number of the module that has the item.
+  std::size_t ModuleNumberOf(std::uint32_t position) const;
 
   // The first item of that path in load order, or kNoItem: letter case ignored, or counted.
   std::uint32_t Find(std::string_view path);
@@ -52,37 +51,46 @@ class ItemStore {
   // there now.
   void StoreBack(const Module& module, Item record);
 
-  // Whether every item stands where its index says, so that writing one back touches no other.
-  bool IsOrderly() const { return orderly_; }
-
-  // Grows with every change of anything but contents.
-  std::uint64_t StructureRevision() const { return structureRevision_; }
   // Grows whenever a path may lead to another item than before. Never 0.
   std::uint64_t PathRevision() const { return pathRevision_; }
-  // Grows with every content that is set.
-  std::uint64_t ContentRevision() const { return contentRevision_; }
-  // The contents that changed since the last call, those aside that came with a change of
-  // structure.
-  ContentChanges TakeContentChanges();
+
+  // Whether contents have changed since the last MarkSaved.
+  bool Changed() const { return changed_; }
+  void MarkSaved() { changed_ = false; }
 
  private:
-  const Module& ModuleOf(std::uint32_t position) const;
+  // Projects can be large: a list that doubles touches twice the memory.
+  static constexpr std::uint32_t kBlockItems = 256;
+  static constexpr std::size_t kTextBlockBytes = 32768;
+
+  // A slot of the index of paths: for every path, the first item that bears it.
+  struct Slot {
+    std::uint32_t hash = 0;
+    std::uint32_t item = kNoItem;
+  };
+
+  Item& At(std::uint32_t position) {
+    return blocks_[position / kBlockItems][position % kBlockItems];
+  }
   // Where an item of that index is stored in the module, or kNoItem.
   static std::uint32_t WriteBackPosition(const Module& module, std::int32_t index);
   // Puts an item in place of another one.
   void Replace(std::uint32_t position, Item item);
-  void NoteContentChange(std::uint32_t position);
 
-  ItemList items_;
+  void BuildIndex();
+  // The slot that holds the path, or the free one where it belongs.
+  std::size_t Probe(std::string_view path, std::uint32_t hash) const;
+
+  std::vector<std::vector<Item>> blocks_;
+  std::uint32_t size_ = 0;
   std::vector<Module> modules_;
-  TextArena texts_;
-  PathIndex index_;
-  bool orderly_ = true;
+  std::vector<std::unique_ptr<char[]>> texts_;
+  std::size_t textsUsed_ = kTextBlockBytes;  // of the last block
+
+  std::vector<Slot> slots_;  // open addressing; the size is a power of two
   std::uint64_t indexedRevision_ = 0;
-  std::uint64_t structureRevision_ = 1;
   std::uint64_t pathRevision_ = 1;
-  std::uint64_t contentRevision_ = 0;
-  ContentChanges contentChanges_;
+  bool changed_ = false;
 };
 
 }  // namespace merovane::nvproject

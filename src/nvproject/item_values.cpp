@@ -1,10 +1,9 @@
 #include "nvproject/item_values.h"
 
+#include <array>
 #include <charconv>
-#include <iterator>
 #include <utility>
 
-#include "nvproject/hex_text.h"
 #include "nvproject/text_rules.h"
 
 namespace merovane::nvproject {
@@ -12,10 +11,10 @@ namespace {
 
 std::string IndexName(std::size_t index, IndexNotation notation) {
   const bool decimal = notation == IndexNotation::Decimal;
-  char digits[20];
+  std::array<char, 20> digits;
   const auto end =
-      std::to_chars(std::begin(digits), std::end(digits), index, decimal ? 10 : 16).ptr;
-  return std::string(decimal ? "[" : "[0x").append(digits, end).append("]");
+      std::to_chars(digits.data(), digits.data() + digits.size(), index, decimal ? 10 : 16).ptr;
+  return std::string(decimal ? "[" : "[0x").append(digits.data(), end).append("]");
 }
 
 }  // namespace

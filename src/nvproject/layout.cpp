@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "nvproject/nv_image.h"
+
 namespace merovane::nvproject {
 namespace {
 
@@ -13,12 +15,9 @@ constexpr Number RoundUp(Number value, std::uint32_t multiple) {
 
 }  // namespace
 
-void Layout::Run(ItemStore& items, std::uint32_t start) {
-  const State before = StateOf(items, start);
-  if (settled_ == before) return;
-
+void Layout::Run(ItemStore& items) {
   topLevel_.clear();
-  std::uint64_t running = start;
+  std::uint64_t running = kImageStart;
   for (std::uint32_t number = 0; number < items.Modules().size(); ++number) {
     const ItemStore::Module module = items.Modules()[number];
     for (std::uint32_t position = 0; position < module.count;) {
@@ -28,8 +27,11 @@ void Layout::Run(ItemStore& items, std::uint32_t start) {
         continue;
       }
       Placed placed{position + 1, item.length};
-      if (item.type == ItemType::Struct) placed = PlaceStructure(items, module, position);
-      if (item.type == ItemType::Array) placed = PlaceArray(items, module, position);
+      if (item.type == ItemType::Struct) {
+        placed = PlaceStructure(items, module, position);
+      } else if (item.type == ItemType::Array) {
+        placed = PlaceArray(items, module, position);
+      }
       const std::uint64_t offset = RoundUp(running, 4) + kRecordHeaderBytes;
       topLevel_.push_back(
           {module.first + position, number, static_cast<std::uint32_t>(offset), placed.length});
@@ -37,15 +39,6 @@ void Layout::Run(ItemStore& items, std::uint32_t start) {
       position = placed.next;
     }
   }
-
-  settled_.reset();
-  if (StateOf(items, start) == before) settled_ = before;
-}
-
-Layout::State Layout::StateOf(const ItemStore& items, std::uint32_t start) {
-  // An item that is written back to another's place takes its content along.
-  const std::uint64_t contents = items.IsOrderly() ? 0 : items.ContentRevision();
-  return {items.StructureRevision(), contents, start};
 }
 
 // Structures nest as deep as files make them, so the open ones are kept here and not on the stack.

@@ -1,8 +1,7 @@
-// Gives every item its place: members in their top-level item, top-level items in the image.
+// Gives every item its place: members in their top-level item, top-level items one after another.
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -10,31 +9,20 @@
 
 namespace merovane::nvproject {
 
-// Every record of the image begins with the item's id and length, 16 bits each.
-inline constexpr std::uint32_t kRecordHeaderBytes = 4;
-inline constexpr std::uint32_t kDspCodeBytes = 49152;
-
-// The image begins with its time stamp; in the alternative form the DSP code's record comes
-// between.
-inline constexpr std::uint32_t kImageStart = 4;
-inline constexpr std::uint32_t kAlternativeImageStart =
-    kImageStart + kRecordHeaderBytes + kDspCodeBytes;
-
 struct TopLevelItem {
   std::uint32_t item = kNoItem;
   std::uint32_t module = 0;
-  // Of its data, each item's record behind the one before. The image is the same up to an item
-  // without data: there the next record takes its place (see RecordPlaces in nv_image.h).
+  // Of its data, as if each item's record stood after the one before. In the image a record without
+  // data takes no room: from there on the places differ.
   std::uint32_t offset = 0;
   std::uint32_t length = 0;  // of its data
 };
 
 class Layout {
  public:
-  // Lays all items out, from `start` on. Offsets and lengths in the store are overwritten. A
-  // structure's alignment starts from the last run's, so a run counts as done only when another one
-  // would change nothing.
-  void Run(ItemStore& items, std::uint32_t start);
+  // Lays all items out. Offsets and lengths in the store are overwritten. A structure's alignment
+  // starts from the last run's, so that another run can give it another place.
+  void Run(ItemStore& items);
 
   // Those that the last run found, in image order.
   std::span<const TopLevelItem> TopLevel() const { return topLevel_; }
@@ -47,27 +35,17 @@ class Layout {
   };
 
   struct Placed {
-    std::uint32_t next;    // the position behind the last member
+    std::uint32_t next;    // the position after the last member
     std::uint32_t length;  // of the data
   };
 
-  // What a run depends on.
-  struct State {
-    std::uint64_t structureRevision;
-    std::uint64_t contentRevision;
-    std::uint32_t start;
-
-    bool operator==(const State&) const = default;
-  };
-  static State StateOf(const ItemStore& items, std::uint32_t start);
-
   // Each lays out the item at the position and all that belongs to it.
   Placed PlaceStructure(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
-  Placed PlaceArray(ItemStore& items, const ItemStore::Module& module, std::uint32_t position);
+  static Placed PlaceArray(ItemStore& items, const ItemStore::Module& module,
+                           std::uint32_t position);
 
   std::vector<TopLevelItem> topLevel_;
   std::vector<OpenStructure> open_;
-  std::optional<State> settled_;  // the state that a run has left as it was
 };
 
 }  // namespace merovane::nvproject

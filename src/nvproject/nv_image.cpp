@@ -5,80 +5,93 @@
 #include "nvproject/text_rules.h"
 
 namespace merovane::nvproject {
+namespace {
 
+constexpr std::uint16_t kDspCodeId = 4;
+
+void StoreHeader(std::span<std::uint8_t> header, std::uint32_t id, std::uint32_t length,
+                 ByteOrder order) {
+  order.PutU16(header, 0, static_cast<std::uint16_t>(id));
+  order.PutU16(header, 2, static_cast<std::uint16_t>(length));
+}
+
+// As many of the value's low bytes as `bytes` has: those of a scalar.
 void StoreValue(std::span<std::uint8_t> bytes, std::uint64_t value, ByteOrder order) {
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    bytes[order == ByteOrder::Little ? i : bytes.size() - 1 - i] =
-        static_cast<std::uint8_t>(value >> (8 * i));
+  if (bytes.size() == 1) {
+    bytes[0] = static_cast<std::uint8_t>(value);
+  } else if (bytes.size() == 2) {
+    order.PutU16(bytes, 0, static_cast<std::uint16_t>(value));
+  } else {
+    order.PutU32(bytes, 0, static_cast<std::uint32_t>(value));
   }
 }
 
-bool NvImage::Build(ItemStore& items, std::uint32_t start, ByteOrder order) {
-  const ContentChanges changes = items.TakeContentChanges();
-  if (revision_ == items.StructureRevision() && start_ == start && order_ == order &&
-      !changes.tooMany && (changes.items.empty() || !overlaps_)) {
-    for (const std::uint32_t position : changes.items) {
-      const std::size_t at = valueAt_[position];
-      if (at == 0) continue;
-      StoreValue(std::span(bytes_).subspan(at, ScalarWidth(items[position].type)),
-                 ContentValue(items[position].content), order);
-    }
-    return true;
-  }
-  start_ = start;
-  order_ = order;
-  revision_ = BuildAll(items) ? items.StructureRevision() : 0;
-  return revision_ != 0;
+bool HasHeader(ItemType type) {
+  return ScalarWidth(type) > 0 || type == ItemType::Array || type == ItemType::Struct;
 }
 
-bool NvImage::BuildAll(const ItemStore& items) {
-  bytes_.assign(kImageCapacity, 0);
-  valueAt_.assign(items.Items().Size(), 0);
-  written_ = 0;
-  overlaps_ = false;
-  RecordPlaces places(start_);
-  std::uint64_t record = start_;
-  for (std::uint32_t position = 0; position < items.Items().Size(); ++position) {
+}  // namespace
+
+bool NvImage::Build(const ItemStore& items, const ImageContext& context, std::istream* dspCode) {
+  buffer_.assign(kImageCapacity, 0);
+  context.order.PutU32(buffer_, 0, context.tickCountMs);
+  if (dspCode != nullptr) AddDspCode(*dspCode, context.order);
+  return AddItems(items, dspCode != nullptr ? kAlternativeImageStart : kImageStart, context.order);
+}
+
+bool NvImage::AddItems(const ItemStore& items, std::uint32_t start, ByteOrder order) {
+  RecordPlaces places(start);
+  std::uint64_t record = start;
+  for (std::uint32_t position = 0; position < items.Size(); ++position) {
     const Item& item = items[position];
     std::uint64_t valueAt = record + kRecordHeaderBytes + item.offset;
     if (item.IsTopLevel()) {
       record = places.Next(item.length);
       valueAt = record + kRecordHeaderBytes;
-      if (!AddHeader(item, record)) return false;
+      if (HasHeader(item.type)) {
+        const std::span<std::uint8_t> header = Room(record, kRecordHeaderBytes);
+        if (header.empty()) return false;
+        StoreHeader(header, item.id, item.length, order);
+      }
     }
-    if (ScalarWidth(item.type) > 0 && !AddValue(item, position, valueAt)) return false;
+    if (const std::uint32_t width = ScalarWidth(item.type); width > 0) {
+      const std::span<std::uint8_t> value = Room(valueAt, width);
+      if (value.empty()) return false;
+      StoreValue(value, ContentValue(item.content), order);
+    }
   }
   const std::uint64_t end = places.End();
-  if (end > kImageCapacity) return false;
-  length_ = static_cast<std::size_t>(end);
-  written_ = std::max(written_, length_);
-  return true;
+  length_ = static_cast<std::size_t>(std::min<std::uint64_t>(end, kImageCapacity));
+  return end <= kImageCapacity;
 }
 
-std::span<std::uint8_t> NvImage::Reserve(std::uint64_t at, std::size_t count) {
+// The 16-bit words of the code are little-endian in its file. A shorter file leaves the rest zero.
+void NvImage::AddDspCode(std::istream& code, ByteOrder order) {
+  StoreHeader(std::span(buffer_).subspan(kImageStart), kDspCodeId, kDspCodeBytes, order);
+  const std::span<std::uint8_t> words =
+      std::span(buffer_).subspan(kImageStart + kRecordHeaderBytes, kDspCodeBytes);
+  code.read(reinterpret_cast<char*>(words.data()), static_cast<std::streamsize>(words.size()));
+  order.SwapArray16(words);
+}
+
+std::span<std::uint8_t> NvImage::Room(std::uint64_t at, std::size_t count) {
   if (at + count > kImageCapacity) return {};
-  overlaps_ = overlaps_ || at < written_;
-  written_ = std::max(written_, static_cast<std::size_t>(at) + count);
-  return std::span(bytes_).subspan(static_cast<std::size_t>(at), count);
+  return std::span(buffer_).subspan(static_cast<std::size_t>(at), count);
 }
 
-bool NvImage::AddHeader(const Item& item, std::uint64_t at) {
-  const bool hasData =
-      ScalarWidth(item.type) > 0 || item.type == ItemType::Array || item.type == ItemType::Struct;
-  if (!hasData) return true;
-  const std::span<std::uint8_t> header = Reserve(at, kRecordHeaderBytes);
-  if (header.empty()) return false;
-  StoreValue(header.first(2), item.id, order_);
-  StoreValue(header.last(2), item.length, order_);
-  return true;
-}
-
-bool NvImage::AddValue(const Item& item, std::uint32_t position, std::uint64_t at) {
-  const std::span<std::uint8_t> value = Reserve(at, ScalarWidth(item.type));
-  if (value.empty()) return false;
-  StoreValue(value, ContentValue(item.content), order_);
-  valueAt_[position] = static_cast<std::uint16_t>(at);
-  return true;
+void ConvertBlock(ItemStore& items, std::string_view path, std::span<std::uint8_t> data) {
+  const std::uint32_t first = items.FindExact(path);
+  if (first == kNoItem) return;
+  std::uint32_t expectedOffset = items[first].offset;
+  for (std::uint32_t i = first; i < items.Size() && !data.empty(); ++i) {
+    const Item& item = items[i];
+    if (item.offset != expectedOffset) continue;
+    const std::uint32_t width = std::max(ScalarWidth(item.type), 1U);
+    if (width > data.size()) return;
+    std::ranges::reverse(data.first(width));
+    data = data.subspan(width);
+    expectedOffset += width;
+  }
 }
 
 }  // namespace merovane::nvproject

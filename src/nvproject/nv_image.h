@@ -1,22 +1,33 @@
-// The records of the NV image: a header and the data of every top-level item.
+// The NV image: a time stamp, then a record for every top-level item, with a header and its data.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <istream>
 #include <span>
+#include <string_view>
 #include <vector>
 
+#include "link/byte_order.h"
 #include "nvproject/item_store.h"
-#include "nvproject/layout.h"
 
 namespace merovane::nvproject {
 
-enum class ByteOrder { Little, Big };
-
 inline constexpr std::size_t kImageCapacity = 65536;
 
-// Stores the value's low bytes, as many as `bytes` has.
-void StoreValue(std::span<std::uint8_t> bytes, std::uint64_t value, ByteOrder order);
+// Every record begins with the item's id and length, 16 bits each.
+inline constexpr std::uint32_t kRecordHeaderBytes = 4;
+// The first record stands after the time stamp, or after that and the DSP code's record.
+inline constexpr std::uint32_t kImageStart = 4;
+inline constexpr std::uint32_t kDspCodeBytes = 49152;
+inline constexpr std::uint32_t kAlternativeImageStart =
+    kImageStart + kRecordHeaderBytes + kDspCodeBytes;
+
+// What an image takes from its surroundings.
+struct ImageContext {
+  ByteOrder order = ByteOrder::Big();
+  std::uint32_t tickCountMs = 0;  // the image's time stamp
+};
 
 // Where the records of the top-level items stand, in their order.
 class RecordPlaces {
@@ -29,7 +40,7 @@ class RecordPlaces {
     length_ = length;
     return record_;
   }
-  // The place behind the last record. One without data takes no room: the next is written over it.
+  // The place after the last record. One without data takes no room: the next is written over it.
   std::uint64_t End() const {
     if (length_ == 0) return record_;
     return (record_ + kRecordHeaderBytes + length_ + 3) / 4 * 4;
@@ -40,35 +51,35 @@ class RecordPlaces {
   std::uint32_t length_ = 0;  // of the data
 };
 
-// Keeps the last image: where nothing but contents has changed since, only
-// these are converted again.
 class NvImage {
  public:
-  // Builds the records of all items, which are laid out, from `start` on. False when they pass the
-  // capacity.
-  bool Build(ItemStore& items, std::uint32_t start, ByteOrder order);
+  // Builds the image of all items, which are laid out, with the DSP code ahead of them if there is
+  // any. False when they pass the capacity.
+  bool Build(const ItemStore& items, const ImageContext& context, std::istream* dspCode = nullptr);
 
-  // The image's length. What stands before `start` is zero in Bytes().
-  std::size_t Length() const { return length_; }
-  // The image. A header at its very end belongs to no record of the image and can pass its length.
-  std::span<const std::uint8_t> Bytes() const { return {bytes_.data(), written_}; }
+  std::span<const std::uint8_t> Bytes() const { return std::span(buffer_).first(length_); }
+  // All of the capacity: zeros after the image, but for the header of an item without data, if the
+  // image ends with one.
+  std::span<const std::uint8_t> Buffer() const { return buffer_; }
 
  private:
-  bool BuildAll(const ItemStore& items);
+  // All records, from `start` on.
+  bool AddItems(const ItemStore& items, std::uint32_t start, ByteOrder order);
+  void AddDspCode(std::istream& code, ByteOrder order);
   // Room for `count` bytes at the place; empty when it passes the capacity.
-  std::span<std::uint8_t> Reserve(std::uint64_t at, std::size_t count);
-  bool AddHeader(const Item& item, std::uint64_t at);
-  bool AddValue(const Item& item, std::uint32_t position, std::uint64_t at);
+  std::span<std::uint8_t> Room(std::uint64_t at, std::size_t count);
 
-  std::vector<std::uint8_t> bytes_;
-  // Where each item's value is in the image; 0, where the time stamp is, for items that have none.
-  std::vector<std::uint16_t> valueAt_;
+  std::vector<std::uint8_t> buffer_;
   std::size_t length_ = 0;
-  std::size_t written_ = 0;
-  std::uint64_t revision_ = 0;  // of the store that the image was built from; 0 for none
-  std::uint32_t start_ = 0;
-  ByteOrder order_ = ByteOrder::Big;
-  bool overlaps_ = false;  // records that lie upon each other must be written in their order
 };
+
+// Reverses the bytes of each value in `data`, which begins with the item of that path (letter case
+// counts). The items are laid out. Only values that lie without a gap between them take part: each
+// run between padding is a conversion of its own. Starting at a structure or an array counts as one
+// byte for the structure itself, so data converted right begins at a scalar; one inside the run
+// counts as a byte as well when its alignment happens to be the offset that is due. A value that
+// does not fit into the block whole is left as it is, and all after it. An unknown path changes
+// nothing.
+void ConvertBlock(ItemStore& items, std::string_view path, std::span<std::uint8_t> data);
 
 }  // namespace merovane::nvproject

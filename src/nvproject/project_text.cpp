@@ -1,10 +1,9 @@
 #include "nvproject/project_text.h"
 
+#include <array>
 #include <charconv>
 #include <cstdint>
-#include <iterator>
 #include <string_view>
-#include <utility>
 
 namespace merovane::nvproject {
 namespace {
@@ -18,9 +17,9 @@ class TextBuilder {
     return *this;
   }
   TextBuilder& operator<<(std::int32_t number) {
-    char digits[12];
-    const auto end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
-    return *this << std::string_view(digits, static_cast<std::size_t>(end - digits));
+    std::array<char, 12> digits;
+    const char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return *this << std::string_view(digits.data(), end);
   }
   // Files show every number as a signed one.
   TextBuilder& operator<<(std::uint32_t number) {
@@ -31,7 +30,16 @@ class TextBuilder {
     return *this;
   }
   void Reserve(std::size_t bytes) { text_.reserve(bytes); }
-  std::string Take() { return std::move(text_); }
+  // With the files' line ends.
+  std::string Take() const {
+    std::string result;
+    result.reserve(text_.size() + text_.size() / 16);
+    for (const char c : text_) {
+      if (c == '\n') result += '\r';
+      result += c;
+    }
+    return result;
+  }
 
  private:
   std::string text_;

@@ -1,4 +1,4 @@
-// The text of project and module files, with "\n" line ends.
+// The text of project and module files, with the "\r\n" line ends that they have on every system.
 #pragma once
 
 #include <span>

@@ -3,7 +3,6 @@
 
 #include <span>
 #include <string>
-#include <string_view>
 
 namespace merovane::nvproject {
 
@@ -14,8 +13,5 @@ bool WriteProtectedFile(const std::string& path, std::span<const char> data);
 
 // A message box with the caption of all file errors.
 void ShowFileError(const std::string& text);
-
-// Every "\n" becomes "\r\n": the line ends that project files have on every system.
-std::string WithFileLineEnds(std::string_view text);
 
 }  // namespace merovane::nvproject

@@ -1,10 +1,10 @@
-// How project texts are read: words, numbers, letter case. The same on every system and in every
-// locale.
+// How texts of projects are read and written: words, numbers, letter case, paths of files. The same
+// on every system and in every locale.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace merovane::nvproject {
@@ -39,10 +39,27 @@ std::uint64_t ParseNumber(std::string_view text, unsigned base);
 // A content's value: hexadecimal when there is an "x" or "X" anywhere, else decimal.
 std::uint64_t ContentValue(std::string_view content);
 
+// Whether a content is one whole number that `bytes` hold, signed or not. The "X" of a hexadecimal
+// one may also follow it.
+bool IsNumberOf(std::string_view content, std::uint32_t bytes);
+
+// The hexadecimal spellings in which values are written to contents.
+enum class HexForm {
+  UpperUpper,  // 0X1F
+  UpperLower,  // 0X1f
+  LowerLower,  // 0x1f
+};
+std::string HexText(HexForm form, std::uint32_t value);
+
 // Letter case is ASCII's.
 bool EqualsIgnoringCase(std::string_view a, std::string_view b);
-
 // A hash that is equal for texts that differ in letter case only.
 std::uint32_t CaselessHash(std::string_view text);
+
+// What parts the names in a path of a project file, on every system.
+inline constexpr std::string_view kSeparators = "\\/";
+// The path seen from the directory of `file`; an absolute one as it is. None when `file` has no
+// directory part to join it with.
+std::optional<std::string> JoinPath(std::string_view file, std::string_view path);
 
 }  // namespace merovane::nvproject

@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Variants, GeneratedProject,
                          ::testing::Values(Variant{true, false}, Variant{false, true}));
 
 TEST_P(GeneratedProject, HasEveryItemUnderItsPath) {
-  ASSERT_EQ(parser.Items().Items().Size(), 3000U);
+  ASSERT_EQ(parser.Items().Size(), 3000U);
   for (const auto& item : generated.items) {
     ASSERT_EQ(Content(parser, item.path), item.content) << item.path;
   }

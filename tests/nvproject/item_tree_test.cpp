@@ -14,7 +14,7 @@ namespace {
 std::vector<std::string> Paths(const std::vector<TestItem>& items) {
   const auto parser = Load({items});
   std::vector<std::string> paths;
-  for (std::uint32_t i = 0; i < parser->Items().Items().Size(); ++i) {
+  for (std::uint32_t i = 0; i < parser->Items().Size(); ++i) {
     paths.emplace_back(parser->Items()[i].fullPath);
   }
   return paths;
@@ -87,7 +87,7 @@ TEST(Lookup, IgnoresCaseAndModuleAndTakesTheFirst) {
 }
 
 // The content of the first item of that path, letter case ignored; "?" when there is none.
-std::string Scan(const ItemList& items, std::string_view path) {
+std::string Scan(const ItemStore& items, std::string_view path) {
   const auto same = [](char a, char b) {
     return std::tolower(static_cast<unsigned char>(a)) ==
            std::tolower(static_cast<unsigned char>(b));
@@ -120,7 +120,7 @@ TEST(Lookup, AnswersAsALinearScanWhateverIsWritten) {
       }
     }
     const auto parser = Load(modules);
-    const ItemList& items = parser->Items().Items();
+    const ItemStore& items = parser->Items();
     std::vector<std::string> paths = {"", "a9"};
     for (std::uint32_t i = 0; i < items.Size(); ++i) paths.emplace_back(items[i].fullPath);
     for (int step = 0; step < 60; ++step) {

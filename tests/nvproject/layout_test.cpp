@@ -14,7 +14,7 @@ using ::testing::Pair;
 std::vector<std::pair<std::uint32_t, std::uint32_t>> Places(CFileParser& parser) {
   parser.LayoutItems();
   std::vector<std::pair<std::uint32_t, std::uint32_t>> places;
-  const ItemList& items = parser.Items().Items();
+  const ItemStore& items = parser.Items();
   for (std::uint32_t i = 0; i < items.Size(); ++i) {
     places.emplace_back(items[i].offset, items[i].length);
   }

@@ -19,7 +19,7 @@ std::unique_ptr<CFileParser> LoadModuleText(const std::string& text) {
 }
 
 const Item& OnlyItem(const CFileParser& parser) {
-  EXPECT_EQ(parser.Items().Items().Size(), 1U);
+  EXPECT_EQ(parser.Items().Size(), 1U);
   return parser.Items()[0];
 }
 
@@ -70,7 +70,7 @@ TEST(Reader, BeginClearsAndEndDoesNot) {
   const auto parser = LoadModuleText(
       "BEGIN_ITEM\nITEM_NAME = a\nITEM_PARENT = -1\nITEM_CONTENT = 5\nITEM_DESC =x\n"
       "END_ITEM\nITEM_INDEX = 1\nEND_ITEM\nBEGIN_ITEM\nEND_ITEM\n");
-  ASSERT_EQ(parser->Items().Items().Size(), 3U);
+  ASSERT_EQ(parser->Items().Size(), 3U);
   EXPECT_EQ(parser->Items()[1].name, "a");
   EXPECT_EQ(parser->Items()[1].index, 1);
   EXPECT_EQ(parser->Items()[1].description, "x\n");

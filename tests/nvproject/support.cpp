@@ -65,15 +65,6 @@ CaughtMessages::CaughtMessages() {
 
 CaughtMessages::~CaughtMessages() { platform::SetMessageBox(nullptr); }
 
-ItemStore Copied(const ItemStore& items) {
-  ItemStore copy;
-  for (const ItemStore::Module& module : items.Modules()) {
-    copy.BeginModule();
-    for (std::uint32_t i = 0; i < module.count; ++i) copy.Append(items[module.first + i]);
-  }
-  return copy;
-}
-
 Result Generate(CFileParser& parser, std::vector<std::uint8_t>& image,
                 const ImageContext& context) {
   image.assign(kImageCapacity, 0xEE);

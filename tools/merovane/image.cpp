@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <vector>
 
 #include "merovane/open_project.h"
@@ -52,32 +53,43 @@ void Map(const nvproject::ItemStore& items, std::ostream& out) {
   }
 }
 
+// To the file that the options name, or else to the project's own.
+void WriteFile(nvproject::CFileParser& parser, const ImageOptions& options,
+               const nvproject::ImageContext& context, std::ostream& out) {
+  if (options.output) parser.SetTarget(*options.output);
+  const std::string target = parser.Project().target;
+  if (target.empty()) throw Trouble(parser.Project().path + ": has no TARGET; give an --output");
+  if (options.dspCode && !nvproject::OpenRegularFile(*options.dspCode)) {
+    throw Trouble(*options.dspCode + ": cannot be read");
+  }
+  if (!Succeeded(parser.SaveImage(context, options.dspCode.value_or("")))) {
+    throw Trouble(target + ": its image would be larger than 65536 bytes");
+  }
+  std::error_code error;
+  out << target << ": " << std::filesystem::file_size(platform::PathFromText(target), error)
+      << " bytes\n";
+}
+
 }  // namespace
 
 int Image(const std::string& project, const ImageOptions& options, std::ostream& out) {
   const auto parser = OpenProject(project);
+  const nvproject::ImageContext context{
+      options.littleEndian ? ByteOrder::Little() : ByteOrder::Big(), options.timeStamp};
   std::vector<std::uint8_t> image(nvproject::kImageCapacity);
   std::uint32_t length = 0;
-  const nvproject::ImageContext context{
-      options.littleEndian ? nvproject::ByteOrder::Little : nvproject::ByteOrder::Big,
-      options.timeStamp};
   if (!Succeeded(parser->GenerateImage(std::span<std::uint8_t, nvproject::kImageCapacity>(image),
                                        length, context))) {
     throw Trouble(project + ": its image would be larger than 65536 bytes");
   }
   image.resize(length);
+  const bool toFile = options.output || options.dspCode;
   if (options.map) {
     Map(parser->Items(), out);
-  } else if (!options.output) {
+  } else if (!toFile) {
     Dump(image, out);
   }
-  if (options.output) {
-    const std::vector<char> bytes(image.begin(), image.end());
-    if (!platform::ReplaceFile(platform::PathFromText(*options.output), bytes)) {
-      throw Trouble(*options.output + ": cannot be written");
-    }
-    out << *options.output << ": " << length << " bytes\n";
-  }
+  if (toFile) WriteFile(*parser, options, context, out);
   return kOk;
 }
 

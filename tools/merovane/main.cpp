@@ -1,14 +1,24 @@
-#include <CLI/CLI.hpp>
+// merovane: the command-line tool.
 #include <functional>
 #include <iostream>
 
 #include "link/result.h"
 #include "merovane/project_tool.h"
-#include "merovane_version/version.h"
+#include "platform/console.h"
+#include "support/program.h"
 
 namespace {
 
 using namespace merovane;
+
+// What the command line has chosen.
+struct Choice {
+  std::function<int()> run;
+  std::string project, path, value, second, filter;
+  bool json = false, littleEndian = false;
+  tool::ImageOptions image;
+  tool::NewOptions create;
+};
 
 int PrintResults() {
   for (int code = 0; code < 40; ++code) {
@@ -19,76 +29,94 @@ int PrintResults() {
   return tool::kOk;
 }
 
-int Run(int argc, char** argv) {
-  CLI::App app("Merovane's command-line tool");
-  app.require_subcommand(1);
-  app.set_version_flag("--version", kVersion);
-  std::function<int()> run;
-  std::string project, path, value, second, filter;
-  bool json = false, littleEndian = false;
-  tool::ImageOptions image;
+CLI::App* AddProjectCommand(CLI::App& projects, Choice& choice, const char* name,
+                            const char* what) {
+  auto* command = projects.add_subcommand(name, what);
+  command->add_option("project", choice.project, "the project file")->required();
+  return command;
+}
 
-  app.add_subcommand("results", "Every result code, its name and what it says")->callback([&] {
-    run = PrintResults;
+void AddReadingCommands(CLI::App& projects, Choice& choice) {
+  auto* show = AddProjectCommand(projects, choice, "show", "The items with their types and values");
+  show->add_option("--path", choice.filter, "only items whose path contains this");
+  show->add_flag("--json", choice.json, "as JSON");
+  show->callback([&] {
+    choice.run = [&] { return tool::Show(choice.project, choice.filter, choice.json, std::cout); };
   });
-  auto* projects = app.add_subcommand("project", "Reads, checks and changes NV projects");
-  projects->require_subcommand(1);
-  const auto add = [&](const char* name, const char* what) {
-    auto* command = projects->add_subcommand(name, what);
-    command->add_option("project", project, "the project file")->required();
-    return command;
-  };
 
-  auto* show = add("show", "The items with their types and values");
-  show->add_option("--path", filter, "only items whose path contains this");
-  show->add_flag("--json", json, "as JSON");
-  show->callback([&] { run = [&] { return tool::Show(project, filter, json, std::cout); }; });
+  auto* get = AddProjectCommand(projects, choice, "get", "One item's value");
+  get->add_option("path", choice.path, "its full path")->required();
+  get->callback(
+      [&] { choice.run = [&] { return tool::Get(choice.project, choice.path, std::cout); }; });
 
-  auto* get = add("get", "One item's value");
-  get->add_option("path", path, "its full path")->required();
-  get->callback([&] { run = [&] { return tool::Get(project, path, std::cout); }; });
+  AddProjectCommand(projects, choice, "check",
+                    "Says with file and line what is wrong; exit code 1 when anything is")
+      ->callback([&] { choice.run = [&] { return tool::Check(choice.project, std::cout); }; });
 
-  auto* set = add("set",
-                  "Changes one item's value. The module file is written anew; each time, the "
-                  "descriptions in it "
-                  "grow by a blank and a line end, as the format has it");
-  set->add_option("path", path, "its full path")->required();
-  set->add_option("value", value, "one word")->required();
-  set->callback([&] { run = [&] { return tool::Set(project, path, value, std::cout); }; });
-
-  add("check", "Says with file and line what is wrong; exit code 1 when anything is")
-      ->callback([&] { run = [&] { return tool::Check(project, std::cout); }; });
-
-  auto* build = add("image", "Builds the NV image and shows it");
-  build->add_option("--output", image.output, "write it to this file");
-  build->add_flag("--little-endian", image.littleEndian, "least significant byte first");
-  build->add_flag("--map", image.map, "offset, length, id and path of every item");
-  build->add_option("--time-stamp", image.timeStamp, "the image's first four bytes");
-  build->callback([&] { run = [&] { return tool::Image(project, image, std::cout); }; });
-
-  auto* diff = projects->add_subcommand(
+  auto* diff = projects.add_subcommand(
       "diff", "Two projects by path, or two images by item; exit code 1 when they differ");
-  diff->add_option("first", project, "a project or an image")->required();
-  diff->add_option("second", second, "another")->required();
-  diff->add_flag("--little-endian", littleEndian, "of images");
-  diff->callback(
-      [&] { run = [&] { return tool::Diff(project, second, littleEndian, std::cout); }; });
+  diff->add_option("first", choice.project, "a project or an image")->required();
+  diff->add_option("second", choice.second, "another")->required();
+  diff->add_flag("--little-endian", choice.littleEndian, "of images");
+  diff->callback([&] {
+    choice.run = [&] {
+      return tool::Diff(choice.project, choice.second, choice.littleEndian, std::cout);
+    };
+  });
+}
 
-  try {
-    app.parse(argc, argv);
-  } catch (const CLI::ParseError& error) {
-    return app.exit(error) == 0 ? tool::kOk : tool::kTrouble;
-  }
-  return run();
+void AddWritingCommands(CLI::App& projects, Choice& choice) {
+  auto* set = AddProjectCommand(
+      projects, choice, "set",
+      "Changes one item's value. The module file is written anew; each time, the descriptions in "
+      "it grow by a blank and a line end, as the format has it");
+  set->add_option("path", choice.path, "its full path")->required();
+  set->add_option("value", choice.value, "one word")->required();
+  set->callback([&] {
+    choice.run = [&] { return tool::Set(choice.project, choice.path, choice.value, std::cout); };
+  });
+
+  auto* build = AddProjectCommand(projects, choice, "image", "Builds the NV image and shows it");
+  build->add_option("--output", choice.image.output, "write it to this file");
+  build->add_option("--dsp-code", choice.image.dspCode,
+                    "put this file's DSP code ahead of the items, and write the image to --output "
+                    "or the project's TARGET");
+  build->add_flag("--little-endian", choice.image.littleEndian, "least significant byte first");
+  build->add_flag("--map", choice.image.map, "offset, length, id and path of every item");
+  build->add_option("--time-stamp", choice.image.timeStamp, "the image's first four bytes");
+  build->callback(
+      [&] { choice.run = [&] { return tool::Image(choice.project, choice.image, std::cout); }; });
+
+  auto* create = AddProjectCommand(projects, choice, "new",
+                                   "Writes the file of a project without modules: it can be read "
+                                   "once lines \"MODULE = file\" are added");
+  create->add_option("--name", choice.create.name, "the project's name; otherwise the file's");
+  create->add_option("--target", choice.create.target, "where its image goes");
+  create->callback(
+      [&] { choice.run = [&] { return tool::New(choice.project, choice.create, std::cout); }; });
+
+  AddProjectCommand(projects, choice, "save",
+                    "Writes the project file and all its module files anew, as the library does. "
+                    "The project file then names its target and modules by absolute paths, so "
+                    "that it no longer moves with its folder; descriptions grow as with set")
+      ->callback([&] { choice.run = [&] { return tool::Save(choice.project, std::cout); }; });
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-  try {
-    return Run(argc, argv);
-  } catch (const std::exception& error) {
-    std::cerr << "merovane: " << error.what() << '\n';
-    return tool::kTrouble;
-  }
+  CLI::App app("Merovane's command-line tool", "merovane");
+  app.require_subcommand(1);
+  Choice choice;
+  app.add_subcommand("results", "Every result code, its name and what it says")->callback([&] {
+    choice.run = PrintResults;
+  });
+  auto* projects = app.add_subcommand("project", "Reads, checks and changes NV projects");
+  projects->require_subcommand(1);
+  AddReadingCommands(*projects, choice);
+  AddWritingCommands(*projects, choice);
+  // At a command line a file that cannot be used ends the command instead of opening a box.
+  platform::SetMessageBox(
+      [](const std::string& text, const std::string& /*caption*/) { throw tool::Trouble(text); });
+  return tool::RunProgram(app, argc, argv, [&] { return choice.run(); });
 }

@@ -19,16 +19,19 @@ int Set(const std::string& project, const std::string& path, const std::string& 
   }
   if (value.size() > nvproject::kMaxText) throw Trouble("a value has at most 255 characters");
   const auto parser = OpenProject(project);
-  auto& items = parser->Items();
-  const std::uint32_t position = items.Find(path);
+  const auto& items = parser->Items();
+  const std::uint32_t position = parser->Items().Find(path);
   if (position == nvproject::kNoItem) throw Trouble(path + ": no such item");
-  std::size_t module = 0;
-  while (position >= items.Modules()[module].first + items.Modules()[module].count) ++module;
+  if (!Fits(items[position], value)) {
+    throw Trouble(path + ": " + value + " is not a " +
+                  std::string(nvproject::TypeName(items[position].type)));
+  }
   parser->SetItemContent(0, path, value);
   if (items[position].content != value) {
     throw Trouble(path + ": its index names another item, so that it cannot be written");
   }
-  if (!parser->SaveModule(module)) {
+  const std::size_t module = items.ModuleNumberOf(position);
+  if (parser->Changed() && !parser->SaveModule(module)) {
     throw Trouble(parser->Modules()[module].path + ": cannot be written");
   }
   out << items[position].fullPath << " = " << value << '\n';
