@@ -1,3 +1,4 @@
+// Time by the monotonic and the real-time clock.
 #include "platform/clock.h"
 
 #include <cerrno>

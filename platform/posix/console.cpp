@@ -1,3 +1,4 @@
+// The console is standard output, a message box a line on standard error.
 #include "platform/console.h"
 
 #include <atomic>

@@ -1,3 +1,4 @@
+// Events of a mutex and a condition variable, with an eventfd where a poll waits too.
 #include "platform/event.h"
 
 #include <poll.h>

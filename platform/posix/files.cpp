@@ -1,3 +1,4 @@
+// Files by descriptors, and read-only by their permission bits.
 #include "platform/files.h"
 
 #include <fcntl.h>

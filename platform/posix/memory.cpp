@@ -1,3 +1,4 @@
+// Memory by the list of mappings that the kernel keeps.
 #include "platform/memory.h"
 
 #include <cinttypes>

@@ -1,3 +1,4 @@
+// Message queues by the thread-queue library.
 #include "platform/message_queue.h"
 
 #include <signal.h>

@@ -1,3 +1,4 @@
+// Libraries by the dynamic loader.
 #include "platform/module.h"
 
 #include <dlfcn.h>

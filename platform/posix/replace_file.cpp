@@ -1,3 +1,4 @@
+// Replaces a file by renaming a new one onto it.
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,3 +1,4 @@
+// Ports by their device nodes: what is stored of a node tells whether it is still the same device.
 #include "platform/serial_ports.h"
 
 #include <dirent.h>

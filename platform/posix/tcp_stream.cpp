@@ -1,3 +1,4 @@
+// TCP connections by non-blocking sockets.
 #include <fcntl.h>
 #include <netdb.h>
 #include <netinet/in.h>

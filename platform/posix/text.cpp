@@ -1,3 +1,4 @@
+// UTF-8.
 #include "platform/text.h"
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// Threads of the C library, with every signal blocked.
 #include "platform/thread.h"
 
 #include <dlfcn.h>

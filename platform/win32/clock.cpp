@@ -1,3 +1,4 @@
+// Time by the tick count and the system time.
 #include "platform/clock.h"
 
 #include "platform/win32/windows_api.h"

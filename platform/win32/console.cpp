@@ -1,3 +1,4 @@
+// A console window of the process, and message boxes.
 #include "platform/console.h"
 
 #include "platform/mutex.h"

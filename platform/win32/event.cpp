@@ -1,3 +1,4 @@
+// Events of the system: no lock of ours stays held when the end of the process kills a thread.
 #include "platform/event.h"
 
 #include <new>
@@ -6,7 +7,6 @@
 
 namespace merovane::platform {
 
-// The system's own event: no lock of ours stays held when process exit kills the thread that waits.
 struct Event::State {
   UniqueHandle handle{CreateEventW(nullptr, TRUE, FALSE, nullptr)};
 };

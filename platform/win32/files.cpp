@@ -1,3 +1,4 @@
+// Files by handles, and read-only by their attribute.
 #include "platform/files.h"
 
 #include <system_error>

@@ -1,3 +1,4 @@
+// Memory by what the system says of its pages.
 #include "platform/memory.h"
 
 #include <cstdint>

@@ -1,3 +1,4 @@
+// Message queues of the system, which are also its windows'.
 #include "platform/message_queue.h"
 
 #include <utility>

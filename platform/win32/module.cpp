@@ -1,3 +1,4 @@
+// Libraries by the system loader.
 #include "platform/module.h"
 
 #include <string>

@@ -1,3 +1,4 @@
+// Replaces a file by one that is written beside it.
 #include <atomic>
 #include <string>
 

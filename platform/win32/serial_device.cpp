@@ -1,3 +1,4 @@
+// Serial ports by overlapped transfers.
 #include <algorithm>
 #include <utility>
 

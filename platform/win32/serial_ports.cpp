@@ -1,3 +1,4 @@
+// Ports by their names in the device name space.
 #include "platform/serial_ports.h"
 
 #include <array>

@@ -1,3 +1,4 @@
+// TCP connections by overlapped transfers on sockets.
 #include <winsock2.h>
 #include <ws2tcpip.h>
 

@@ -1,3 +1,4 @@
+// The ANSI code page.
 #include "platform/text.h"
 
 #include "platform/win32/windows_api.h"

@@ -1,3 +1,4 @@
+// Threads of the C runtime.
 #include "platform/thread.h"
 
 #include <process.h>

@@ -1,3 +1,4 @@
+// A channel that is read and written, over every kind of device.
 #include <gtest/gtest.h>
 
 #include <atomic>

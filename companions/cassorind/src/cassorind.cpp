@@ -1,3 +1,4 @@
+// The exported functions.
 #include "cassorind/cassorind.h"
 
 #include <new>

@@ -1,3 +1,4 @@
+// Data as people read them.
 #pragma once
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// Data as people type them.
 #pragma once
 
 #include <cstddef>

@@ -1,3 +1,4 @@
+// The exported function.
 #include "tollvane/tollvane.h"
 
 #include <exception>

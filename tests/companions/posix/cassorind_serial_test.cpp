@@ -1,3 +1,4 @@
+// What only a terminal has: settings, one user at a time, input from before the open.
 #include <gtest/gtest.h>
 
 #include <filesystem>

@@ -1,3 +1,4 @@
+// What only Linux has: modes and links, pipes, descriptors, signals, device nodes.
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>

@@ -1,3 +1,4 @@
+// What only Windows has: attributes, sharing, code pages, windows, consoles.
 #include <gtest/gtest.h>
 
 #include <array>

@@ -33,7 +33,8 @@ class CassorindChannel {
   // `threadId` as messages `messageId` whose first parameter is a chunk's address and
   // whose second is its length in bytes. Zero ends that. Takes effect at once on an open
   // channel, else with the next open. Returns non-zero on success. While the thread's
-  // queue is full, or the thread has none, the channel waits and nothing is lost.
+  // queue is full, or the thread has none yet, the channel waits and nothing is lost.
+  // A thread that has ended is dropped: what was not posted by then is kept for Read.
   //
   // The channel owns every chunk: the receiver reads it and never frees it. A
   // chunk stays as it is for 5 seconds, less when 512 KiB more come meanwhile, and its

@@ -29,8 +29,8 @@ class TollvaneServer {
   virtual void Release() = 0;
   // Enabled (non-zero): data from the server is posted to thread `threadId` as messages
   // `messageId` whose first parameter is a chunk's address and whose second is its
-  // length in bytes. Zero removes that thread. With several threads registered each gets
-  // every chunk. Returns non-zero on success.
+  // length in bytes. Zero removes that thread; one that has ended is removed without a
+  // word. With several threads registered each gets every chunk. Returns non-zero on success.
   //
   // The server object owns every chunk: the receiver reads it and never frees it. A chunk
   // stays as it is for 5 seconds, less when 512 KiB more come meanwhile, and its memory can be
