@@ -41,7 +41,7 @@ def view_type(argument):
     if not argument.is_pointer or argument.type == "text":
         return None
     element = constant + argument.cpp_element
-    if argument.extent:
+    if argument.extent and not argument.is_open_ended:
         fixed = argument.fixed_extent is not None and not argument.may_be_null
         return f"std::span<{element}, {argument.extent}>" if fixed else f"std::span<{element}>"
     return f"{element}*" if argument.may_be_null else f"{element}&"

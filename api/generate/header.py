@@ -49,7 +49,7 @@ def outside_text(argument):
 
 
 def extent_text(argument):
-    if not argument.extent:
+    if not argument.extent or argument.is_open_ended:
         return ""
     unit = "bytes" if argument.c_element in ("uint8_t", "char", "void") else "values"
     if argument.fixed_extent is not None:
@@ -125,7 +125,7 @@ def results(export, api):
     declaration = export.declaration
     own = {internal: " ".join(lines) for internal, lines in declaration.results}
     found = []
-    reasons = refused(export) if declaration.kind != "session" else []
+    reasons = refused(export)
     if reasons or "InvalidParam" in own:
         text = "; ".join(reasons + ([own.pop("InvalidParam")] if "InvalidParam" in own else []))
         found.append(("InvalidParam", text))
@@ -138,10 +138,11 @@ def results(export, api):
 
 
 def exchange_codes(declaration, api):
+    if declaration.kind != "command" and declaration.uses == "local":
+        return []
     described = {internal for internal, _ in declaration.results}
     given = ("PortNotOpen",) if "own-results" in declaration.flags else USES[declaration.uses]
-    return [api.result(internal).short_name if internal in ("NoAnswer", "Refused") else api.result(internal).public_name
-            for internal in given if internal not in described]
+    return [api.result(internal).short_name for internal in given if internal not in described]
 
 
 def comment(export, api):
@@ -165,7 +166,7 @@ def comment(export, api):
         if codes:
             lines += wrap(" * @return ", f"0 (PC_ERR_SUCCESS), {'one of the above, ' if results(export, api) else ''}{listed(codes)}",
                           " *   ")
-        elif export.declaration.returns != "void" and declaration.kind != "session":
+        elif declaration.returns_result:
             lines += wrap(" * @return", "0 (PC_ERR_SUCCESS)" + (" or one of the above" if results(export, api) else ""), " *   ")
     return "\n".join(lines) + " */\n"
 
@@ -178,6 +179,8 @@ def annotated(argument):
     opt = "_OPT" if argument.may_be_null else ""
     if argument.type == "text":
         macro = f"MEROVANE_IN_TEXT{opt}"
+    elif argument.is_open_ended:
+        return argument.c_type() + argument.name
     elif argument.extent:
         macro = f"MEROVANE_{word}_N{opt}({argument.extent.replace(' ', '')})"
     else:
@@ -191,7 +194,7 @@ def access(export):
     words = {"in": "READS", "out": "WRITES", "inout": "UPDATES"}
     arguments = export.arguments
     for at, argument in enumerate(arguments, 1):
-        if not argument.is_pointer or argument.type == "text":
+        if not argument.is_pointer or argument.type == "text" or argument.is_open_ended:
             continue
         counter = next((n for n, other in enumerate(arguments, 1)
                         if other.name == argument.extent and not other.is_pointer), None)
@@ -229,7 +232,7 @@ def merovane_h(api, templates):
 
 def result_codes_h(api):
     out = ["/* The result codes: what every command returns.\n *\n"
-           " * A code has the name that the logs show, and where that one misleads a second one that says what\n * happened. */\n"
+           " * Every code has the name that the logs show and a short one that says what happened, which\n * merovane.h uses. */\n"
            "#ifndef MEROVANE_RESULT_CODES_H\n#define MEROVANE_RESULT_CODES_H\n\ntypedef enum QV_RESULT {\n"]
     rows = []
     for code in api.result_codes:
@@ -242,5 +245,3 @@ def result_codes_h(api):
     return "".join(out)
 
 
-def bands_h():
-    return "".join(f"  {name} = {number},\n" for number, name in BANDS.items())

@@ -14,12 +14,12 @@ TYPES = {
     "text": ("char", "char", ""),                # ends with a zero; always a pointer
 }
 BANDS = {0: "QV_BAND_GSM", 1: "QV_BAND_DCS", 3: "QV_BAND_PCS", 4: "QV_BAND_GSM850"}
-# How a command uses the link, and the results that follow from it.
+# How a command uses the link, and the results that follow from it. Without a port none runs at all.
 USES = {
     "asks": ("PortNotOpen", "WriteFailed", "NoAnswer", "Refused"),
     "sends": ("PortNotOpen", "WriteFailed"),
     "listens": ("PortNotOpen", "NoAnswer", "Refused"),
-    "local": (),
+    "local": ("PortNotOpen",),
 }
 
 
@@ -71,6 +71,11 @@ class Argument:
         return int(self.extent) if self.extent.isdigit() else None
 
     @property
+    def is_open_ended(self):
+        """A record whose last field holds as many elements as the record itself counts."""
+        return self.extent == "..."
+
+    @property
     def may_be_null(self):
         return self.optional or bool(self.when and self.is_pointer)
 
@@ -97,6 +102,11 @@ class Declaration:
     @property
     def returns(self):
         return "void" if "void" in self.flags else "int32_t"
+
+    @property
+    def returns_result(self):
+        """Whether what it returns is a QV_RESULT."""
+        return not {"void", "number"} & self.flags
 
     @property
     def has_twin(self):

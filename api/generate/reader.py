@@ -5,7 +5,7 @@ import sys
 import items
 from model import TYPES, USES, Api, Argument, Declaration, ResultCode, camel
 
-FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results"}, "session": {"void"},
+FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results"}, "session": {"void", "number"},
          "project": {"plain", "image", "holder", "project-first"}}
 
 

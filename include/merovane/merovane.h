@@ -31,35 +31,42 @@ extern "C" {
 
 /** Opens a port and makes its phone object the default one.
  * @param port  1 and up
- * @param baud_rate  bits per second, above 0 */
+ * @param baud_rate  bits per second, above 0
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest(int32_t port, int32_t baud_rate);
 
 /** Opens a port for the QV_..._MT functions; the default object stays as it is. Arguments and
  * results as QV_BeginPhoneTest.
  * @param port
- * @param baud_rate */
+ * @param baud_rate
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest_MT(int32_t port, int32_t baud_rate);
 
-/** Stops mode processes, closes every open port and forgets the default object. */
+/** Stops mode processes, closes every open port and forgets the default object.
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest(void);
 
 /** Closes one port. Not for the port of the default object while QV_X functions are still to be
  * called: they return 1 from then on.
- * @param port */
+ * @param port
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest_MT(int32_t port);
 
 /** Switches a property.
  * @param property  0 Useful log on or off; 1 recording of received data; 2 channel server on or
  *   off; 3 receive mode; 4 handset is big-endian
  * @param value1  property 1: non-zero to record; otherwise not used
- * @param value2  property 1: address of the file's path, as in QV_SaveRecvData; otherwise the value */
+ * @param value2  property 1: address of the file's path, as in QV_SaveRecvData; otherwise the value
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetProperty(
     uint32_t property, uintptr_t value1, uintptr_t value2);
 
 /** Reads property 4; for others `value` stays as it was.
  * @param property
  * @param value1  not used
- * @param value */
+ * @param value
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetProperty(
     uint32_t property, uintptr_t value1, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(3);
 
@@ -70,11 +77,13 @@ MEROVANE_API void MEROVANE_CALL QV_SetRecvMode(uint32_t mode);
 
 /** Records received bytes, as they come, at the end of a file, on ports opened from now on.
  * @param on  0 ends the recording on every port
- * @param path  the file; null ends the recording too */
+ * @param path  the file; null ends the recording too
+ * @retval PC_ERR_INVALID_PARAM  `path` is null */
 MEROVANE_API void MEROVANE_CALL QV_SaveRecvData(uint32_t on, MEROVANE_IN_TEXT const char *path);
 
 /** Whether the default object's handset has reported an assert since the last call. Needs a channel
- * server. The result is not reported to the error-code library. */
+ * server. The result is not reported to the error-code library.
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
 
 /** Waits, in the background, for a handset to boot and puts it into a mode.
@@ -82,7 +91,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
  *   arrives, with an object of its own; the device is left closed, see QV_GetUsbPort
  * @param mode  start mode, as in QV_SetPhoneStartMode
  * @param event  reset at the start, set when the handset was caught
- * @param time_limit_ms  0: without end (milliseconds) */
+ * @param time_limit_ms  0: without end (milliseconds)
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess(
     uint32_t wait_for_port, uint32_t mode, QV_EVENT event, uint32_t time_limit_ms);
 
@@ -92,7 +102,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess(
  * @param wait_for_port
  * @param mode
  * @param event
- * @param time_limit_ms  milliseconds */
+ * @param time_limit_ms  milliseconds
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess_MT(
     int32_t port, uint32_t wait_for_port, uint32_t mode, QV_EVENT event, uint32_t time_limit_ms);
 
@@ -100,7 +111,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess_MT(
  * queue are dispatched meanwhile.
  * @param wait_for_port
  * @param mode
- * @param time_limit_ms  milliseconds */
+ * @param time_limit_ms  milliseconds
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx(
     uint32_t wait_for_port, uint32_t mode, uint32_t time_limit_ms);
 
@@ -108,15 +120,18 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx(
  * @param port
  * @param wait_for_port
  * @param mode
- * @param time_limit_ms  milliseconds */
+ * @param time_limit_ms  milliseconds
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx_MT(
     int32_t port, uint32_t wait_for_port, uint32_t mode, uint32_t time_limit_ms);
 
-/** Ends the mode process begun last by QV_EnterModeProcess, if it still runs, in at most 3300 ms. */
+/** Ends the mode process begun last by QV_EnterModeProcess, if it still runs, in at most 3300 ms.
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess(void);
 
 /** The same for one port.
- * @param port */
+ * @param port
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
 
 /** Restarts the handset and sets the event when it can be talked to again.
@@ -126,7 +141,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
  *   restart plainly
  * @param event  set when done; reset at the start when through_port is set
  * @param time_limit_ms  of the wait for the device, 0 without end; of the answer when through_port
- *   is 0 (milliseconds) */
+ *   is 0 (milliseconds)
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(
     uint32_t through_port, uint32_t reboot_kind, QV_EVENT event, uint32_t time_limit_ms);
 
@@ -135,18 +151,21 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(
  * @param through_port
  * @param reboot_kind
  * @param event
- * @param time_limit_ms  milliseconds */
+ * @param time_limit_ms  milliseconds
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess_MT(
     int32_t port, uint32_t through_port, uint32_t reboot_kind, QV_EVENT event,
     uint32_t time_limit_ms);
 
 /** The number of the port on which QV_EnterModeProcess with wait_for_port found a device, 0 when
- * none. */
+ * none.
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetUsbPort(void);
 
 /** Sets the 4-byte camp parameter that goes into the sequence field of the first frame after each
  * start of a mode process.
- * @param camp_parameter */
+ * @param camp_parameter
+ * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
 
 /* ---- Test-mode start and phone modes ------------------------------------------------- */
@@ -160,7 +179,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time; one in the other byte order does
  *   not count
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
     MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity, MEROVANE_OUT uint32_t *length,
     uint32_t timeout_ms) MEROVANE_WRITES_N(1, 2) MEROVANE_WRITES(3);
@@ -178,7 +197,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
 /** Puts a handset that has sent its start frame into a mode. Waits 4000 ms for the acknowledgement;
  * the setting "Inc Recv Timeout" does not lengthen the wait.
  * @param mode  0 to 127, as the handset numbers its modes; mode + 128 is sent in 8 bits
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 
@@ -192,7 +211,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_
  * @param mode  as QV_SetPhoneStartMode takes it
  * @param timeout_ms  of the wait for the start frame; 0: nothing is read (milliseconds)
  * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time, and no mode was sent
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx(uint32_t mode, uint32_t timeout_ms);
 
@@ -208,7 +227,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx_MT(
  * @param mode  as QV_SetPhoneStartMode takes it
  * @param first_camp_parameter  its low 4 bits are sent
  * @param second_camp_parameter  its low 11 bits are sent
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetModeAndCampParam(
     uint32_t mode, uint32_t first_camp_parameter, uint32_t second_camp_parameter);
@@ -224,7 +243,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetModeAndCampParam_MT(
 
 /** Switches the handset's ARM trace output on or off.
  * @param enable  0: off
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog(uint32_t enable);
 
 /** QV_EnableArmLog for the port `port`, with the same results. Switches the handset's ARM trace
@@ -235,7 +254,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnableArmLog_MT(int32_t port, uint32_t ena
 
 /** Switches the handset's DSP trace output on or off. Waits 1000 ms.
  * @param enable  0: off
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog(uint32_t enable);
 
@@ -247,7 +266,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnableDspLog_MT(int32_t port, uint32_t ena
 
 /** Changes the mode of a running handset. Waits 4000 ms.
  * @param mode  as the handset numbers its modes; 0 restarts it
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode(uint8_t mode);
 
@@ -262,7 +281,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ChangePhoneMode_MT(int32_t port, uint8_t m
  * @param answered  1 when the answer carries 2 bytes or more: the port stays; else 0. Written on
  *   success only
  * @retval PC_ERR_INVALID_PARAM  `answered` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode(
     uint8_t mode, MEROVANE_OUT uint32_t *answered) MEROVANE_WRITES(2);
@@ -282,7 +301,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangePhoneMode_MT(
  * @param second_camp_parameter  its low 11 bits are sent
  * @param answered  as QV_UsbChangePhoneMode stores it
  * @retval PC_ERR_INVALID_PARAM  `answered` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangeModeAndSetCampParam(
     uint8_t mode, uint32_t first_camp_parameter, uint32_t second_camp_parameter,
@@ -302,7 +321,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_UsbChangeModeAndSetCampParam_MT(
 /** Restarts the handset and waits for its acknowledgement.
  * @param timeout_ms  of the acknowledgement (above 0, milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `timeout_ms` of 0
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone(uint32_t timeout_ms);
 
@@ -317,7 +336,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone_MT(int32_t port, uint32_t tim
  *   becomes a start mode code, 0x80 to 0x8F, when it arrived (`capacity` bytes)
  * @param capacity  room at `data` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `capacity` outside 1 to 2147483647
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode(
     MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
@@ -343,7 +362,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(
  * @retval PC_ERR_BUFFER_TOO_SMALL  the frame was cut to the room that there is
  * @retval PC_ERR_DECODE_FAILED  a frame arrived that holds nothing
  * @retval PC_ERR_NO_FRAME  no whole frame arrived in time
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read(
     MEROVANE_OUT_N(*length) uint8_t *data, MEROVANE_INOUT uint32_t *length,
     uint32_t timeout_ms) MEROVANE_WRITES(1) MEROVANE_UPDATES(2);
@@ -365,7 +384,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Read_MT(
  * @param data  what is written (`length` bytes)
  * @param length  how many bytes (1 and up)
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` below 1
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Write(
     MEROVANE_IN_N(length) const uint8_t *data, int32_t length) MEROVANE_READS_N(1, 2);
 
@@ -396,7 +415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Write_MT(
  *   `command` of more than 9214 characters
  * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer; `answer` holds the frames that fitted
  * @retval PC_ERR_NO_DATA  no answer came
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand(
     MEROVANE_IN_TEXT const char *command, uint32_t command_length, uint32_t wait,
@@ -439,7 +458,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
  *   to 2147483647 when `answer` and `answer_length` are not null; `timeout_ms` of 0
  * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer; `answer` holds the frames that fitted
  * @retval PC_ERR_NO_DATA  neither "OK" nor a prompt came in time; `answer` holds what came before
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
     MEROVANE_IN_N(length) const char *command, uint32_t length,
@@ -472,7 +491,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAT_MT(
  * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer than 9216 characters
  * @retval PC_ERR_NO_DATA  no answer came
  * @retval PC_ERR_NO_USEFUL_DATA  the answer holds no "+CCED"
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo(
     MEROVANE_OUT QV_CELL_INFO *cell) MEROVANE_WRITES(1);
@@ -484,7 +503,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetCurrCellInfo_MT(
     int32_t port, MEROVANE_OUT QV_CELL_INFO *cell) MEROVANE_WRITES(2);
 
 /** Sends the handset into deep sleep.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN or PC_ERR_WRITE_DATA_FAIL */
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode(void);
 
 /** QV_EnterDeepSleepMode for the port `port`, with the same results. Sends the handset into deep
@@ -501,7 +520,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode_MT(int32_t port);
  * @param data_length  bytes stored; 0 with code 13, not written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash(
     uint16_t item, MEROVANE_OUT uint8_t *data, int32_t length, MEROVANE_OUT uint32_t *data_length,
@@ -525,7 +544,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash_MT(
  * @param length  bytes at `data`, 1 to 65523
  * @param timeout_ms  of the acknowledgement; 0: 4000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
     uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length,
@@ -544,7 +563,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash_MT(
 
 /** Erases the production flash area.
  * @param timeout_ms  above 0 (milliseconds)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash(uint32_t timeout_ms);
 
@@ -560,7 +579,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash_MT(int32_t port, uint32_t timeo
  * @param data_length  bytes stored; not written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv(
     uint16_t item, MEROVANE_OUT uint8_t *data, uint32_t capacity,
@@ -582,7 +601,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv_MT(
  * @param data
  * @param length  bytes at `data`, 0 to 65525
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(
     uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length) MEROVANE_READS(2);
@@ -604,7 +623,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
  * @param capacity  bytes at `data`, 1 to 2147483647
  * @param data_length  bytes stored; written on success only
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadNvFromHandset(
     uint16_t item, uint32_t offset, uint32_t length, MEROVANE_OUT uint8_t *data, uint32_t capacity,
@@ -616,7 +635,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNvFromHandset(
  * @param data  `count` units, in the handset's byte order. Units that did not arrive read as 0
  * @param count  of units, above 0; at most 65519 bytes
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister(
     uint32_t access_width, uint32_t address, MEROVANE_OUT uint8_t *data,
@@ -638,7 +657,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister_MT(
  * @param data  `count` units, in the handset's byte order
  * @param count  of units, above 0; at most 65511 bytes
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister(
     uint32_t access_width, uint32_t address, MEROVANE_IN const uint8_t *data,
@@ -660,7 +679,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister_MT(
 /** Reads the chip's identification word; 1000 ms.
  * @param id
  * @retval PC_ERR_INVALID_PARAM  `id` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID(MEROVANE_OUT uint32_t *id) MEROVANE_WRITES(1);
 
@@ -674,7 +693,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(
 /** Reads the chip's type word; 1000 ms.
  * @param type
  * @retval PC_ERR_INVALID_PARAM  `type` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType(MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(1);
 
@@ -690,7 +709,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(
  * @param capacity  bytes at `id`, above 0
  * @param length  of the whole identification, also when it was cut
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
     uint32_t second_lcd, MEROVANE_OUT uint8_t *id, int32_t capacity,
@@ -710,7 +729,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(
 /** Reads the flash description; 1000 ms.
  * @param info  written on success only
  * @retval PC_ERR_INVALID_PARAM  `info` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo(
     MEROVANE_OUT QV_FLASH_INFO *info) MEROVANE_WRITES(1);
@@ -727,7 +746,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(
  *   before
  * @param capacity  bytes at `version`, 1 to 2147483647; a longer text is cut without an error
  * @retval PC_ERR_INVALID_PARAM  `version` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(
     MEROVANE_OUT char *version, uint32_t capacity) MEROVANE_WRITES(1);
@@ -748,7 +767,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
  *   three, a shorter one none
  * @param timeout_ms  0: 1000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand(
     uint8_t command, MEROVANE_IN const uint16_t *words, MEROVANE_OUT uint16_t *answered_words,
@@ -773,7 +792,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand_MT(
  * @param answered_words  as there
  * @param timeout_ms  0: 1000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `answered_words` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand(
     uint8_t command, MEROVANE_OUT uint16_t *answered_words,
@@ -794,7 +813,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand_MT(
 /** Asks whether the handset's fixed NV is there; 1000 ms. Reported under the operation id of
  * QV_ReadNv.
  * @param mode  10: the information block is asked about, otherwise the NV items
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV(uint32_t mode);
 
@@ -808,7 +827,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV_MT(int32_t port, uint32_t mod
  * without a checksum; 3000 ms. The other fields' flags are not looked at.
  * @param info
  * @retval PC_ERR_INVALID_PARAM  `info` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(
     MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(1);
@@ -822,7 +841,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect_MT(
 /** Writes the fields whose flags are set, in one frame with a checksum; 3000 ms.
  * @param info
  * @retval PC_ERR_INVALID_PARAM  `info` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo(
     MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(1);
@@ -839,7 +858,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
  *   codes it is filled as from an empty block: IMEIs and addresses of zeros. A damaged digit of an
  *   IMEI reads as a letter a to f
  * @retval PC_ERR_INVALID_PARAM  `info` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(
     MEROVANE_OUT QV_FIXED_NV_INFO *info) MEROVANE_WRITES(1);
@@ -860,7 +879,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(
  * @param serial_number  24 bytes, padded with zeros
  * @param capacity  bytes at `serial_number`, 1 to 2147483647
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(
     MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
@@ -876,7 +895,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN_MT(
  * @param serial_number
  * @param capacity
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2(
     MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
@@ -896,7 +915,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2_MT(
  * @param serial_number
  * @param length  bytes at `serial_number`, 1 to 23
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN(
     MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
@@ -912,7 +931,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN_MT(
  * @param serial_number
  * @param length
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2(
     MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
@@ -927,7 +946,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
 /** Reads the handset's GUID; 4000 ms. Its lines and operation id are those of QV_ReadFlash.
  * @param guid  16 bytes, as the handset holds them
  * @retval PC_ERR_INVALID_PARAM  `guid` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT uint8_t *guid) MEROVANE_WRITES(1);
 
@@ -943,7 +962,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(
  * @param length  bytes at `block`, at most 65525; 256 in handsets that keep their serial numbers
  *   there
  * @retval PC_ERR_INVALID_PARAM  `block` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(
     MEROVANE_IN const uint8_t *block, uint32_t length) MEROVANE_READS(1);
@@ -963,7 +982,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct_MT(
  * @param length  of the whole block, also when it was cut; as it was with code 4, 0 with all other
  *   failures
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(
     MEROVANE_OUT uint8_t *block, uint32_t capacity,
@@ -985,7 +1004,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct_MT(
  * @param capacity
  * @param length
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion(
     MEROVANE_OUT uint8_t *block, uint32_t capacity,
@@ -1006,7 +1025,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion_MT(
  * @param count  the answer's first word in this machine's byte order, whatever the handset's;
  *   written with code 13 too
  * @retval PC_ERR_INVALID_PARAM  `count` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(
     MEROVANE_OUT uint32_t *count) MEROVANE_WRITES(1);
@@ -1023,7 +1042,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount_MT(
 /** Switches the LED on (non-zero) or off. Nothing is awaited. Handsets cannot tell it from
  * QV_LcdOn(1), nor QV_LedOn(0) from QV_VibrationOn(0): the codes are the same.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LedOn(uint32_t on);
 
@@ -1034,7 +1053,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LedOn_MT(int32_t port, uint32_t on);
 
 /** Switches the vibrator on (non-zero) or off. Nothing is awaited.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn(uint32_t on);
 
@@ -1046,7 +1065,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn_MT(int32_t port, uint32_t on);
 
 /** Switches the LCD on (non-zero) or off. Nothing is awaited.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn(uint32_t on);
 
@@ -1058,7 +1077,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn_MT(int32_t port, uint32_t on);
 
 /** Switches the key light on (non-zero) or off. Nothing is awaited.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn(uint32_t on);
 
@@ -1070,7 +1089,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn_MT(int32_t port, uint32_t on);
 
 /** Switches the camera on (non-zero) or off. Nothing is awaited.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn(uint32_t on);
 
@@ -1085,7 +1104,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
  * @param value  2 bytes, most significant first; written on success only
  * @param timeout_ms  above 0 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `value` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
     uint8_t channel, MEROVANE_OUT uint8_t *value, uint32_t timeout_ms) MEROVANE_WRITES(2);
@@ -1106,7 +1125,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
  * @param fourth_byte  of the answer; null: not wanted
  * @param timeout_ms  0: 1000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
     uint8_t channel, MEROVANE_OUT uint16_t *value, MEROVANE_OUT uint8_t *third_byte,
@@ -1128,7 +1147,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
 /** Measures the battery; 1000 ms.
  * @param voltage  in the handset's unit; 0 is stored when the exchange failed
  * @retval PC_ERR_INVALID_PARAM  `voltage` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(
     MEROVANE_OUT uint32_t *voltage) MEROVANE_WRITES(1);
@@ -1141,7 +1160,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt_MT(
 
 /** Makes the handset act as if a key were pressed; 1000 ms.
  * @param key  the handset's code of it
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard(uint32_t key);
 
@@ -1155,7 +1174,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t ke
 
 /** Opens (non-zero) or closes the receiver; 1000 ms.
  * @param open
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
 
@@ -1169,7 +1188,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
  * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is
  *   the handset's
  * @retval PC_ERR_INVALID_PARAM  `block` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(
     MEROVANE_IN const uint8_t *block) MEROVANE_READS(1);
@@ -1185,7 +1204,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
  * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive
  *   read as 0
  * @retval PC_ERR_INVALID_PARAM  `block` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(MEROVANE_OUT uint8_t *block) MEROVANE_WRITES(1);
 
@@ -1200,7 +1219,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv_MT(
 
 /** Enters (non-zero) or leaves the Bluetooth test mode; 3000 ms.
  * @param enter
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode(uint32_t enter);
 
@@ -1213,7 +1232,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode_MT(int32_t port, uint32_t ent
 /** Stores the Bluetooth address; 3000 ms.
  * @param address  6 bytes, most significant first
  * @retval PC_ERR_INVALID_PARAM  `address` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr(
     MEROVANE_IN const uint8_t *address) MEROVANE_READS(1);
@@ -1227,7 +1246,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
 /** Reads the Bluetooth address; 1000 ms.
  * @param address  6 bytes, most significant first
  * @retval PC_ERR_INVALID_PARAM  `address` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
 
@@ -1241,7 +1260,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(
  * @param start  0: stop; `words` is not looked at
  * @param words  four: the handset's, except the second, which is the channel, 0 to 78
  * @retval PC_ERR_INVALID_PARAM  `words` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(
     uint32_t start, MEROVANE_IN const uint32_t *words) MEROVANE_READS(2);
@@ -1257,7 +1276,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
 /** Starts (3000 ms) or stops (1000 ms) a carrier for frequency adjustment.
  * @param start  0: stop; `channel` is not looked at
  * @param channel  0 to 78
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC(uint32_t start, uint32_t channel);
 
@@ -1270,7 +1289,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC_MT(int32_t port, uint32_t start
 
 /** Tries a value of the frequency DAC; 1000 ms.
  * @param value  0 to 63
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue(uint32_t value);
 
@@ -1282,7 +1301,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue_MT(int32_t port, uint32_t va
 
 /** Stores the value of the frequency DAC; 3000 ms.
  * @param value  0 to 63
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue(uint32_t value);
 
@@ -1295,7 +1314,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t v
 /** Reads the stored value of the frequency DAC; 1000 ms.
  * @param value
  * @retval PC_ERR_INVALID_PARAM  `value` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1311,7 +1330,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
 
 /** Enters (non-zero) or leaves the WiFi test mode; 3000 ms.
  * @param enter
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
 
@@ -1319,7 +1338,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
  * @param address  6 bytes. They reach the handset reversed, and QV_WIFI_LoadAddr does not turn them
  *   back: what is saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
  * @retval PC_ERR_INVALID_PARAM  `address` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
     MEROVANE_IN const uint8_t *address) MEROVANE_READS(1);
@@ -1327,46 +1346,46 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
 /** Reads the WiFi address; 1000 ms.
  * @param address  6 bytes, as the handset holds them; written on success only
  * @retval PC_ERR_INVALID_PARAM  `address` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(
     MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
 
 /** Chooses the channel; 3000 ms.
  * @param channel  1 to 13; others choose 6
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
 
 /** Chooses the data rate; 3000 ms.
  * @param rate  1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52, 54, 58 or 65 Mbit/s
  *   (rounded down)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetDateRat(uint32_t rate);
 
 /** Chooses the modulation mode; 3000 ms.
  * @param mode  0 to 6
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetMode(uint32_t mode);
 
 /** Chooses the power control level; 3000 ms.
  * @param level  1 to 5
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
 
 /** Switches the transmitter; 3000 ms.
  * @param enable  0: off
  * @param argument  the handset's
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetTxStatus(uint32_t enable, uint32_t argument);
 
 /** Switches the receiver; 1000 ms.
  * @param mode  0 off, 1 on; others clear the received counts
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetRxStatus(uint32_t mode);
 
@@ -1374,7 +1393,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetRxStatus(uint32_t mode);
  * @param first  the handset's first count; 0 when no answer came
  * @param second  its second
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_ReadRxValue(
     MEROVANE_OUT uint32_t *first,
@@ -1385,7 +1404,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_ReadRxValue(
  *   it (8000 ms)
  * @param factor  read: all of it, on success; otherwise index and value are sent
  * @retval PC_ERR_INVALID_PARAM  `factor` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(
     uint32_t operation, MEROVANE_OUT QV_WIFI_FACTOR *factor) MEROVANE_WRITES(2);
@@ -1393,7 +1412,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(
 /** Stores the crystal's load capacitance; 3000 ms.
  * @param capacitance  2 bytes, sent as they are
  * @retval PC_ERR_INVALID_PARAM  `capacitance` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
     MEROVANE_IN const uint8_t *capacitance) MEROVANE_READS(1);
@@ -1402,7 +1421,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
 
 /** Resets the DSP's RF parameters; 4000 ms. The DSP functions have no operation ids: results are
  * reported under the one of the command before.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
 
@@ -1414,7 +1433,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
  *   read as 0
  * @param count  of units, above 0
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
     uint32_t unused, uint32_t width, uint32_t address, MEROVANE_OUT uint8_t *data,
@@ -1425,7 +1444,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
  * @param width  bytes of the unit: 1, 2 or 4
  * @param address
  * @param value
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
     uint32_t unused, uint32_t width, uint32_t address, uint32_t value);
@@ -1436,7 +1455,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
  * @param c
  * @param d
  * @param e
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
     uint32_t a, uint8_t b, uint8_t c, uint16_t d, uint16_t e);
@@ -1448,7 +1467,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
  * Recv Timeout" alone, for the handset's confirmation; without that setting it ends in 11 though
  * the handset has changed its mode. Mode 7 waits 1000 ms and does not look at the outcome.
  * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode(int32_t mode);
 
@@ -1461,7 +1480,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_
  * 1000 ms and is confirmed as mode 1 of QV_ChangeGSMTDCalMode is; mode 1 waits 1000 ms and does not
  * look at the outcome.
  * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode(int32_t mode);
 
@@ -1472,7 +1491,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode_MT(int32_t port, int32_t 
 
 /** Activates (non-zero) or deactivates the calibration layer; 1000 ms.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active(uint32_t on);
 
@@ -1485,7 +1504,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MT(int32_t port, uint32_t on);
 /** Chooses the band that the following commands work in; 1000 ms.
  * @param band  0, 1, 3 or 4
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark(uint32_t band);
 
@@ -1501,7 +1520,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MT(int32_t port, uint32_
  * @param start
  * @param parameters  not used to stop
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart(
     uint32_t start, MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
@@ -1524,7 +1543,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
  * @param run  not used to stop. Report and its length are written on success only; up to 27648
  *   bytes, as words
  * @retval PC_ERR_INVALID_PARAM  `run` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(
     uint32_t start, MEROVANE_OUT QV_EXTENDED_AFC *run) MEROVANE_WRITES(2);
@@ -1535,7 +1554,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(
  * @param parameters
  * @param measured
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart(
     uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
@@ -1555,7 +1574,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MT(
 /** Sets a power step factor; 1000 ms.
  * @param step
  * @retval PC_ERR_INVALID_PARAM  `step` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -1571,7 +1590,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MT(
  * byte order.
  * @param setting
  * @retval PC_ERR_INVALID_PARAM  `setting` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PASetting(
     MEROVANE_IN const QV_POWER_STEP *setting) MEROVANE_READS(1);
@@ -1589,7 +1608,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PASetting_MT(
  * @param ramp_down  16 points
  * @param band  0, 1, 3 or 4
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting(
     uint32_t flag, MEROVANE_IN const uint16_t *ramp_up, MEROVANE_IN const uint16_t *ramp_down,
@@ -1606,7 +1625,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_MT(
     MEROVANE_IN const uint16_t *ramp_down, uint32_t band) MEROVANE_READS(3) MEROVANE_READS(4);
 
 /** Switches to maximum transmit power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus(void);
 
@@ -1616,7 +1635,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus(void);
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MT(int32_t port);
 
 /** Leaves maximum transmit or receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus(void);
 
@@ -1626,7 +1645,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus(void);
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MT(int32_t port);
 
 /** Switches to maximum receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus(void);
 
@@ -1636,7 +1655,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus(void);
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MT(int32_t port);
 
 /** Leaves maximum transmit or receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus(void);
 
@@ -1650,7 +1669,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
 /** Reads the IMEI from the handset's NV item 5; 1000 ms.
  * @param imei  8 bytes, two digits each, as the handset keeps them
  * @retval PC_ERR_INVALID_PARAM  `imei` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT uint8_t *imei) MEROVANE_WRITES(1);
 
@@ -1665,7 +1684,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
  * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value,
  *   10 to 15, and the text is cut to 15 characters
  * @retval PC_ERR_INVALID_PARAM  `text` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(MEROVANE_OUT char *text) MEROVANE_WRITES(1);
 
@@ -1682,7 +1701,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1696,7 +1715,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0_MT(
 
 /** Writes item 1 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0(uint32_t value);
 
@@ -1710,7 +1729,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, 
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1724,7 +1743,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1_MT(
 
 /** Writes item 1 in flash: one value from offset 1. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1(uint32_t value);
 
@@ -1738,7 +1757,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, 
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1752,7 +1771,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0_MT(
 
 /** Writes item 1 in RAM: one value from offset 2. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0(uint32_t value);
 
@@ -1766,7 +1785,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1780,7 +1799,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0_MT(
 
 /** Writes item 1 in flash: one value from offset 2. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0(uint32_t value);
 
@@ -1794,7 +1813,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t po
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1808,7 +1827,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1_MT(
 
 /** Writes item 1 in RAM: one value from offset 3. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1(uint32_t value);
 
@@ -1822,7 +1841,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1836,7 +1855,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1_MT(
 
 /** Writes item 1 in flash: one value from offset 3. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1(uint32_t value);
 
@@ -1850,7 +1869,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t po
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1864,7 +1883,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0_MT(
 
 /** Writes item 1 in flash: one value from offset 4. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0(uint32_t value);
 
@@ -1879,7 +1898,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1893,7 +1912,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1_MT(
 
 /** Writes item 1 in flash: one value from offset 5. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1(uint32_t value);
 
@@ -1908,7 +1927,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
@@ -1922,7 +1941,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7_MT(
 
 /** Writes item 1 in flash: one value from offset 11. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7(uint32_t value);
 
@@ -1938,7 +1957,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC(
     uint8_t offset, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
@@ -1954,7 +1973,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_MT(
 /** Writes item 1 in flash: one value from offset `offset`. Waits 1000 ms.
  * @param offset  of the value, in elements
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC(uint8_t offset, uint32_t value);
 
@@ -1972,7 +1991,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -1986,7 +2005,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center_MT(
 
 /** Writes item 2 in RAM: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center(uint16_t value);
 
@@ -2000,7 +2019,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t po
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2014,7 +2033,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center_MT(
 
 /** Writes item 2 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center(uint16_t value);
 
@@ -2029,7 +2048,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2043,7 +2062,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits_MT
 
 /** Writes item 3 in RAM: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits(uint16_t value);
 
@@ -2058,7 +2077,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_M
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2072,7 +2091,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits_
 
 /** Writes item 3 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(uint16_t value);
 
@@ -2087,7 +2106,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2101,7 +2120,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length_MT(
 
 /** Writes item 5 in RAM: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length(uint16_t value);
 
@@ -2116,7 +2135,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2130,7 +2149,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length_MT(
 
 /** Writes item 5 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length(uint16_t value);
 
@@ -2145,7 +2164,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2159,7 +2178,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC_MT(
 
 /** Writes item 6 in RAM: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC(uint16_t value);
 
@@ -2173,7 +2192,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, ui
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2187,7 +2206,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC_MT(
 
 /** Writes item 6 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC(uint16_t value);
 
@@ -2201,7 +2220,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, 
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2215,7 +2234,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC_MT(
 
 /** Writes item 7 in RAM: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC(uint16_t value);
 
@@ -2229,7 +2248,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, ui
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
@@ -2243,7 +2262,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC_MT(
 
 /** Writes item 7 in flash: one value. Waits 1000 ms.
  * @param value  what is written
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
 
@@ -2257,7 +2276,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, 
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2272,7 +2291,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
 /** Writes item 14 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2288,7 +2307,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2303,7 +2322,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
 /** Writes item 14 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2319,7 +2338,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2334,7 +2353,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
 /** Writes item 4 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2350,7 +2369,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2365,7 +2384,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
 /** Writes item 4 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2381,7 +2400,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2396,7 +2415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_ar
 /** Writes item 15 in RAM: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2412,7 +2431,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
  * @param values  what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
@@ -2427,7 +2446,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_
 /** Writes item 15 in flash: 17 values. Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
@@ -2446,7 +2465,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
  * @param values  what the answer lacks stays as it was (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(2);
@@ -2463,7 +2482,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_MT
  * @param band  a QV_BAND
  * @param values  what is written (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(2);
@@ -2481,7 +2500,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_M
  * @param values  what the answer lacks stays as it was (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(2);
@@ -2498,7 +2517,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_
  * @param band  a QV_BAND
  * @param values  what is written (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(2);
@@ -2516,7 +2535,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2533,7 +2552,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8P
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, uint16_t value);
@@ -2551,7 +2570,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2568,7 +2587,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk(
     uint32_t band, uint16_t value);
@@ -2588,7 +2607,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2605,7 +2624,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index_MT(
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index(
     uint32_t band, uint16_t value);
@@ -2623,7 +2642,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -2640,7 +2659,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index_MT(
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index(
     uint32_t band, uint16_t value);
@@ -2659,7 +2678,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_OUT_N(count) uint16_t *values, uint32_t count) MEROVANE_WRITES_N(2, 3);
@@ -2679,7 +2698,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value_MT(
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
@@ -2701,7 +2720,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_OUT_N(count) uint16_t *values, uint32_t count) MEROVANE_WRITES_N(2, 3);
@@ -2721,7 +2740,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value_MT(
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
@@ -2742,7 +2761,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT
  * @param values  what the answer lacks stays as it was (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(2);
@@ -2759,7 +2778,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
  * @param band  a QV_BAND
  * @param values  what is written (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_IN_N(91) const uint16_t *values) MEROVANE_READS(2);
@@ -2777,7 +2796,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
  * @param values  what the answer lacks stays as it was (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(2);
@@ -2794,7 +2813,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
  * @param band  a QV_BAND
  * @param values  what is written (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_IN_N(91) const uint16_t *values) MEROVANE_READS(2);
@@ -2815,7 +2834,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
  * @param values  what the answer lacks stays as it was (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(3);
@@ -2835,7 +2854,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram(
     uint32_t band, uint16_t index, MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(3);
@@ -2856,7 +2875,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
  * @param values  what the answer lacks stays as it was (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(3);
@@ -2876,7 +2895,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash(
     uint32_t band, uint16_t index, MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(3);
@@ -2897,7 +2916,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -2916,7 +2935,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram(
     uint32_t band, uint16_t index, uint16_t value);
@@ -2936,7 +2955,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -2955,7 +2974,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash(
     uint32_t band, uint16_t index, uint16_t value);
@@ -2975,7 +2994,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -2994,7 +3013,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3014,7 +3033,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3033,7 +3052,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3052,7 +3071,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -3069,7 +3088,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram(uint32_t band, uint16_t value);
 
@@ -3086,7 +3105,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
@@ -3103,7 +3122,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash(uint32_t band, uint16_t value);
 
@@ -3120,7 +3139,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
  * @param values  what the answer lacks stays as it was (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
     uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(2);
@@ -3137,7 +3156,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
  * @param band  a QV_BAND
  * @param values  what is written (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash(
     uint32_t band, MEROVANE_IN_N(16) const uint16_t *values) MEROVANE_READS(2);
@@ -3155,7 +3174,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
  * @param values  what the answer lacks stays as it was (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
     uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(2);
@@ -3172,7 +3191,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
  * @param band  a QV_BAND
  * @param values  what is written (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash(
     uint32_t band, MEROVANE_IN_N(16) const uint16_t *values) MEROVANE_READS(2);
@@ -3193,7 +3212,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3212,7 +3231,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3232,7 +3251,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3251,7 +3270,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3271,7 +3290,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3290,7 +3309,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3310,7 +3329,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3329,7 +3348,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3349,7 +3368,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3368,7 +3387,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3388,7 +3407,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3407,7 +3426,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3427,7 +3446,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3446,7 +3465,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3466,7 +3485,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3485,7 +3504,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK_MT(
  * @param index  of the element
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
@@ -3505,7 +3524,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3525,7 +3544,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK_MT(
  * @param value  what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
@@ -3547,7 +3566,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI(
     MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(1);
@@ -3564,7 +3583,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI_MT(
 /** Writes item 30 in flash, an IMEI. Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
  * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI(MEROVANE_IN_TEXT const char *text);
 
@@ -3581,7 +3600,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
  *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI(
     MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(1);
@@ -3598,7 +3617,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI_MT(
 /** Writes item 35 in flash, an IMEI. Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
  * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI(MEROVANE_IN_TEXT const char *text);
 
@@ -3613,7 +3632,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(
 
 /** Saves all items in RAM to flash, through item 32.
  * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
 
@@ -3627,7 +3646,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t time
  * @param values  what the answer lacks stays as it was (6 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(
     MEROVANE_OUT_N(6) uint16_t *values) MEROVANE_WRITES(1);
@@ -3649,7 +3668,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(
  * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_OSCI_TEMP_COM_IN_DAC(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3663,7 +3682,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_OSCI_TEMP_COM_IN_DAC(
  * @param values  what is written; reading leaves what the answer lacks as it was (9 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TX_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3677,7 +3696,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TX_COMPENSATE(
  * @param values  what is written; reading leaves what the answer lacks as it was (9 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TX_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3691,7 +3710,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TX_COMPENSATE(
  * @param values  what is written; reading leaves what the answer lacks as it was (6 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TXPOWER_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3705,7 +3724,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TXPOWER_COMPENSATE(
  * @param values  what is written; reading leaves what the answer lacks as it was (6 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TXPOWER_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3719,7 +3738,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TXPOWER_COMPENSATE(
  * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TX_COMPENSATE_BOUNDARY_ARFCN_INDEX(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3733,7 +3752,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TX_COMPENSATE_BOUNDARY_ARFCN_INDEX(
  * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_COMPENSATE_ADC(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3747,7 +3766,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_COMPENSATE_ADC(
  * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_LEVEL_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3761,7 +3780,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_LEVEL_COMPENSATE(
  * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_COMPENSATE_ADC(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3775,7 +3794,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_COMPENSATE_ADC(
  * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3789,7 +3808,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
  * @param values  what is written; reading leaves what the answer lacks as it was (1 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3803,7 +3822,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
  * @param values  what is written; reading leaves what the answer lacks as it was (1 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
     uint32_t read, uint32_t flash, uint16_t band,
@@ -3815,7 +3834,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
  * and QV_PwrStepFactorSet_MChip. Nothing is sent. QV_CalDirectCurr sets it to 0.
  * @param band  0, 1, 3 or 4
  * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
 
@@ -3827,7 +3846,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip_MT(int32_t port, u
 /** Chooses how QV_AfcStart_MChip trims: with CDAC and CAFC (not 0) or with the CAFC centre (0).
  * Nothing is sent.
  * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
 
@@ -3843,14 +3862,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t 
  * @param second
  * @param third
  * @param fourth
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTxParam(
     uint32_t first, uint16_t second, uint16_t third, uint16_t fourth);
 
 /** Activates (non-zero) or deactivates the calibration layer; 1000 ms.
  * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip(uint32_t on);
 
@@ -3867,7 +3886,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on)
  * @param on
  * @param channel
  * @param level
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip(uint32_t on, uint16_t channel, uint16_t level);
 
@@ -3887,7 +3906,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
  * @param start
  * @param parameters  not used to stop
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
     uint32_t start, MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
@@ -3908,7 +3927,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
  * @param parameters
  * @param measured  `value` stays as it was; not used to stop
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
     uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
@@ -3928,7 +3947,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
  * @param first  the second word of the measurement
  * @param second  the first word of the measurement
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr(
     MEROVANE_OUT uint16_t *first,
@@ -3948,7 +3967,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr_MT(
  *   may be null
  * @param timeout_ms  of the answer (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd(
     MEROVANE_IN const QV_NON_SIGNAL_COMMAND *command, MEROVANE_OUT QV_NON_SIGNAL_ANSWER *answer,
@@ -3973,7 +3992,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
  * band and even if the handset was restarted since: the result is 0.
  * @param step  band, level, value and index, as described there
  * @retval PC_ERR_INVALID_PARAM  `step` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -3987,7 +4006,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
 /** Writes `third` to item 36 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
  * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -4002,7 +4021,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
 /** Writes `third` to item 36 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
  * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -4017,7 +4036,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
 /** Writes `third` to item 37 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
  * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -4032,7 +4051,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
 /** Writes `third` to item 37 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param step  band, level, value and index, as described there
  * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -4051,7 +4070,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip(
     uint32_t flag, MEROVANE_IN_N(16) const uint16_t *first,
@@ -4077,7 +4096,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip_MT(
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip(
     uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first, MEROVANE_OUT_N(16) uint16_t *second,
@@ -4102,7 +4121,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip_MT(
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip(
     uint32_t flag, MEROVANE_IN_N(16) const uint16_t *first,
@@ -4128,7 +4147,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip_MT(
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip(
     uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first, MEROVANE_OUT_N(16) uint16_t *second,
@@ -4151,7 +4170,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
 /** Starts a transmit sweep over a list of points; 1000 ms.
  * @param sweep
  * @retval PC_ERR_INVALID_PARAM  `sweep` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep(
     MEROVANE_IN const QV_TD_TX_SWEEP *sweep) MEROVANE_READS(1);
@@ -4166,7 +4185,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep_MT(
 /** Starts transmitting; 1000 ms.
  * @param start
  * @retval PC_ERR_INVALID_PARAM  `start` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx(
     MEROVANE_IN const QV_TD_TX_START *start) MEROVANE_READS(1);
@@ -4180,7 +4199,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx_MT(
 /** Sets the power steps to sweep over; 1000 ms.
  * @param sweep
  * @retval PC_ERR_INVALID_PARAM  `sweep` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD(
     MEROVANE_IN const QV_TD_POWER_SWEEP *sweep) MEROVANE_READS(1);
@@ -4195,7 +4214,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD_MT(
 /** Sets a power step factor, with what QV_SetTDContTxRxMode said; 1000 ms.
  * @param step
  * @retval PC_ERR_INVALID_PARAM  `step` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
@@ -4210,7 +4229,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
 /** Chooses continuous transmission and reception (not 0) for QV_PwrStepFactorSet_TD. Nothing is
  * sent.
  * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
 
@@ -4224,7 +4243,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode_MT(int32_t port, uint32_
  * @param data  the answer's payload, cut to `capacity`
  * @param capacity  bytes at `data`, above 0
  * @retval PC_ERR_INVALID_PARAM  `data` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD(
     MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(1);
@@ -4239,7 +4258,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
 /** Puts a booting handset into a TD-SCDMA start mode and takes the next frame as its
  * acknowledgement; 3000 ms.
  * @param mode  128 is added, and the sum sent in 8 bits
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL, PC_ERR_NO_ANSWER or
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD(uint32_t mode);
 
@@ -4252,7 +4271,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint
 /** Reads calibration parameters; 1000 ms.
  * @param parameters  selector and count are given, the values written, on success only
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(
     MEROVANE_OUT QV_TD_PARAMETERS *parameters) MEROVANE_WRITES(1);
@@ -4267,7 +4286,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(
 /** Writes calibration parameters; 1000 ms.
  * @param parameters
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_IS_NOT_OPEN, PC_ERR_WRITE_DATA_FAIL,
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(
     MEROVANE_IN const QV_TD_PARAMETERS *parameters) MEROVANE_READS(1);

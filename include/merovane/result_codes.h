@@ -1,7 +1,7 @@
 /* The result codes: what every command returns.
  *
- * A code has the name that the logs show, and where that one misleads a second one that says what
- * happened. */
+ * Every code has the name that the logs show and a short one that says what happened, which
+ * merovane.h uses. */
 #ifndef MEROVANE_RESULT_CODES_H
 #define MEROVANE_RESULT_CODES_H
 
