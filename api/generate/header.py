@@ -1,7 +1,7 @@
 """The public headers: merovane.h, the manual of every exported function, and result_codes.h."""
 import re
 
-from model import BANDS, USES
+from model import USES
 
 WIDTH = 100
 

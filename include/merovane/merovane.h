@@ -1462,238 +1462,265 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
 
 /* ---- Calibration: modes and activation ----------------------------------------------- */
 
-/** Changes the handset's layer-1 software to GSM (mode 1) or TD-SCDMA (mode 7) calibration. Other
- * modes send nothing. Mode 1 waits 3000 ms for the acknowledgement and then, for the setting "Inc
- * Recv Timeout" alone, for the handset's confirmation; without that setting it ends in 11 though
- * the handset has changed its mode. Mode 7 waits 1000 ms and does not look at the outcome.
- * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Changes the handset's layer-1 software to another calibration mode. Other values of `mode` send
+ * nothing and succeed. QV_CALIBRATION_MODE_GSM waits 3000 ms for the acknowledgement and then, for
+ * the setting "Inc Recv Timeout" alone, for the handset's confirmation: unless that setting is
+ * above 0, the result is PC_ERR_NO_ANSWER although the handset changes its mode.
+ * QV_CALIBRATION_MODE_TD waits 1000 ms and succeeds whatever comes back, even when nothing does.
+ * @param mode  a QV_CALIBRATION_MODE
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset confirms with a status other than 0; a confirmation
+ *   that ends before its status counts as 0
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode(int32_t mode);
 
 /** QV_ChangeGSMTDCalMode for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode */
+ * @param mode  a QV_CALIBRATION_MODE */
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_t mode);
 
-/** Prepares TD-SCDMA (mode 7) or GSM (mode 1) calibration. Other modes send nothing. Mode 7 waits
- * 1000 ms and is confirmed as mode 1 of QV_ChangeGSMTDCalMode is; mode 1 waits 1000 ms and does not
- * look at the outcome.
- * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Prepares the handset's layer-1 software for calibration. Other values of `mode` send nothing and
+ * succeed. QV_CALIBRATION_MODE_TD waits 1000 ms for the acknowledgement and then for a
+ * confirmation, as QV_CALIBRATION_MODE_GSM does in QV_ChangeGSMTDCalMode. QV_CALIBRATION_MODE_GSM
+ * waits 1000 ms and succeeds whatever comes back, even when nothing does.
+ * @param mode  a QV_CALIBRATION_MODE
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset confirms with a status other than 0; a confirmation
+ *   that ends before its status counts as 0
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode(int32_t mode);
 
 /** QV_InitGSMTDCalMode for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode */
+ * @param mode  a QV_CALIBRATION_MODE */
 MEROVANE_API int32_t MEROVANE_CALL QV_InitGSMTDCalMode_MT(int32_t port, int32_t mode);
 
-/** Activates (non-zero) or deactivates the calibration layer; 1000 ms.
- * @param on
+/** Activates or deactivates the handset's calibration layer. Waits 1000 ms.
+ * @param on  not 0: activate; 0: deactivate
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active(uint32_t on);
 
-/** QV_Active for the port `port`, with the same results. Activates (non-zero) or deactivates the
- * calibration layer; 1000 ms.
+/** QV_Active for the port `port`, with the same results. Activates or deactivates the handset's
+ * calibration layer. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  not 0: activate; 0: deactivate */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MT(int32_t port, uint32_t on);
 
-/** Chooses the band that the following commands work in; 1000 ms.
- * @param band  0, 1, 3 or 4
+/** Chooses the band in which the GSM commands that follow work. Waits 1000 ms.
+ * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  another band
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark(uint32_t band);
 
-/** QV_SetPhoneClassmark for the port `port`, with the same results. Chooses the band that the
- * following commands work in; 1000 ms.
+/** QV_SetPhoneClassmark for the port `port`, with the same results. Chooses the band in which the
+ * GSM commands that follow work. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param band  0, 1, 3 or 4 */
+ * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MT(int32_t port, uint32_t band);
 
 /* ---- Calibration: GSM frequency and receiver ----------------------------------------- */
 
-/** Starts (non-zero) or stops transmitting with a frequency trim; 1000 ms.
- * @param start
- * @param parameters  not used to stop
- * @retval PC_ERR_INVALID_PARAM  `parameters` is null
+/** Starts transmitting with a frequency trim, or stops. Waits 1000 ms.
+ * @param start  not 0: start; 0: stop
+ * @param parameters  the trim, sent in the order 1, 2, 0, 3 (looked at only when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null when `start` is not 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart(
-    uint32_t start, MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
+    uint32_t start, MEROVANE_IN_OPT const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
 
-/** QV_AfcStart for the port `port`, with the same results. Starts (non-zero) or stops transmitting
- * with a frequency trim; 1000 ms.
+/** QV_AfcStart for the port `port`, with the same results. Starts transmitting with a frequency
+ * trim, or stops. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start
- * @param parameters  not used to stop */
+ * @param start  not 0: start; 0: stop
+ * @param parameters  the trim, sent in the order 1, 2, 0, 3 (looked at only when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
     int32_t port, uint32_t start,
-    MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(3);
+    MEROVANE_IN_OPT const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(3);
 
-/** Runs an extended AFC measurement and collects its report, or, with start 0, stops one. For the
- * default phone object only. Each block of the report is waited for at most 3 times 3000 ms (the
- * first) or 1000 ms; a block of 500 bytes or less ends the report and is not part of it, so that a
- * first one of that length leaves it empty, as does one that announces no further block. A run that
- * fails is not stopped: call again with start 0.
- * @param start
- * @param run  not used to stop. Report and its length are written on success only; up to 27648
- *   bytes, as words
- * @retval PC_ERR_INVALID_PARAM  `run` is null
+/** Runs an extended AFC measurement and collects its report, or stops one. For the default phone
+ * object only. The report comes in blocks. For each the handset has up to three times 3000 ms (the
+ * first block) or 1000 ms (the others), to which "Inc Recv Timeout" is not added; stopping at the
+ * end waits another 1000 ms. A block of 500 bytes or less ends the report and is not part of it, so
+ * that the report is empty with PC_ERR_SUCCESS when the first block is that short or announces no
+ * other block. A run that fails leaves the handset running: call again with `start` 0.
+ * @param start  not 0: run; 0: stop
+ * @param run  its values are sent; its report, as 16-bit words, and the report's length are written
+ *   on success only (looked at only when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `run` is null when `start` is not 0; `run->count` above 16
+ * @retval PC_ERR_MESSAGE_TOO_LONG  the report would not fit into the record
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(
-    uint32_t start, MEROVANE_OUT QV_EXTENDED_AFC *run) MEROVANE_WRITES(2);
+    uint32_t start, MEROVANE_INOUT_OPT QV_EXTENDED_AFC *run) MEROVANE_UPDATES(2);
 
-/** Starts (non-zero) a receive measurement and takes its report, or stops it. Waits 1000 ms for the
- * acknowledgement, 200 ms for the measurement and 1000 ms for the report.
- * @param start
- * @param parameters
- * @param measured
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Starts a receive measurement and takes its report, or stops measuring. Waits 1000 ms for the
+ * acknowledgement; when it measures, it then lets 200 ms pass and waits 1000 ms, to which "Inc Recv
+ * Timeout" is not added, for the report.
+ * @param start  not 0: measure; 0: stop
+ * @param parameters  what to measure, sent as it stands (looked at only when `start` is not 0)
+ * @param measured  what the handset reports. Fields that the report is too short for read 0; an
+ *   empty report zeroes it; without a report it stays as it was (looked at only when `start` is not
+ *   0)
+ * @retval PC_ERR_INVALID_PARAM  `parameters` or `measured` is null when `start` is not 0
+ * @retval PC_ERR_NO_DATA  acknowledged, but no report came
+ * @retval PC_ERR_DECODE_FAILED  a report came that does not decode
+ * @retval PC_ERR_NO_FRAME  a report began and did not end
+ * @retval PC_ERR_PARSE_FAILED  the report is empty
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart(
-    uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
-    MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
+    uint32_t start, MEROVANE_IN_OPT const QV_AGC_PARAMETERS *parameters,
+    MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /** QV_AgcStart for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start
- * @param parameters
- * @param measured */
+ * @param start  not 0: measure; 0: stop
+ * @param parameters  what to measure, sent as it stands (looked at only when `start` is not 0)
+ * @param measured  what the handset reports. Fields that the report is too short for read 0; an
+ *   empty report zeroes it; without a report it stays as it was (looked at only when `start` is not
+ *   0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MT(
-    int32_t port, uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
-    MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
+    int32_t port, uint32_t start, MEROVANE_IN_OPT const QV_AGC_PARAMETERS *parameters,
+    MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
 
 /* ---- Calibration: GSM transmit power ------------------------------------------------- */
 
-/** Sets a power step factor; 1000 ms.
- * @param step
+/** Sets a power step factor. Waits 1000 ms.
+ * @param step  sent as it stands
  * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_PwrStepFactorSet for the port `port`, with the same results. Sets a power step factor; 1000
- * ms.
+/** QV_PwrStepFactorSet for the port `port`, with the same results. Sets a power step factor. Waits
+ * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step */
+ * @param step  sent as it stands */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Sets the power amplifier; 1000 ms. Only the low 16 bits of `fourth` are put into the handset's
- * byte order.
- * @param setting
+/** Sets the power amplifier. Waits 1000 ms.
+ * @param setting  sent as it stands, but for the high 16 bits of `fourth`, which travel in this
+ *   machine's byte order
  * @retval PC_ERR_INVALID_PARAM  `setting` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PASetting(
     MEROVANE_IN const QV_POWER_STEP *setting) MEROVANE_READS(1);
 
-/** QV_PASetting for the port `port`, with the same results. Sets the power amplifier; 1000 ms. Only
- * the low 16 bits of `fourth` are put into the handset's byte order.
+/** QV_PASetting for the port `port`, with the same results. Sets the power amplifier. Waits 1000
+ * ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param setting */
+ * @param setting  sent as it stands, but for the high 16 bits of `fourth`, which travel in this
+ *   machine's byte order */
 MEROVANE_API int32_t MEROVANE_CALL QV_PASetting_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *setting) MEROVANE_READS(2);
 
-/** Sets the ramps of a band; 1000 ms.
- * @param flag  sent as 1 when not 0
- * @param ramp_up  16 points
- * @param ramp_down  16 points
- * @param band  0, 1, 3 or 4
+/** Sets the ramps of a band. Waits 1000 ms.
+ * @param flag  sent as 1 when it is not 0
+ * @param ramp_up  the points of the ramp up (16 values)
+ * @param ramp_down  the points of the ramp down (16 values)
+ * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting(
-    uint32_t flag, MEROVANE_IN const uint16_t *ramp_up, MEROVANE_IN const uint16_t *ramp_down,
+    uint32_t flag, MEROVANE_IN_N(16) const uint16_t *ramp_up,
+    MEROVANE_IN_N(16) const uint16_t *ramp_down,
     uint32_t band) MEROVANE_READS(2) MEROVANE_READS(3);
 
-/** QV_RampSetting for the port `port`, with the same results. Sets the ramps of a band; 1000 ms.
+/** QV_RampSetting for the port `port`, with the same results. Sets the ramps of a band. Waits 1000
+ * ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param flag  sent as 1 when not 0
- * @param ramp_up  16 points
- * @param ramp_down  16 points
- * @param band  0, 1, 3 or 4 */
+ * @param flag  sent as 1 when it is not 0
+ * @param ramp_up  the points of the ramp up (16 values)
+ * @param ramp_down  the points of the ramp down (16 values)
+ * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_MT(
-    int32_t port, uint32_t flag, MEROVANE_IN const uint16_t *ramp_up,
-    MEROVANE_IN const uint16_t *ramp_down, uint32_t band) MEROVANE_READS(3) MEROVANE_READS(4);
+    int32_t port, uint32_t flag, MEROVANE_IN_N(16) const uint16_t *ramp_up,
+    MEROVANE_IN_N(16) const uint16_t *ramp_down,
+    uint32_t band) MEROVANE_READS(3) MEROVANE_READS(4);
 
-/** Switches to maximum transmit power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Makes the handset transmit at full power. Waits for nothing: success means that the request was
+ * written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus(void);
 
-/** QV_EnterMaxTxPowerStatus for the port `port`, with the same results. Switches to maximum
- * transmit power. Nothing is awaited.
+/** QV_EnterMaxTxPowerStatus for the port `port`, with the same results. Makes the handset transmit
+ * at full power. Waits for nothing: success means that the request was written.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MT(int32_t port);
 
-/** Leaves maximum transmit or receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Makes the handset leave full transmit power, or full receive power, whichever it is in:
+ * QV_LeaveMaxRxPowerStatus sends the same. Waits for nothing: success means that the request was
+ * written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus(void);
 
-/** QV_LeaveMaxTxPowerStatus for the port `port`, with the same results. Leaves maximum transmit or
- * receive power. Nothing is awaited.
+/** QV_LeaveMaxTxPowerStatus for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MT(int32_t port);
 
-/** Switches to maximum receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Makes the handset receive at full power. Waits for nothing: success means that the request was
+ * written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus(void);
 
-/** QV_EnterMaxRxPowerStatus for the port `port`, with the same results. Switches to maximum receive
- * power. Nothing is awaited.
+/** QV_EnterMaxRxPowerStatus for the port `port`, with the same results. Makes the handset receive
+ * at full power. Waits for nothing: success means that the request was written.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MT(int32_t port);
 
-/** Leaves maximum transmit or receive power. Nothing is awaited.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Makes the handset leave full receive power, or full transmit power, whichever it is in:
+ * QV_LeaveMaxTxPowerStatus sends the same. Waits for nothing: success means that the request was
+ * written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus(void);
 
-/** QV_LeaveMaxRxPowerStatus for the port `port`, with the same results. Leaves maximum transmit or
- * receive power. Nothing is awaited.
+/** QV_LeaveMaxRxPowerStatus for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
 
 /* ---- Calibration: IMEI --------------------------------------------------------------- */
 
-/** Reads the IMEI from the handset's NV item 5; 1000 ms.
- * @param imei  8 bytes, two digits each, as the handset keeps them
+/** Reads the IMEI from the handset's NV item 5. Waits 1000 ms.
+ * @param imei  two digits in a byte, as the handset keeps them; written on success only (8 bytes)
  * @retval PC_ERR_INVALID_PARAM  `imei` is null
+ * @retval PC_ERR_PARSE_FAILED  the answer is that of another item or has fewer than 8 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT uint8_t *imei) MEROVANE_WRITES(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT_N(8) uint8_t *imei) MEROVANE_WRITES(1);
 
 /** QV_ReadIMEI for the port `port`, with the same results. Reads the IMEI from the handset's NV
- * item 5; 1000 ms.
+ * item 5. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param imei  8 bytes, two digits each, as the handset keeps them */
+ * @param imei  two digits in a byte, as the handset keeps them; written on success only (8 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
-    int32_t port, MEROVANE_OUT uint8_t *imei) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(8) uint8_t *imei) MEROVANE_WRITES(2);
 
-/** The same as text.
- * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value,
- *   10 to 15, and the text is cut to 15 characters
+/** Reads the IMEI from the handset's NV item 5 as text. Waits 1000 ms.
+ * @param text  15 decimal digits and a zero, written on success only. A damaged digit shows as its
+ *   value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI reads as
+ *   151515151515151 with PC_ERR_SUCCESS (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `text` is null
+ * @retval PC_ERR_PARSE_FAILED  the answer is that of another item or has fewer than 8 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(MEROVANE_OUT char *text) MEROVANE_WRITES(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(
+    MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(1);
 
-/** QV_ReadIMEI_ASCII for the port `port`, with the same results. The same as text.
+/** QV_ReadIMEI_ASCII for the port `port`, with the same results. Reads the IMEI from the handset's
+ * NV item 5 as text. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param text  at least 16 bytes: 15 decimal digits and a zero. A damaged digit shows as its value,
- *   10 to 15, and the text is cut to 15 characters */
+ * @param text  15 decimal digits and a zero, written on success only. A damaged digit shows as its
+ *   value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI reads as
+ *   151515151515151 with PC_ERR_SUCCESS (16 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
-    int32_t port, MEROVANE_OUT char *text) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
 /* ---- Calibration data: ADC ----------------------------------------------------------- */
 
@@ -3830,123 +3857,131 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
 
 /* ---- Calibration: multi-chip handsets ------------------------------------------------ */
 
-/** Chooses the band word of QV_Active_MChip, QV_TxOn_MChip, QV_AfcStart_MChip, QV_AgcStart_MChip
- * and QV_PwrStepFactorSet_MChip. Nothing is sent. QV_CalDirectCurr sets it to 0.
- * @param band  0, 1, 3 or 4
- * @retval PC_ERR_INVALID_PARAM  another band
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+/** Chooses the band of the commands for multi-chip handsets whose description names it. Nothing is
+ * sent. A new phone object begins with QV_BAND_GSM, which QV_CalDirectCurr sets again.
+ * @param band  a QV_BAND
+ * @retval PC_ERR_INVALID_PARAM  another band; the band that was chosen stays
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
 
 /** QV_SetPhoneClassmark_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param band  0, 1, 3 or 4 */
+ * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip_MT(int32_t port, uint32_t band);
 
-/** Chooses how QV_AfcStart_MChip trims: with CDAC and CAFC (not 0) or with the CAFC centre (0).
- * Nothing is sent.
- * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses how QV_AfcStart_MChip trims the handset's frequency. Nothing is sent. A new phone object
+ * begins with 0.
+ * @param mode  not 0: with CDAC and CAFC; 0: with the CAFC centre
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
 
 /** QV_SetPhoneAfcMode for the port `port`, with the same results. Chooses how QV_AfcStart_MChip
- * trims: with CDAC and CAFC (not 0) or with the CAFC centre (0). Nothing is sent.
+ * trims the handset's frequency. Nothing is sent. A new phone object begins with 0.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode */
+ * @param mode  not 0: with CDAC and CAFC; 0: with the CAFC centre */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t mode);
 
-/** Sets the four transmit parameters that go to the handset whenever its transmitter is switched;
- * all are 0 until then. Nothing is sent. For the default phone object only.
- * @param first
- * @param second
- * @param third
- * @param fourth
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Sets the transmit parameters that go to the handset whenever its transmitter is switched.
+ * Nothing is sent. A new phone object begins with zeros. For the default phone object only.
+ * @param first  its meaning, and that of the others, is the handset's
+ * @param second  sent after it
+ * @param third  sent after it
+ * @param fourth  sent after it
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTxParam(
     uint32_t first, uint16_t second, uint16_t third, uint16_t fourth);
 
-/** Activates (non-zero) or deactivates the calibration layer; 1000 ms.
- * @param on
+/** Activates or deactivates the handset's calibration layer, in the band of
+ * QV_SetPhoneClassmark_MChip. Waits 1000 ms.
+ * @param on  not 0: activate; 0: deactivate
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip(uint32_t on);
 
-/** QV_Active_MChip for the port `port`, with the same results. Activates (non-zero) or deactivates
- * the calibration layer; 1000 ms.
+/** QV_Active_MChip for the port `port`, with the same results. Activates or deactivates the
+ * handset's calibration layer, in the band of QV_SetPhoneClassmark_MChip. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  not 0: activate; 0: deactivate */
 MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on);
 
-/** Tunes, sets the power control level and switches the transmitter on (non-zero), or switches it
- * off. Ends at the first step that fails; each is waited for 1000 ms. The channel is sent only when
- * it differs from the one sent last on this phone object (0 at first), whatever the band and though
- * the handset was restarted since.
- * @param on
- * @param channel
- * @param level
+/** Tunes to a channel, sets the power control level and switches the transmitter on; or switches it
+ * off. In the band of QV_SetPhoneClassmark_MChip. Each step waits 1000 ms; the first one that fails
+ * ends the command. The channel is sent only when it differs from the one that was sent last on
+ * this phone object (0 at first), even when the band has changed or the handset has been restarted
+ * since.
+ * @param on  not 0: on; 0: off
+ * @param channel  not used to switch off
+ * @param level  power control level, not used to switch off
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip(uint32_t on, uint16_t channel, uint16_t level);
 
 /** QV_TxOn_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on
- * @param channel
- * @param level */
+ * @param on  not 0: on; 0: off
+ * @param channel  not used to switch off
+ * @param level  power control level, not used to switch off */
 MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
     int32_t port, uint32_t on, uint16_t channel, uint16_t level);
 
-/** Tunes to values[1], sets the power control level values[2] and the trim, and switches the
- * transmitter on (non-zero); or switches it off. The trim is CAFC centre values[0], or CDAC
- * values[0] and CAFC values[3]: see QV_SetPhoneAfcMode. Ends at the first step that fails; each is
- * waited for 1000 ms. Channel and trims are sent only when they differ from those sent last, as in
- * QV_TxOn_MChip.
- * @param start
- * @param parameters  not used to stop
- * @retval PC_ERR_INVALID_PARAM  `parameters` is null
+/** Tunes to a channel, sets the power control level and the trim, and switches the transmitter on;
+ * or switches it off. In the band of QV_SetPhoneClassmark_MChip. Each step waits 1000 ms; the first
+ * one that fails ends the command. Channel and trims are sent only when they differ from those that
+ * were sent last, as in QV_TxOn_MChip.
+ * @param start  not 0: on; 0: off
+ * @param parameters  [1] is the channel and [2] the power control level; QV_SetPhoneAfcMode says
+ *   whether [0] is the CAFC centre, or CDAC with [3] as CAFC (looked at only when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null when `start` is not 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
-    uint32_t start, MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
+    uint32_t start, MEROVANE_IN_OPT const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(2);
 
 /** QV_AfcStart_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start
- * @param parameters  not used to stop */
+ * @param start  not 0: on; 0: off
+ * @param parameters  [1] is the channel and [2] the power control level; QV_SetPhoneAfcMode says
+ *   whether [0] is the CAFC centre, or CDAC with [3] as CAFC (looked at only when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
     int32_t port, uint32_t start,
-    MEROVANE_IN const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(3);
+    MEROVANE_IN_OPT const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(3);
 
-/** Tunes to words[0] as QV_TxOn_MChip does, sets the power control level words[3], switches the
- * receiver on with words[1] and [2] and, after 200 ms, reads RSSI and RxLevel; or, with start 0,
- * switches the receiver off with the same words. Ends at the first step that fails; steps are
- * waited for 1000 ms, RSSI by up to six reads of 3000 ms each, RxLevel 3000 ms.
- * @param start
- * @param parameters
- * @param measured  `value` stays as it was; not used to stop
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Tunes to a channel, sets the power control level, switches the receiver on and, after 200 ms,
+ * reads RSSI and RxLevel; or switches the receiver off. In the band of QV_SetPhoneClassmark_MChip.
+ * Steps wait 1000 ms and reads 3000 ms each; RSSI is read up to six times, 20 ms apart, until it is
+ * not 0. The first step that fails ends the command; the receiver then stays on. The channel is
+ * sent only when it differs from the one that was sent last, as in QV_TxOn_MChip.
+ * @param start  not 0: measure; 0: switch off
+ * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
+ *   off needs too, and [3] is the power control level
+ * @param measured  `value` stays as it was (looked at only when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null; `measured` is null when `start` is not 0
+ * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
+ * @retval PC_ERR_INVALID_RSSI  RSSI was 0 in all reads; `measured->rssi` is 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
     uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
-    MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
+    MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /** QV_AgcStart_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start
- * @param parameters
- * @param measured  `value` stays as it was; not used to stop */
+ * @param start  not 0: measure; 0: switch off
+ * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
+ *   off needs too, and [3] is the power control level
+ * @param measured  `value` stays as it was (looked at only when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
     int32_t port, uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
-    MEROVANE_OUT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
+    MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
 
-/** Measures the receiver's direct-current offset on channel 61 of band 0, which become the current
- * band and the channel tuned to last. The receiver is switched off at the end whatever happened.
- * @param first  the second word of the measurement
- * @param second  the first word of the measurement
+/** Measures the receiver's direct-current offset on channel 61 of QV_BAND_GSM. That band stays
+ * chosen for multi-chip handsets, and that channel is the one that was sent last. Steps wait 1000
+ * ms, the measurement itself, 100 ms later, 3000 ms. The receiver is switched off at the end
+ * whatever failed; a failure of that alone counts as success.
+ * @param first  the second word of the handset's answer, written on success only
+ * @param second  the first word of the handset's answer, written on success only
  * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr(
@@ -3955,33 +3990,35 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr(
 
 /** QV_CalDirectCurr for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param first  the second word of the measurement
- * @param second  the first word of the measurement */
+ * @param first  the second word of the handset's answer, written on success only
+ * @param second  the first word of the handset's answer, written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr_MT(
     int32_t port, MEROVANE_OUT uint16_t *first,
     MEROVANE_OUT uint16_t *second) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
 /** Sends a non-signalling command.
- * @param command
- * @param answer  written for command 6 only, also when the handset reports a failure; for others it
- *   may be null
+ * @param command  what is sent
+ * @param answer  command 6 fills it, even when the handset reports a failure; other commands do not
+ *   use it (may be null)
  * @param timeout_ms  of the answer (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  `command` is null; `answer` is null for command 6
+ * @retval PC_ERR_NON_SIGNAL_FAILED  the handset reports a failure, or its answer has fewer than 8
+ *   bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd(
-    MEROVANE_IN const QV_NON_SIGNAL_COMMAND *command, MEROVANE_OUT QV_NON_SIGNAL_ANSWER *answer,
+    MEROVANE_IN const QV_NON_SIGNAL_COMMAND *command, MEROVANE_OUT_OPT QV_NON_SIGNAL_ANSWER *answer,
     uint32_t timeout_ms) MEROVANE_READS(1) MEROVANE_WRITES(2);
 
 /** QV_SendNonSignalCmd for the port `port`, with the same results. Sends a non-signalling command.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param command
- * @param answer  written for command 6 only, also when the handset reports a failure; for others it
- *   may be null
+ * @param command  what is sent
+ * @param answer  command 6 fills it, even when the handset reports a failure; other commands do not
+ *   use it (may be null)
  * @param timeout_ms  of the answer (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
     int32_t port, MEROVANE_IN const QV_NON_SIGNAL_COMMAND *command,
-    MEROVANE_OUT QV_NON_SIGNAL_ANSWER *answer,
+    MEROVANE_OUT_OPT QV_NON_SIGNAL_ANSWER *answer,
     uint32_t timeout_ms) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /* ---- Calibration: power factors and ramps of multi-chip handsets --------------------- */
@@ -4167,37 +4204,37 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
 
 /* ---- Calibration: TD-SCDMA ----------------------------------------------------------- */
 
-/** Starts a transmit sweep over a list of points; 1000 ms.
- * @param sweep
- * @retval PC_ERR_INVALID_PARAM  `sweep` is null
+/** Starts a transmit sweep over a list of points. Waits 1000 ms.
+ * @param sweep  sent as it stands, as many points as it counts
+ * @retval PC_ERR_INVALID_PARAM  `sweep` is null; more than 8 points
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep(
     MEROVANE_IN const QV_TD_TX_SWEEP *sweep) MEROVANE_READS(1);
 
 /** QV_TDTxSweep for the port `port`, with the same results. Starts a transmit sweep over a list of
- * points; 1000 ms.
+ * points. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param sweep */
+ * @param sweep  sent as it stands, as many points as it counts */
 MEROVANE_API int32_t MEROVANE_CALL QV_TDTxSweep_MT(
     int32_t port, MEROVANE_IN const QV_TD_TX_SWEEP *sweep) MEROVANE_READS(2);
 
-/** Starts transmitting; 1000 ms.
- * @param start
+/** Starts transmitting. Waits 1000 ms.
+ * @param start  sent as it stands
  * @retval PC_ERR_INVALID_PARAM  `start` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx(
     MEROVANE_IN const QV_TD_TX_START *start) MEROVANE_READS(1);
 
-/** QV_TdStartTx for the port `port`, with the same results. Starts transmitting; 1000 ms.
+/** QV_TdStartTx for the port `port`, with the same results. Starts transmitting. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start */
+ * @param start  sent as it stands */
 MEROVANE_API int32_t MEROVANE_CALL QV_TdStartTx_MT(
     int32_t port, MEROVANE_IN const QV_TD_TX_START *start) MEROVANE_READS(2);
 
-/** Sets the power steps to sweep over; 1000 ms.
- * @param sweep
+/** Sets the power steps to sweep over. Waits 1000 ms.
+ * @param sweep  sent as it stands
  * @retval PC_ERR_INVALID_PARAM  `sweep` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -4205,98 +4242,108 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD(
     MEROVANE_IN const QV_TD_POWER_SWEEP *sweep) MEROVANE_READS(1);
 
 /** QV_PwrStepFactorSweepSet_TD for the port `port`, with the same results. Sets the power steps to
- * sweep over; 1000 ms.
+ * sweep over. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param sweep */
+ * @param sweep  sent as it stands */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSweepSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_TD_POWER_SWEEP *sweep) MEROVANE_READS(2);
 
-/** Sets a power step factor, with what QV_SetTDContTxRxMode said; 1000 ms.
- * @param step
+/** Sets a power step factor. Waits 1000 ms.
+ * @param step  sent as it stands, followed by the mode of QV_SetTDContTxRxMode
  * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_PwrStepFactorSet_TD for the port `port`, with the same results. Sets a power step factor,
- * with what QV_SetTDContTxRxMode said; 1000 ms.
+/** QV_PwrStepFactorSet_TD for the port `port`, with the same results. Sets a power step factor.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step */
+ * @param step  sent as it stands, followed by the mode of QV_SetTDContTxRxMode */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Chooses continuous transmission and reception (not 0) for QV_PwrStepFactorSet_TD. Nothing is
- * sent.
- * @param mode
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses what QV_PwrStepFactorSet_TD tells the handset of continuous transmission and reception.
+ * Nothing is sent. A new phone object begins with 0.
+ * @param mode  not 0: continuous; 0: not
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
 
-/** QV_SetTDContTxRxMode for the port `port`, with the same results. Chooses continuous transmission
- * and reception (not 0) for QV_PwrStepFactorSet_TD. Nothing is sent.
+/** QV_SetTDContTxRxMode for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode */
+ * @param mode  not 0: continuous; 0: not */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode_MT(int32_t port, uint32_t mode);
 
-/** Reads the handset's mode; 1000 ms.
- * @param data  the answer's payload, cut to `capacity`
- * @param capacity  bytes at `data`, above 0
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+/** Reads the mode that the handset is in. Waits 1000 ms.
+ * @param data  what the handset says, cut to the capacity; what it does not fill stays as it was.
+ *   How many bytes came is not told (`capacity` bytes)
+ * @param capacity  of `data` (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `capacity` outside 1 to 2147483647
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the handset said more; the first `capacity` bytes are there
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD(
-    MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
 
-/** QV_ReadMode_TD for the port `port`, with the same results. Reads the handset's mode; 1000 ms.
+/** QV_ReadMode_TD for the port `port`, with the same results. Reads the mode that the handset is
+ * in. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the answer's payload, cut to `capacity`
- * @param capacity  bytes at `data`, above 0 */
+ * @param data  what the handset says, cut to the capacity; what it does not fill stays as it was.
+ *   How many bytes came is not told (`capacity` bytes)
+ * @param capacity  of `data` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
-    int32_t port, MEROVANE_OUT uint8_t *data, uint32_t capacity) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data,
+    uint32_t capacity) MEROVANE_WRITES_N(2, 3);
 
 /** Puts a booting handset into a TD-SCDMA start mode and takes the next frame as its
- * acknowledgement; 3000 ms.
- * @param mode  128 is added, and the sum sent in 8 bits
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+ * acknowledgement. Waits 3000 ms, to which "Inc Recv Timeout" is not added.
+ * @param mode  128 is added, and the sum is sent in 8 bits
+ * @retval PC_ERR_NO_DATA  nothing came
+ * @retval PC_ERR_DECODE_FAILED  what came does not decode
+ * @retval PC_ERR_NO_FRAME  no whole frame came
+ * @retval PC_ERR_ENTER_MODE_FAILED  the frame that came is no acknowledgement
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD(uint32_t mode);
 
-/** QV_SetPhoneStartMode_TD for the port `port`, with the same results. Puts a booting handset into
- * a TD-SCDMA start mode and takes the next frame as its acknowledgement; 3000 ms.
+/** QV_SetPhoneStartMode_TD for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode  128 is added, and the sum sent in 8 bits */
+ * @param mode  128 is added, and the sum is sent in 8 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint32_t mode);
 
-/** Reads calibration parameters; 1000 ms.
- * @param parameters  selector and count are given, the values written, on success only
+/** Reads calibration parameters. Waits 1000 ms.
+ * @param parameters  its selector and count are sent; its values are written on success only. The
+ *   memory need hold no more than `count` values, and may hold more than the record declares: what
+ *   an answer can carry (4600 values) is the only limit
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the handset says that it returns fewer values than `count`
+ * @retval PC_ERR_PARSE_FAILED  the answer is too short for `count` values
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(
-    MEROVANE_OUT QV_TD_PARAMETERS *parameters) MEROVANE_WRITES(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam(QV_TD_PARAMETERS *parameters);
 
-/** QV_ReadTDCalParam for the port `port`, with the same results. Reads calibration parameters; 1000
- * ms.
+/** QV_ReadTDCalParam for the port `port`, with the same results. Reads calibration parameters.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param parameters  selector and count are given, the values written, on success only */
-MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(
-    int32_t port, MEROVANE_OUT QV_TD_PARAMETERS *parameters) MEROVANE_WRITES(2);
+ * @param parameters  its selector and count are sent; its values are written on success only. The
+ *   memory need hold no more than `count` values, and may hold more than the record declares: what
+ *   an answer can carry (4600 values) is the only limit */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadTDCalParam_MT(int32_t port, QV_TD_PARAMETERS *parameters);
 
-/** Writes calibration parameters; 1000 ms.
- * @param parameters
- * @retval PC_ERR_INVALID_PARAM  `parameters` is null
+/** Writes calibration parameters. Waits 1000 ms.
+ * @param parameters  sent as it stands. The memory need hold no more than `count` values
+ * @retval PC_ERR_INVALID_PARAM  `parameters` is null; `parameters->count` outside 1 to 3073
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the handset says that it took another number of values
+ * @retval PC_ERR_PARSE_FAILED  the answer has fewer than 8 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(
-    MEROVANE_IN const QV_TD_PARAMETERS *parameters) MEROVANE_READS(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(const QV_TD_PARAMETERS *parameters);
 
-/** QV_WriteTDCalParam for the port `port`, with the same results. Writes calibration parameters;
- * 1000 ms.
+/** QV_WriteTDCalParam for the port `port`, with the same results. Writes calibration parameters.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param parameters */
+ * @param parameters  sent as it stands. The memory need hold no more than `count` values */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
-    int32_t port, MEROVANE_IN const QV_TD_PARAMETERS *parameters) MEROVANE_READS(2);
+    int32_t port, const QV_TD_PARAMETERS *parameters);
 
 /* ---- NV projects --------------------------------------------------------------------- */
 

@@ -1,5 +1,5 @@
 // The message to the handset's layer 1 that carries most calibration commands: a 16-byte header and
-// the command's parameters.
+// the command's parameters, in the handset's byte order.
 //
 //   offset 0  u16  message id
 //          2  u16  length of the whole message
@@ -25,22 +25,25 @@ inline constexpr FrameId kCalibration{10, 0};
 inline constexpr FrameId kExtendedCalibration{10, 1};
 inline constexpr std::uint32_t kCalibrationTimeoutMs = 1000;
 
+// Two commands share it: a handset tells them apart by the mode that it is in.
+inline constexpr std::uint16_t kSetPowerStepFactor = 0xA119;
+
 // Bytes that nothing was put to are zero.
 template <std::size_t Bytes>
 class CalibrationMessage {
  public:
-  explicit CalibrationMessage(std::uint16_t id) {
+  CalibrationMessage(const PhoneLink& link, std::uint16_t id) : order_(link.Order()) {
     static_assert(Bytes >= 16);
     U16(0, id);
     U16(2, Bytes);
   }
 
   CalibrationMessage& U16(std::size_t offset, std::uint16_t value) {
-    PutU16(bytes_, offset, value);
+    order_.PutU16(bytes_, offset, value);
     return *this;
   }
   CalibrationMessage& U32(std::size_t offset, std::uint32_t value) {
-    PutU32(bytes_, offset, value);
+    order_.PutU32(bytes_, offset, value);
     return *this;
   }
   CalibrationMessage& U16s(std::size_t offset, std::span<const std::uint16_t> values) {
@@ -56,13 +59,15 @@ class CalibrationMessage {
   std::span<const std::uint8_t> Payload() const { return bytes_; }
 
  private:
+  ByteOrder order_;
   std::array<std::uint8_t, Bytes> bytes_{};
 };
 
 // A message that begins with the first fields of a power record.
 template <std::size_t Bytes, typename Record>
-CalibrationMessage<Bytes> PowerMessage(std::uint16_t id, const Record& record) {
-  return CalibrationMessage<Bytes>(id)
+CalibrationMessage<Bytes> PowerMessage(const PhoneLink& link, std::uint16_t id,
+                                       const Record& record) {
+  return CalibrationMessage<Bytes>(link, id)
       .U32(16, record.first)
       .U16(20, record.second)
       .U16(22, record.third);
@@ -70,8 +75,9 @@ CalibrationMessage<Bytes> PowerMessage(std::uint16_t id, const Record& record) {
 
 // Sends a message and waits for its acknowledgement.
 template <std::size_t Bytes>
-Result Acknowledged(PhoneLink& link, const CalibrationMessage<Bytes>& message) {
-  return link.SendAndWaitSame(kCalibration, message.Payload(), kCalibrationTimeoutMs);
+Result Acknowledged(PhoneLink& link, const CalibrationMessage<Bytes>& message,
+                    std::uint32_t timeoutMs = kCalibrationTimeoutMs) {
+  return link.SendAndWaitSame(kCalibration, message.Payload(), timeoutMs).Why();
 }
 
 }  // namespace merovane::commands

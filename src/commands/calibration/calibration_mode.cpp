@@ -1,87 +1,79 @@
 // Changing between the calibration modes, activation, the band.
-#include <string_view>
-
-#include "commands/argument_checks.h"
 #include "commands/calibration/calibration_message.h"
 #include "commands/calibration/data_command.h"
-#include "commands/calibration/gsm.h"
-#include "commands/operation.h"
+#include "declared/gsm_calibration.h"
 
 namespace merovane::commands {
 namespace {
 
-constexpr std::uint32_t kModeOperation = 31;
-constexpr std::int32_t kGsmMode = 1;
-constexpr std::int32_t kTdMode = 7;
+constexpr std::uint16_t kActivate = 0xA101;
+constexpr std::uint16_t kDeactivate = 0xA102;
+constexpr std::uint16_t kSetBand = 0xA103;
+constexpr std::uint16_t kChangeToGsm = 0xA12D;
+constexpr std::uint16_t kInitTd = 0xA12F;
 // Items without data, whose writing asks for a mode.
 constexpr std::uint16_t kInitGsmItem = 42;
 constexpr std::uint16_t kChangeToTdItem = 43;
 
-// Where the confirmation carries its status.
+constexpr std::uint32_t kChangeToGsmTimeoutMs = 3000;
+
+// Where a confirmation carries its status.
 constexpr std::size_t kStatusOffset = 16;
 
 // The handset acknowledges, then confirms with its status. The confirmation is awaited for the
-// configured increment alone: without one the wait ends at once, in 11.
-Result AskAndConfirm(Phone& phone, Operation& operation, std::uint16_t messageId,
-                     std::uint32_t timeoutMs) {
-  PhoneLink& link = phone.link;
-  const CalibrationMessage<20> message(messageId);
-  const Result asked = link.SendAndWaitSame(kCalibration, message.Payload(), timeoutMs);
+// configured increment alone: without one the wait ends at once.
+Result AskAndConfirm(Operation& operation, std::uint16_t messageId, std::uint32_t timeoutMs) {
+  const CalibrationMessage<20> message(operation.link, messageId);
+  const Result asked = Acknowledged(operation.link, message, timeoutMs);
   if (!Succeeded(asked)) return asked;
 
   operation.Log("Read _CNF:");
-  const Answer confirmed = link.WaitForIncrement(kCalibration);
+  const Answer confirmed = operation.link.WaitForIncrement(kCalibration);
+  if (!confirmed) return confirmed.Why();
   // A confirmation that ends before its status counts as status 0.
-  return confirmed.U32(kStatusOffset) != 0 ? Result::DspDebugFailed : confirmed.Why();
+  return confirmed.U32(kStatusOffset) != 0 ? Result::DspDebugFailed : Result::Success;
 }
 
 // The handset changes its software while it answers, so that what comes back says nothing.
-Result AskWithoutConfirmation(Phone& phone, std::uint16_t item) {
-  static_cast<void>(WriteData(phone.link, {Storage::Ram, 0, item, 0}, {}, Element::Byte));
+Result AskWithoutConfirmation(Operation& operation, std::uint16_t item) {
+  static_cast<void>(WriteData(operation.link, {.item = item}, {}, Element::Byte));
   return Result::Success;
 }
 
 }  // namespace
 
-Result ChangeGSMTDCalMode(Phone& phone, std::int32_t mode) {
-  Operation operation(phone, kModeOperation);
+Result body::ChangeGSMTDCalMode(Operation& operation, std::int32_t mode) {
   Result result = Result::Success;
-  if (mode == kGsmMode) {
+  if (mode == QV_CALIBRATION_MODE_GSM) {
     operation.Log("Change to GSM CAL Mode:");
-    result = AskAndConfirm(phone, operation, 0xA12D, 3000);
-  } else if (mode == kTdMode) {
+    result = AskAndConfirm(operation, kChangeToGsm, kChangeToGsmTimeoutMs);
+  } else if (mode == QV_CALIBRATION_MODE_TD) {
     operation.Log("Change to TD CAL Mode:");
-    result = AskWithoutConfirmation(phone, kChangeToTdItem);
+    result = AskWithoutConfirmation(operation, kChangeToTdItem);
   }
   return operation.Finish(result);
 }
 
-Result InitGSMTDCalMode(Phone& phone, std::int32_t mode) {
-  Operation operation(phone, kModeOperation);
+Result body::InitGSMTDCalMode(Operation& operation, std::int32_t mode) {
   Result result = Result::Success;
-  if (mode == kTdMode) {
+  if (mode == QV_CALIBRATION_MODE_TD) {
     operation.Log("Init TD CAL Mode:");
-    result = AskAndConfirm(phone, operation, 0xA12F, 1000);
-  } else if (mode == kGsmMode) {
+    result = AskAndConfirm(operation, kInitTd, kCalibrationTimeoutMs);
+  } else if (mode == QV_CALIBRATION_MODE_GSM) {
     operation.Log("Init GSM CAL Mode:");
-    result = AskWithoutConfirmation(phone, kInitGsmItem);
+    result = AskWithoutConfirmation(operation, kInitGsmItem);
   }
   return operation.Finish(result);
 }
 
-Result Active(Phone& phone, std::uint32_t on) {
-  Operation operation(phone, 51);
-  operation.Log(on ? "Active:" : "DeActive:");
-  const CalibrationMessage<16> message(on ? 0xA101 : 0xA102);
-  return operation.Finish(Acknowledged(phone.link, message));
+Result body::Active(Operation& operation, bool on) {
+  const CalibrationMessage<16> message(operation.link, on ? kActivate : kDeactivate);
+  return operation.Finish(Acknowledged(operation.link, message));
 }
 
-Result SetPhoneClassmark(Phone& phone, std::uint32_t band) {
-  Operation operation(phone, 52);
-  if (!IsBand(band)) return Result::InvalidParam;
-  operation.Log("SetPhoneClassmark:");
-  const auto message = CalibrationMessage<20>(0xA103).U32(16, band);
-  return operation.Finish(Acknowledged(phone.link, message));
+Result body::SetPhoneClassmark(Operation& operation, std::uint32_t band) {
+  const auto message = CalibrationMessage<20>(operation.link, kSetBand).U32(16, band);
+  return operation.Finish(Acknowledged(operation.link, message));
 }
 
 }  // namespace merovane::commands

@@ -36,8 +36,8 @@ struct TransmitParameters {
 struct CalibrationState {
   // Multi-chip handsets: goes into the band word of every step but the direct-current measurement.
   std::uint16_t currentBand = 0;
-  // Not 0: trimmed with CDAC and CAFC; 0: with the CAFC centre.
-  std::uint32_t afcMode = 0;
+  // How the frequency is trimmed: with CDAC and CAFC, or with the CAFC centre.
+  bool trimsWithCdac = false;
   TransmitParameters transmit;
   bool transmitterOn = false;
 
@@ -49,8 +49,8 @@ struct CalibrationState {
   std::uint16_t lastCafcCenter = 0;
   std::array<std::optional<WrittenFactor>, kMultiChipFactors> lastFactors;
 
-  // TD-SCDMA: not 0 for continuous transmission and reception.
-  std::uint32_t tdContinuousMode = 0;
+  // TD-SCDMA: continuous transmission and reception.
+  bool tdContinuous = false;
 };
 
 }  // namespace merovane::commands

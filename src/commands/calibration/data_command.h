@@ -41,8 +41,8 @@ Result WriteData(PhoneLink& link, const DataAddress& address, std::span<const st
                  Element element, std::uint32_t timeoutMs = kDataTimeoutMs);
 Result WriteWord(PhoneLink& link, const DataAddress& address, std::uint16_t value);
 
-// Fills `data` as far as the answer goes, the rest stays as it was. 13 when the answer carries
-// nothing.
+// Fills `data` as far as the answer goes, the rest stays as it was. WrongDataLength when the answer
+// carries nothing.
 Result ReadData(PhoneLink& link, const DataAddress& address, std::span<std::uint8_t> data,
                 Element element, std::uint32_t timeoutMs = kDataTimeoutMs);
 // 0 stands for bytes that the answer lacks; `value` is written on success only.

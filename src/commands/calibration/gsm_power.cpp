@@ -1,80 +1,43 @@
-// Transmit power: step factors, power amplifier, ramps, full power.
+// Transmit power: step factors, power amplifier, ramps.
 #include <array>
 #include <cstring>
-#include <string_view>
 
-#include "commands/argument_checks.h"
 #include "commands/calibration/calibration_message.h"
-#include "commands/calibration/gsm.h"
-#include "commands/operation.h"
+#include "declared/gsm_calibration.h"
 
 namespace merovane::commands {
 namespace {
 
-constexpr std::size_t kRampPoints = 16;
-
-constexpr FrameId kMaxTxPower{17, 6};
-constexpr FrameId kMaxRxPower{17, 5};
-// Leaves either.
-constexpr FrameId kNormalPower{17, 0};
-
-Result SwitchPower(Phone& phone, std::uint32_t operationId, std::string_view name, FrameId status) {
-  Operation operation(phone, operationId);
-  operation.Log(name);
-  return operation.Finish(phone.link.SendFrame(status));
-}
+constexpr std::uint16_t kSetRamps = 0xA118;
+constexpr std::uint16_t kSetAmplifier = 0xA11A;
 
 }  // namespace
 
-Result PwrStepFactorSet(Phone& phone, const QV_POWER_STEP* step) {
-  Operation operation(phone, 56);
-  if (!step) return Result::InvalidParam;
-  operation.Log("PwrStepFactorSet:");
-  const auto message = PowerMessage<28>(0xA119, *step).U32(24, step->fourth);
-  return operation.Finish(Acknowledged(phone.link, message));
+Result body::PwrStepFactorSet(Operation& operation, const QV_POWER_STEP& step) {
+  const auto message =
+      PowerMessage<28>(operation.link, kSetPowerStepFactor, step).U32(24, step.fourth);
+  return operation.Finish(Acknowledged(operation.link, message));
 }
 
-Result PASetting(Phone& phone, const QV_POWER_STEP* setting) {
-  Operation operation(phone, 64);
-  if (!setting) return Result::InvalidParam;
-  operation.Log("PASetting:");
+Result body::PASetting(Operation& operation, const QV_POWER_STEP& setting) {
   // Handsets take the low half of the last field in their own byte order, the high half as it
   // stands in this machine's memory.
-  std::array<std::uint8_t, sizeof(setting->fourth)> last{};
-  std::memcpy(last.data(), &setting->fourth, last.size());
-  const auto message = PowerMessage<28>(0xA11A, *setting)
+  std::array<std::uint8_t, sizeof(setting.fourth)> last{};
+  std::memcpy(last.data(), &setting.fourth, last.size());
+  const auto message = PowerMessage<28>(operation.link, kSetAmplifier, setting)
                            .Raw(24, last)
-                           .U16(24, static_cast<std::uint16_t>(setting->fourth));
-  return operation.Finish(Acknowledged(phone.link, message));
+                           .U16(24, static_cast<std::uint16_t>(setting.fourth));
+  return operation.Finish(Acknowledged(operation.link, message));
 }
 
-Result RampSetting(Phone& phone, std::uint32_t flag, const std::uint16_t* rampUp,
-                   const std::uint16_t* rampDown, std::uint32_t band) {
-  Operation operation(phone, 63);
-  if (!rampUp || !rampDown || !IsBand(band)) return Result::InvalidParam;
-  operation.Log("RampSetting:");
-  const auto message = CalibrationMessage<88>(0xA118)
+Result body::RampSetting(Operation& operation, bool flag, std::span<const std::uint16_t, 16> rampUp,
+                         std::span<const std::uint16_t, 16> rampDown, std::uint32_t band) {
+  const auto message = CalibrationMessage<88>(operation.link, kSetRamps)
                            .U32(16, band)
                            .U16(20, flag ? 1 : 0)
-                           .U16s(22, {rampUp, kRampPoints})
-                           .U16s(54, {rampDown, kRampPoints});
-  return operation.Finish(Acknowledged(phone.link, message));
-}
-
-Result EnterMaxTxPowerStatus(Phone& phone) {
-  return SwitchPower(phone, 59, "EnterMaxTxPowerStatus:", kMaxTxPower);
-}
-
-Result LeaveMaxTxPowerStatus(Phone& phone) {
-  return SwitchPower(phone, 60, "LeaveMaxTxPowerStatus:", kNormalPower);
-}
-
-Result EnterMaxRxPowerStatus(Phone& phone) {
-  return SwitchPower(phone, 61, "EnterMaxRxPowerStatus:", kMaxRxPower);
-}
-
-Result LeaveMaxRxPowerStatus(Phone& phone) {
-  return SwitchPower(phone, 62, "LeaveMaxRxPowerStatus:", kNormalPower);
+                           .U16s(22, rampUp)
+                           .U16s(54, rampDown);
+  return operation.Finish(Acknowledged(operation.link, message));
 }
 
 }  // namespace merovane::commands

@@ -1,20 +1,19 @@
 // The IMEI as the handset keeps it among its NV items.
 #include <algorithm>
-#include <array>
 
-#include "commands/calibration/gsm.h"
 #include "commands/imei.h"
-#include "commands/operation.h"
 #include "commands/storage_frames.h"
+#include "declared/gsm_calibration.h"
 
 namespace merovane::commands {
 namespace {
 
 constexpr std::uint16_t kImeiItem = 5;
+constexpr std::uint32_t kTimeoutMs = 1000;
 
-Result ReadPacked(PhoneLink& link, PackedImei& imei) {
+Result ReadPacked(PhoneLink& link, std::span<std::uint8_t, kPackedImeiBytes> imei) {
   const auto request = NvHeader(kImeiItem);
-  const Answer answer = link.SendAndWaitSame(kReadNv, request, 1000);
+  const Answer answer = link.SendAndWaitSame(kReadNv, request, kTimeoutMs);
   if (!answer) return answer.Why();
   const auto payload = answer.Payload();
   if (payload.size() < request.size() + imei.size() ||
@@ -27,23 +26,14 @@ Result ReadPacked(PhoneLink& link, PackedImei& imei) {
 
 }  // namespace
 
-Result ReadIMEI(Phone& phone, std::uint8_t* imei) {
-  Operation operation(phone, 57);
-  if (!imei) return Result::InvalidParam;
-  operation.Log("ReadIMEI:");
-  PackedImei packed{};
-  const Result result = ReadPacked(phone.link, packed);
-  if (Succeeded(result)) std::ranges::copy(packed, imei);
-  return operation.Finish(result);
+Result body::ReadIMEI(Operation& operation, std::span<std::uint8_t, 8> imei) {
+  return operation.Finish(ReadPacked(operation.link, imei));
 }
 
-Result ReadIMEI_ASCII(Phone& phone, char* text) {
-  Operation operation(phone, 58);
-  if (!text) return Result::InvalidParam;
-  operation.Log("ReadIMEI_ASCII:");
+Result body::ReadIMEI_ASCII(Operation& operation, std::span<char, 16> text) {
   PackedImei packed{};
-  const Result result = ReadPacked(phone.link, packed);
-  if (Succeeded(result)) std::ranges::copy(DecimalImeiText(packed), text);
+  const Result result = ReadPacked(operation.link, packed);
+  if (Succeeded(result)) std::ranges::copy(DecimalImeiText(packed), text.begin());
   return operation.Finish(result);
 }
 

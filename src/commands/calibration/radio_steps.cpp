@@ -3,7 +3,6 @@
 #include <array>
 #include <string_view>
 
-#include "commands/argument_checks.h"
 #include "commands/calibration/data_command.h"
 #include "declared/calibration_items.h"
 #include "link/byte_order.h"
@@ -75,12 +74,13 @@ Result SetPcl(Phone& phone, std::uint16_t level) {
 Result SwitchTransmitter(Phone& phone, bool on) {
   phone.link.LogLine(on ? "TxOn:" : "TxOff:");
   const TransmitParameters& parameters = phone.calibration.transmit;
+  const ByteOrder order = phone.link.Order();
   RadioRecord record{};
-  PutU32(record, 4, parameters.first);
+  order.PutU32(record, 4, parameters.first);
   record[10] = on ? 1 : 0;
-  PutU16(record, 12, parameters.second);
-  PutU16(record, 14, parameters.third);
-  PutU16(record, 16, parameters.fourth);
+  order.PutU16(record, 12, parameters.second);
+  order.PutU16(record, 14, parameters.third);
+  order.PutU16(record, 16, parameters.fourth);
   const Result result = Write(phone, kTransmitterItem, record);
   if (Succeeded(result)) phone.calibration.transmitterOn = on;
   return result;
@@ -89,11 +89,12 @@ Result SwitchTransmitter(Phone& phone, bool on) {
 Result SwitchReceiver(Phone& phone, bool on, const ReceiveParameters& parameters,
                       ReceiveFor purpose) {
   phone.link.LogLine(on ? "RxOn:" : "RxOff:");
+  const ByteOrder order = phone.link.Order();
   RadioRecord record{};
-  PutU16(record, 0, parameters.first);
-  PutU16(record, 2, parameters.second);
-  PutU32(record, 4, 2);
-  PutU16(record, 8, parameters.third);
+  order.PutU16(record, 0, parameters.first);
+  order.PutU16(record, 2, parameters.second);
+  order.PutU32(record, 4, 2);
+  order.PutU16(record, 8, parameters.third);
   record[10] = on ? 1 : 0;
   record[18] = on && purpose == ReceiveFor::DirectCurrent ? 1 : 0;
   return Write(phone, kReceiverItem, record);
@@ -104,7 +105,7 @@ Result GetRssi(Phone& phone, std::uint16_t& rssi) {
   Result result = Result::Success;
   std::uint16_t value = 0;
   for (int read = 0; read < kRssiReads && value == 0; ++read) {
-    if (read > 0) phone.link.Clock().SleepMs(kRssiPauseMs);
+    if (read > 0) phone.link.Sleep(kRssiPauseMs);
     result = ReadWord(phone.link, InCurrentBand(phone, kRssiItem), value, kMeasurementTimeoutMs);
   }
   if (!Succeeded(result)) return result;
@@ -123,8 +124,8 @@ Result GetDirectCurrent(Phone& phone, std::uint16_t& first, std::uint16_t& secon
   const Result result = ReadData(phone.link, {Storage::Ram, 0, kDirectCurrentItem, 0}, data,
                                  Element::Byte, kMeasurementTimeoutMs);
   if (!Succeeded(result)) return result;
-  first = GetU16(data, 2);
-  second = GetU16(data, 0);
+  first = phone.link.Order().GetU16(data, 2);
+  second = phone.link.Order().GetU16(data, 0);
   return Result::Success;
 }
 

@@ -1,12 +1,11 @@
 // TD-SCDMA calibration parameters: a selector and as many values as it names.
 #include <array>
 #include <cstddef>
+#include <cstring>
 #include <type_traits>
 #include <vector>
 
-#include "commands/calibration/td.h"
-#include "commands/operation.h"
-#include "link/byte_order.h"
+#include "declared/td_calibration.h"
 
 namespace merovane::commands {
 namespace {
@@ -14,55 +13,58 @@ namespace {
 constexpr FrameId kReadParameters{36, 0};
 constexpr FrameId kWriteParameters{36, 1};
 constexpr std::uint32_t kTransferTimeoutMs = 1000;
-constexpr std::size_t kTransferHeaderBytes = 6;
 constexpr std::size_t kTransferredOffset = 4;
-constexpr std::size_t kMaxValues = std::extent_v<decltype(QV_TD_PARAMETERS::values)>;
+constexpr std::size_t kValuesOffset = 6;
+constexpr std::size_t kShortestWriteAnswer = 8;
 
-static_assert(offsetof(QV_TD_PARAMETERS, values) == 6 && kMaxValues == 3073);
+static_assert(offsetof(QV_TD_PARAMETERS, values) == kValuesOffset &&
+              std::extent_v<decltype(QV_TD_PARAMETERS::values)> == 3073);
+
+std::size_t ValueBytes(const QV_TD_PARAMETERS& parameters) {
+  return sizeof(parameters.values[0]) * parameters.count;
+}
+
+// What requests begin with.
+void PutHeader(ByteOrder order, const QV_TD_PARAMETERS& parameters,
+               std::span<std::uint8_t> request) {
+  order.PutU32(request, 0, parameters.selector);
+  order.PutU16(request, kTransferredOffset, parameters.count);
+}
 
 }  // namespace
 
-Result ReadTDCalParam(Phone& phone, QV_TD_PARAMETERS* parameters) {
-  Operation operation(phone, 180);
-  if (!parameters || parameters->count > kMaxValues) return Result::InvalidParam;
-  operation.Log("ReadTDCalParam:");
+Result body::ReadTDCalParam(Operation& operation, QV_TD_PARAMETERS& parameters) {
+  const ByteOrder order = operation.link.Order();
   std::array<std::uint8_t, 8> request{};
-  PutU32(request, 0, parameters->selector);
-  PutU16(request, 4, parameters->count);
-  const Answer answer = phone.link.SendAndWaitSame(kReadParameters, request, kTransferTimeoutMs);
+  PutHeader(order, parameters, request);
+  const Answer answer =
+      operation.link.SendAndWaitSame(kReadParameters, request, kTransferTimeoutMs);
   if (!answer) return operation.Finish(answer.Why());
-  const auto payload = answer.Payload();
-  if (payload.size() < kTransferHeaderBytes + std::size_t{2} * parameters->count) {
-    return operation.Finish(Result::ParseFailed);
-  }
-  if (GetU16(payload, kTransferredOffset) < parameters->count) {
+  const std::size_t bytes = ValueBytes(parameters);
+  if (answer.Payload().size() < kValuesOffset + bytes) return operation.Finish(Result::ParseFailed);
+  if (answer.U16(kTransferredOffset) < parameters.count) {
     return operation.Finish(Result::WrongDataLength);
   }
-  for (std::size_t at = 0; at < parameters->count; ++at) {
-    parameters->values[at] = GetU16(payload, kTransferHeaderBytes + 2 * at);
-  }
+  // The caller's memory may hold more values than the record declares.
+  const std::span values(reinterpret_cast<std::uint8_t*>(&parameters) + kValuesOffset, bytes);
+  if (bytes > 0) std::memcpy(values.data(), answer.Payload().data() + kValuesOffset, bytes);
+  order.SwapArray16(values);
   return operation.Finish(Result::Success);
 }
 
-Result WriteTDCalParam(Phone& phone, const QV_TD_PARAMETERS* parameters) {
-  Operation operation(phone, 181);
-  if (!parameters || parameters->count == 0 || parameters->count > kMaxValues) {
-    return Result::InvalidParam;
-  }
-  operation.Log("WriteTDCalParam:");
-  std::vector<std::uint8_t> request(kTransferHeaderBytes + std::size_t{2} * parameters->count);
-  PutU32(request, 0, parameters->selector);
-  PutU16(request, 4, parameters->count);
-  for (std::size_t at = 0; at < parameters->count; ++at) {
-    PutU16(request, kTransferHeaderBytes + 2 * at, parameters->values[at]);
-  }
-  const Answer answer = phone.link.SendAndWaitSame(kWriteParameters, request, kTransferTimeoutMs);
+Result body::WriteTDCalParam(Operation& operation, const QV_TD_PARAMETERS& parameters) {
+  const ByteOrder order = operation.link.Order();
+  std::vector<std::uint8_t> request(kValuesOffset + ValueBytes(parameters));
+  PutHeader(order, parameters, request);
+  const auto values = std::span(request).subspan(kValuesOffset);
+  std::memcpy(values.data(), parameters.values, values.size());
+  order.SwapArray16(values);
+  const Answer answer =
+      operation.link.SendAndWaitSame(kWriteParameters, request, kTransferTimeoutMs);
   if (!answer) return operation.Finish(answer.Why());
-  const auto payload = answer.Payload();
-  if (payload.size() < 8) return operation.Finish(Result::ParseFailed);
-  return operation.Finish(GetU16(payload, kTransferredOffset) == parameters->count
-                              ? Result::Success
-                              : Result::WrongDataLength);
+  if (answer.Payload().size() < kShortestWriteAnswer) return operation.Finish(Result::ParseFailed);
+  const bool taken = answer.U16(kTransferredOffset) == parameters.count;
+  return operation.Finish(taken ? Result::Success : Result::WrongDataLength);
 }
 
 }  // namespace merovane::commands

@@ -1,5 +1,5 @@
 #include "commands/calibration/calibration_fixture.h"
-#include "commands/calibration/gsm.h"
+#include "declared/gsm_calibration.h"
 
 namespace merovane::test {
 namespace {

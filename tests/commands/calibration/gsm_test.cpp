@@ -1,9 +1,8 @@
-#include "commands/calibration/gsm.h"
-
 #include <numeric>
 #include <tuple>
 
 #include "commands/calibration/calibration_fixture.h"
+#include "declared/gsm_calibration.h"
 
 namespace merovane::test {
 namespace {

@@ -1,7 +1,6 @@
-#include "commands/calibration/multi_chip.h"
-
 #include "commands/calibration/calibration_fixture.h"
 #include "commands/calibration/radio_steps.h"
+#include "declared/multi_chip_calibration.h"
 #include "declared/multi_chip_data.h"
 
 namespace merovane::test {

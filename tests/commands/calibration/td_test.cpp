@@ -1,9 +1,8 @@
-#include "commands/calibration/td.h"
-
 #include <cstring>
 #include <memory>
 
 #include "commands/calibration/calibration_fixture.h"
+#include "declared/td_calibration.h"
 
 namespace merovane::test {
 namespace {
@@ -81,14 +80,14 @@ TEST_F(Td, StartModeIsAcknowledgedByTheNextFrame) {
 }
 
 struct TdParameters : CalibrationFixture {
-  // Memory for two values and no more.
-  QV_TD_PARAMETERS* Record(std::uint16_t count) {
-    auto* record = reinterpret_cast<QV_TD_PARAMETERS*>(memory.Data());
+  static QV_TD_PARAMETERS* RecordIn(GuardedBuffer<std::uint8_t>& memory, std::uint16_t count) {
     const std::uint32_t selector = 0x01020304;
     std::memcpy(memory.Data(), &selector, sizeof(selector));
     std::memcpy(memory.Data() + 4, &count, sizeof(count));
-    return record;
+    return reinterpret_cast<QV_TD_PARAMETERS*>(memory.Data());
   }
+  // With memory for two values and no more.
+  QV_TD_PARAMETERS* Record(std::uint16_t count) { return RecordIn(memory, count); }
   GuardedBuffer<std::uint8_t> memory{10};
 };
 
@@ -112,8 +111,17 @@ TEST_F(TdParameters, AreNotTakenFromAnAnswerThatLacksThem) {
   handset.ExpectAnyPayload(36, 0).Refuse();
   EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::Refused);
   EXPECT_EQ(memory.Hex(10), "04 03 02 01 02 00 A5 A5 A5 A5");
-  ExpectRefused(180, CALL(ReadTDCalParam(phone, nullptr)),
-                CALL(ReadTDCalParam(phone, Record(3074))));
+  ExpectRefused(180, CALL(ReadTDCalParam(phone, nullptr)));
+}
+
+TEST_F(TdParameters, AreReadAsManyAsAnAnswerCarries) {
+  constexpr unsigned kMost = 4600;
+  GuardedBuffer<std::uint8_t> large(6 + 2 * kMost);
+  Fields answer = handset.Message().U32(0).U16(kMost);
+  for (unsigned at = 0; at < kMost; ++at) answer.U16(0x0102);
+  handset.ExpectAnyPayload(36, 0).Answer(36, 0, answer);
+  EXPECT_EQ(ReadTDCalParam(phone, RecordIn(large, kMost)), Result::Success);
+  EXPECT_EQ(ToHex(std::span(large.Data() + 4 + 2 * kMost, 2)), "02 01");
 }
 
 TEST_F(TdParameters, AreWrittenAndCounted) {
