@@ -1,18 +1,20 @@
-# What the presets switch on to compile less: objects of earlier builds come from ccache where it is
-# installed. Where it is not, standard headers, most of a build's time, are read once and
-# precompiled: the two do not go together, since ccache keeps whole objects.
-option(MEROVANE_FAST_BUILD "Use ccache, or else precompiled headers" OFF)
+# Most of a build's time is the reading of standard headers: they are read once and precompiled. The
+# presets take objects of earlier builds from ccache instead, where it is installed; the two do not go
+# together, since ccache keeps whole objects.
+option(MEROVANE_USE_CCACHE "Use ccache where it is installed" OFF)
 
-find_program(MEROVANE_CCACHE ccache)
-mark_as_advanced(MEROVANE_CCACHE)
-if(NOT MEROVANE_FAST_BUILD OR MEROVANE_CCACHE)
-  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+if(MEROVANE_USE_CCACHE)
+  find_program(MEROVANE_CCACHE ccache)
+  mark_as_advanced(MEROVANE_CCACHE)
 endif()
-if(MEROVANE_FAST_BUILD AND MEROVANE_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # One clone's objects serve the next one's build.
-  set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=true ${MEROVANE_CCACHE})
-  set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+if(MEROVANE_USE_CCACHE AND MEROVANE_CCACHE)
+  set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
+  if(NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    # One clone's objects serve the next one's build.
+    set(launcher ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=true ${MEROVANE_CCACHE})
+    set(CMAKE_C_COMPILER_LAUNCHER ${launcher})
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${launcher})
+  endif()
 endif()
 
 file(WRITE ${CMAKE_BINARY_DIR}/headers.cpp "int main() {}\n")
