@@ -515,318 +515,354 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterDeepSleepMode_MT(int32_t port);
 
 /** Reads a production flash item from its start.
  * @param item  the item's id
- * @param data  the item's bytes, as the handset holds them
- * @param length  bytes wanted and room at `data`, 1 to 65535
- * @param data_length  bytes stored; 0 with code 13, not written when the exchange failed
+ * @param data  the item's bytes, as the handset holds them (`length` bytes, counted in
+ *   `data_length`)
+ * @param length  how many are wanted (1 to 65535)
+ * @param data_length  how many were stored, which may be fewer than wanted with PC_ERR_SUCCESS; not
+ *   written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` outside 1 to 65535
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the handset sent more; the first `length` bytes are there
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the handset sent none; `data_length` is 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash(
-    uint16_t item, MEROVANE_OUT uint8_t *data, int32_t length, MEROVANE_OUT uint32_t *data_length,
-    uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    uint16_t item, MEROVANE_OUT_N(length) uint8_t *data, int32_t length,
+    MEROVANE_OUT uint32_t *data_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
 /** QV_ReadFlash for the port `port`, with the same results. Reads a production flash item from its
  * start.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item  the item's id
- * @param data  the item's bytes, as the handset holds them
- * @param length  bytes wanted and room at `data`, 1 to 65535
- * @param data_length  bytes stored; 0 with code 13, not written when the exchange failed
+ * @param data  the item's bytes, as the handset holds them (`length` bytes, counted in
+ *   `data_length`)
+ * @param length  how many are wanted (1 to 65535)
+ * @param data_length  how many were stored, which may be fewer than wanted with PC_ERR_SUCCESS; not
+ *   written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash_MT(
-    int32_t port, uint16_t item, MEROVANE_OUT uint8_t *data, int32_t length,
-    MEROVANE_OUT uint32_t *data_length, uint32_t timeout_ms) MEROVANE_WRITES(3) MEROVANE_WRITES(5);
+    int32_t port, uint16_t item, MEROVANE_OUT_N(length) uint8_t *data, int32_t length,
+    MEROVANE_OUT uint32_t *data_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(3, 4) MEROVANE_WRITES(5);
 
 /** Writes a production flash item from its start.
- * @param item
- * @param data
- * @param length  bytes at `data`, 1 to 65523
+ * @param item  the item's id
+ * @param data  the item's bytes, as the handset holds them (`length` bytes)
+ * @param length  how many (1 to 65523)
  * @param timeout_ms  of the acknowledgement; 0: 4000 (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` outside 1 to 65523
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
-    uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length,
-    uint32_t timeout_ms) MEROVANE_READS(2);
+    uint16_t item, MEROVANE_IN_N(length) const uint8_t *data, uint32_t length,
+    uint32_t timeout_ms) MEROVANE_READS_N(2, 3);
 
 /** QV_WriteFlash for the port `port`, with the same results. Writes a production flash item from
  * its start.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param item
- * @param data
- * @param length  bytes at `data`, 1 to 65523
+ * @param item  the item's id
+ * @param data  the item's bytes, as the handset holds them (`length` bytes)
+ * @param length  how many (1 to 65523)
  * @param timeout_ms  of the acknowledgement; 0: 4000 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash_MT(
-    int32_t port, uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length,
-    uint32_t timeout_ms) MEROVANE_READS(3);
+    int32_t port, uint16_t item, MEROVANE_IN_N(length) const uint8_t *data, uint32_t length,
+    uint32_t timeout_ms) MEROVANE_READS_N(3, 4);
 
 /** Erases the production flash area.
- * @param timeout_ms  above 0 (milliseconds)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+ * @param timeout_ms  of the acknowledgement (above 0, milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `timeout_ms` of 0
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash(uint32_t timeout_ms);
 
 /** QV_EraseFlash for the port `port`, with the same results. Erases the production flash area.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param timeout_ms  above 0 (milliseconds) */
+ * @param timeout_ms  of the acknowledgement (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_EraseFlash_MT(int32_t port, uint32_t timeout_ms);
 
 /** Reads an NV item.
  * @param item  the item's id
- * @param data  the item's bytes, as the handset holds them
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @param data_length  bytes stored; not written when the exchange failed
+ * @param data  the item's bytes, as the handset holds them (`capacity` bytes, counted in
+ *   `data_length`)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @param data_length  how many bytes were stored; not written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the item is longer, and its start is there; or the answer does
+ *   not even hold an item id, and `data` is filled with zeros
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv(
-    uint16_t item, MEROVANE_OUT uint8_t *data, uint32_t capacity,
-    MEROVANE_OUT uint32_t *data_length, uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    uint16_t item, MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity,
+    MEROVANE_OUT uint32_t *data_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
 /** QV_ReadNv for the port `port`, with the same results. Reads an NV item.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item  the item's id
- * @param data  the item's bytes, as the handset holds them
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @param data_length  bytes stored; not written when the exchange failed
+ * @param data  the item's bytes, as the handset holds them (`capacity` bytes, counted in
+ *   `data_length`)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @param data_length  how many bytes were stored; not written when the exchange failed
  * @param timeout_ms  of the answer (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv_MT(
-    int32_t port, uint16_t item, MEROVANE_OUT uint8_t *data, uint32_t capacity,
-    MEROVANE_OUT uint32_t *data_length, uint32_t timeout_ms) MEROVANE_WRITES(3) MEROVANE_WRITES(5);
+    int32_t port, uint16_t item, MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity,
+    MEROVANE_OUT uint32_t *data_length,
+    uint32_t timeout_ms) MEROVANE_WRITES_N(3, 4) MEROVANE_WRITES(5);
 
-/** Writes an NV item; 1000 ms.
- * @param item
- * @param data
- * @param length  bytes at `data`, 0 to 65525
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+/** Writes an NV item. Waits 1000 ms.
+ * @param item  the item's id
+ * @param data  the item's bytes, as the handset holds them (`length` bytes)
+ * @param length  how many; 0 is sent as well (0 to 65525)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` above 65525
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(
-    uint16_t item, MEROVANE_IN const uint8_t *data, uint32_t length) MEROVANE_READS(2);
+    uint16_t item, MEROVANE_IN_N(length) const uint8_t *data,
+    uint32_t length) MEROVANE_READS_N(2, 3);
 
-/** QV_WriteNv for the port `port`, with the same results. Writes an NV item; 1000 ms.
+/** QV_WriteNv for the port `port`, with the same results. Writes an NV item. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param item
- * @param data
- * @param length  bytes at `data`, 0 to 65525 */
+ * @param item  the item's id
+ * @param data  the item's bytes, as the handset holds them (`length` bytes)
+ * @param length  how many; 0 is sent as well (0 to 65525) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
-    int32_t port, uint16_t item, MEROVANE_IN const uint8_t *data,
-    uint32_t length) MEROVANE_READS(3);
+    int32_t port, uint16_t item, MEROVANE_IN_N(length) const uint8_t *data,
+    uint32_t length) MEROVANE_READS_N(3, 4);
 
-/** Reads a part of an NV item; 2000 ms. Nothing but the frames goes to the Useful log.
- * @param item
+/** Reads a part of an NV item. Waits 2000 ms. Neither its name nor its result goes to the Useful
+ * log.
+ * @param item  the item's id
  * @param offset  of the part in the item
- * @param length  of the part; cut to `capacity` without an error
- * @param data
- * @param capacity  bytes at `data`, 1 to 2147483647
- * @param data_length  bytes stored; written on success only
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @param length  of the part; cut to `capacity` with PC_ERR_SUCCESS
+ * @param data  the part's bytes, as the handset holds them; bytes after the end of the item read as
+ *   0 (`capacity` bytes, counted in `data_length`)
+ * @param capacity  room at `data` (1 to 2147483647)
+ * @param data_length  how many bytes were stored; written on success only
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647; after the
+ *   exchange: the part ends more than 2 bytes after the end of the item
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadNvFromHandset(
-    uint16_t item, uint32_t offset, uint32_t length, MEROVANE_OUT uint8_t *data, uint32_t capacity,
-    MEROVANE_OUT uint32_t *data_length) MEROVANE_WRITES(4) MEROVANE_WRITES(6);
+    uint16_t item, uint32_t offset, uint32_t length, MEROVANE_OUT_N(capacity) uint8_t *data,
+    uint32_t capacity,
+    MEROVANE_OUT uint32_t *data_length) MEROVANE_WRITES_N(4, 5) MEROVANE_WRITES(6);
 
-/** Reads registers; 1000 ms.
- * @param access_width  0 bytes, 1 16-bit units, others 32-bit units
+/** Reads registers. Waits 1000 ms.
+ * @param access_width  a QV_ACCESS_WIDTH; any other value reads 32-bit units
  * @param address  of the first unit
- * @param data  `count` units, in the handset's byte order. Units that did not arrive read as 0
- * @param count  of units, above 0; at most 65519 bytes
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+ * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
+ *   only (`count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes)
+ * @param count  of units (above 0)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `count` of 0; more than 65519 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister(
-    uint32_t access_width, uint32_t address, MEROVANE_OUT uint8_t *data,
+    uint32_t access_width, uint32_t address,
+    MEROVANE_OUT_N(count*(access_width==0?1:access_width==1?2:4)) uint8_t *data,
     uint32_t count) MEROVANE_WRITES(3);
 
-/** QV_ReadRegister for the port `port`, with the same results. Reads registers; 1000 ms.
+/** QV_ReadRegister for the port `port`, with the same results. Reads registers. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param access_width  0 bytes, 1 16-bit units, others 32-bit units
+ * @param access_width  a QV_ACCESS_WIDTH; any other value reads 32-bit units
  * @param address  of the first unit
- * @param data  `count` units, in the handset's byte order. Units that did not arrive read as 0
- * @param count  of units, above 0; at most 65519 bytes */
+ * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
+ *   only (`count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes)
+ * @param count  of units (above 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister_MT(
-    int32_t port, uint32_t access_width, uint32_t address, MEROVANE_OUT uint8_t *data,
+    int32_t port, uint32_t access_width, uint32_t address,
+    MEROVANE_OUT_N(count*(access_width==0?1:access_width==1?2:4)) uint8_t *data,
     uint32_t count) MEROVANE_WRITES(4);
 
-/** Writes registers; 1000 ms. Arguments as QV_ReadRegister.
- * @param access_width
- * @param address
- * @param data  `count` units, in the handset's byte order
- * @param count  of units, above 0; at most 65511 bytes
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+/** Writes registers. Waits 1000 ms.
+ * @param access_width  a QV_ACCESS_WIDTH; any other value writes 32-bit units
+ * @param address  of the first unit
+ * @param data  in the handset's byte order (`count * (access_width == 0 ? 1 : access_width == 1 ? 2
+ *   : 4)` bytes)
+ * @param count  of units (above 0)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `count` of 0; more than 65511 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister(
-    uint32_t access_width, uint32_t address, MEROVANE_IN const uint8_t *data,
+    uint32_t access_width, uint32_t address,
+    MEROVANE_IN_N(count*(access_width==0?1:access_width==1?2:4)) const uint8_t *data,
     uint32_t count) MEROVANE_READS(3);
 
-/** QV_WriteRegister for the port `port`, with the same results. Writes registers; 1000 ms.
- * Arguments as QV_ReadRegister.
+/** QV_WriteRegister for the port `port`, with the same results. Writes registers. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param access_width
- * @param address
- * @param data  `count` units, in the handset's byte order
- * @param count  of units, above 0; at most 65511 bytes */
+ * @param access_width  a QV_ACCESS_WIDTH; any other value writes 32-bit units
+ * @param address  of the first unit
+ * @param data  in the handset's byte order (`count * (access_width == 0 ? 1 : access_width == 1 ? 2
+ *   : 4)` bytes)
+ * @param count  of units (above 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteRegister_MT(
-    int32_t port, uint32_t access_width, uint32_t address, MEROVANE_IN const uint8_t *data,
+    int32_t port, uint32_t access_width, uint32_t address,
+    MEROVANE_IN_N(count*(access_width==0?1:access_width==1?2:4)) const uint8_t *data,
     uint32_t count) MEROVANE_READS(4);
 
 /* ---- Identification ------------------------------------------------------------------ */
 
-/** Reads the chip's identification word; 1000 ms.
- * @param id
+/** Reads the chip's identification word. Waits 1000 ms.
+ * @param id  written on success only; bytes that did not arrive read as 0
  * @retval PC_ERR_INVALID_PARAM  `id` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID(MEROVANE_OUT uint32_t *id) MEROVANE_WRITES(1);
 
-/** QV_GetChipID for the port `port`, with the same results. Reads the chip's identification word;
- * 1000 ms.
+/** QV_GetChipID for the port `port`, with the same results. Reads the chip's identification word.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param id */
+ * @param id  written on success only; bytes that did not arrive read as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipID_MT(
     int32_t port, MEROVANE_OUT uint32_t *id) MEROVANE_WRITES(2);
 
-/** Reads the chip's type word; 1000 ms.
- * @param type
+/** Reads the chip's type word. Waits 1000 ms.
+ * @param type  written on success only; bytes that did not arrive read as 0
  * @retval PC_ERR_INVALID_PARAM  `type` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType(MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(1);
 
-/** QV_GetChipType for the port `port`, with the same results. Reads the chip's type word; 1000 ms.
+/** QV_GetChipType for the port `port`, with the same results. Reads the chip's type word. Waits
+ * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param type */
+ * @param type  written on success only; bytes that did not arrive read as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(
     int32_t port, MEROVANE_OUT uint32_t *type) MEROVANE_WRITES(2);
 
-/** Reads the identification of an LCD's controller; 1000 ms.
- * @param second_lcd  0: the first LCD's; otherwise the second's
- * @param id  as it arrived, its first 100 bytes at most
- * @param capacity  bytes at `id`, above 0
- * @param length  of the whole identification, also when it was cut
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Reads the identification of an LCD's controller. Waits 1000 ms.
+ * @param second_lcd  0: of the first LCD, else of the second
+ * @param id  as it arrived; no more than 100 bytes of it (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `id` (1 and up)
+ * @param length  of the whole identification, also when it was cut; written when an answer came
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` below 1
+ * @retval PC_ERR_BUFFER_TOO_SMALL  it was cut, to `capacity` or to 100 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
-    uint32_t second_lcd, MEROVANE_OUT uint8_t *id, int32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    uint32_t second_lcd, MEROVANE_OUT_N(capacity) uint8_t *id, int32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
 /** QV_GetLcdIcDriverID for the port `port`, with the same results. Reads the identification of an
- * LCD's controller; 1000 ms.
+ * LCD's controller. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param second_lcd  0: the first LCD's; otherwise the second's
- * @param id  as it arrived, its first 100 bytes at most
- * @param capacity  bytes at `id`, above 0
- * @param length  of the whole identification, also when it was cut */
+ * @param second_lcd  0: of the first LCD, else of the second
+ * @param id  as it arrived; no more than 100 bytes of it (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `id` (1 and up)
+ * @param length  of the whole identification, also when it was cut; written when an answer came */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(
-    int32_t port, uint32_t second_lcd, MEROVANE_OUT uint8_t *id, int32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(3) MEROVANE_WRITES(5);
+    int32_t port, uint32_t second_lcd, MEROVANE_OUT_N(capacity) uint8_t *id, int32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(3, 4) MEROVANE_WRITES(5);
 
-/** Reads the flash description; 1000 ms.
- * @param info  written on success only
+/** Reads the flash description. Waits 1000 ms.
+ * @param info  written on success only; words that did not arrive read as 0
  * @retval PC_ERR_INVALID_PARAM  `info` is null
+ * @retval PC_ERR_PARSE_FAILED  it counts more than 31 regions; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo(
     MEROVANE_OUT QV_FLASH_INFO *info) MEROVANE_WRITES(1);
 
-/** QV_GetFlashInfo for the port `port`, with the same results. Reads the flash description; 1000
- * ms.
+/** QV_GetFlashInfo for the port `port`, with the same results. Reads the flash description. Waits
+ * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param info  written on success only */
+ * @param info  written on success only; words that did not arrive read as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(
     int32_t port, MEROVANE_OUT QV_FLASH_INFO *info) MEROVANE_WRITES(2);
 
-/** Reads the software version's text; 1000 ms.
- * @param version  as it arrived: terminated by a zero only when the handset sends one, so clear it
- *   before
- * @param capacity  bytes at `version`, 1 to 2147483647; a longer text is cut without an error
- * @retval PC_ERR_INVALID_PARAM  `version` is null
+/** Reads the software version's text. Waits 1000 ms.
+ * @param version  as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends with a zero only
+ *   when the handset sends one that fits, and its length is not told: clear the buffer before
+ *   (`capacity` bytes)
+ * @param capacity  room at `version` (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  `version` is null; `capacity` outside 1 to 2147483647
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(
-    MEROVANE_OUT char *version, uint32_t capacity) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(capacity) char *version, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
 
-/** QV_GetMSVersion for the port `port`, with the same results. Reads the software version's text;
- * 1000 ms.
+/** QV_GetMSVersion for the port `port`, with the same results. Reads the software version's text.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param version  as it arrived: terminated by a zero only when the handset sends one, so clear it
- *   before
- * @param capacity  bytes at `version`, 1 to 2147483647; a longer text is cut without an error */
+ * @param version  as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends with a zero only
+ *   when the handset sends one that fits, and its length is not told: clear the buffer before
+ *   (`capacity` bytes)
+ * @param capacity  room at `version` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
-    int32_t port, MEROVANE_OUT char *version, uint32_t capacity) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(capacity) char *version,
+    uint32_t capacity) MEROVANE_WRITES_N(2, 3);
 
 /** Exchanges ten words with the 7310K.
- * @param command  its id, 8 bits
- * @param words  ten
- * @param answered_words  ten. An answer of 20 bytes and more fills all, one of 6 and more the first
- *   three, a shorter one none
- * @param timeout_ms  0: 1000 (milliseconds)
+ * @param command  its id
+ * @param words  what is sent (10 values)
+ * @param answered_words  an answer of 20 bytes or more fills all, one of 6 or more the first three,
+ *   a shorter one none (10 values)
+ * @param timeout_ms  of the answer; 0: 1000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand(
-    uint8_t command, MEROVANE_IN const uint16_t *words, MEROVANE_OUT uint16_t *answered_words,
+    uint8_t command, MEROVANE_IN_N(10) const uint16_t *words,
+    MEROVANE_OUT_N(10) uint16_t *answered_words,
     uint32_t timeout_ms) MEROVANE_READS(2) MEROVANE_WRITES(3);
 
 /** QV_Send7310KCommand for the port `port`, with the same results. Exchanges ten words with the
  * 7310K.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param command  its id, 8 bits
- * @param words  ten
- * @param answered_words  ten. An answer of 20 bytes and more fills all, one of 6 and more the first
- *   three, a shorter one none
- * @param timeout_ms  0: 1000 (milliseconds) */
+ * @param command  its id
+ * @param words  what is sent (10 values)
+ * @param answered_words  an answer of 20 bytes or more fills all, one of 6 or more the first three,
+ *   a shorter one none (10 values)
+ * @param timeout_ms  of the answer; 0: 1000 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand_MT(
-    int32_t port, uint8_t command, MEROVANE_IN const uint16_t *words,
-    MEROVANE_OUT uint16_t *answered_words,
+    int32_t port, uint8_t command, MEROVANE_IN_N(10) const uint16_t *words,
+    MEROVANE_OUT_N(10) uint16_t *answered_words,
     uint32_t timeout_ms) MEROVANE_READS(3) MEROVANE_WRITES(4);
 
-/** Waits for ten words of the 7310K, which it sends unasked. The wait is not lengthened by the
- * setting.
+/** Waits for ten words that the 7310K sends unasked. The setting "Inc Recv Timeout" does not
+ * lengthen the wait.
  * @param command  as in QV_Send7310KCommand
- * @param answered_words  as there
- * @param timeout_ms  0: 1000 (milliseconds)
+ * @param answered_words  as QV_Send7310KCommand fills them (10 values)
+ * @param timeout_ms  of the wait; 0: 1000 (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `answered_words` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_NO_ANSWER or
+ *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand(
-    uint8_t command, MEROVANE_OUT uint16_t *answered_words,
+    uint8_t command, MEROVANE_OUT_N(10) uint16_t *answered_words,
     uint32_t timeout_ms) MEROVANE_WRITES(2);
 
-/** QV_Recv7310KCommand for the port `port`, with the same results. Waits for ten words of the
- * 7310K, which it sends unasked. The wait is not lengthened by the setting.
+/** QV_Recv7310KCommand for the port `port`, with the same results. Waits for ten words that the
+ * 7310K sends unasked. The setting "Inc Recv Timeout" does not lengthen the wait.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  as in QV_Send7310KCommand
- * @param answered_words  as there
- * @param timeout_ms  0: 1000 (milliseconds) */
+ * @param answered_words  as QV_Send7310KCommand fills them (10 values)
+ * @param timeout_ms  of the wait; 0: 1000 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand_MT(
-    int32_t port, uint8_t command, MEROVANE_OUT uint16_t *answered_words,
+    int32_t port, uint8_t command, MEROVANE_OUT_N(10) uint16_t *answered_words,
     uint32_t timeout_ms) MEROVANE_WRITES(3);
 
 /* ---- Fixed-NV information ------------------------------------------------------------ */
 
-/** Asks whether the handset's fixed NV is there; 1000 ms. Reported under the operation id of
- * QV_ReadNv.
- * @param mode  10: the information block is asked about, otherwise the NV items
+/** Asks whether the handset's fixed NV is there. Waits 1000 ms. The handset's acknowledgement is a
+ * success, whatever it says. The operation id is that of QV_ReadNv.
+ * @param mode  QV_FIXED_NV_BLOCK asks about the information block, any other value about the NV
+ *   items
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV(uint32_t mode);
 
-/** QV_CheckFixedNV for the port `port`, with the same results. Asks whether the handset's fixed NV
- * is there; 1000 ms. Reported under the operation id of QV_ReadNv.
+/** QV_CheckFixedNV for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode  10: the information block is asked about, otherwise the NV items */
+ * @param mode  QV_FIXED_NV_BLOCK asks about the information block, any other value about the NV
+ *   items */
 MEROVANE_API int32_t MEROVANE_CALL QV_CheckFixedNV_MT(int32_t port, uint32_t mode);
 
-/** Writes IMEI 1 and 2, the Bluetooth address and the parameter block, those whose flags are set,
- * without a checksum; 3000 ms. The other fields' flags are not looked at.
- * @param info
- * @retval PC_ERR_INVALID_PARAM  `info` is null
+/** Writes IMEI 1, IMEI 2, the Bluetooth address and the parameter block, those whose flags are set,
+ * without a checksum. Waits 3000 ms. The other flags are not looked at.
+ * @param info  what is written
+ * @retval PC_ERR_INVALID_PARAM  `info` is null; an IMEI to be written does not begin with 15
+ *   decimal digits, or the address not with 12 hexadecimal ones; nothing was sent
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(
@@ -834,197 +870,245 @@ MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect(
 
 /** QV_NvWriteDirect for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param info */
+ * @param info  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_NvWriteDirect_MT(
     int32_t port, MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(2);
 
-/** Writes the fields whose flags are set, in one frame with a checksum; 3000 ms.
- * @param info
- * @retval PC_ERR_INVALID_PARAM  `info` is null
+/** Writes the fields whose flags are set, in one frame with a checksum. Waits 3000 ms.
+ * @param info  what is written. A wrong text in IMEI 3, IMEI 4 or the second address is not
+ *   refused: zeros are written for it
+ * @retval PC_ERR_INVALID_PARAM  `info` is null; IMEI 1 or 2, to be written, does not begin with 15
+ *   decimal digits, or the Bluetooth address not with 12 hexadecimal ones; nothing was sent
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo(
     MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(1);
 
 /** QV_FastWriteNvInfo for the port `port`, with the same results. Writes the fields whose flags are
- * set, in one frame with a checksum; 3000 ms.
+ * set, in one frame with a checksum. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param info */
+ * @param info  what is written. A wrong text in IMEI 3, IMEI 4 or the second address is not
+ *   refused: zeros are written for it */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
     int32_t port, MEROVANE_IN const QV_FIXED_NV_INFO *info) MEROVANE_READS(2);
 
-/** Reads all fields; 3000 ms.
- * @param info  its flags stay as they were. With codes 4, 6 and 34 all of it does; with the link's
- *   codes it is filled as from an empty block: IMEIs and addresses of zeros. A damaged digit of an
- *   IMEI reads as a letter a to f
+/** Reads all fields. Waits 3000 ms.
+ * @param info  its flags stay as they are. When the exchange failed it is filled as from an empty
+ *   block, with IMEIs and addresses of zeros; with PC_ERR_NO_DATA and PC_ERR_CHECKSUM_MISMATCH it
+ *   stays as it was. A damaged digit of an IMEI reads as a letter a to f
  * @retval PC_ERR_INVALID_PARAM  `info` is null
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the block has more than 108 bytes; it was read all the same
+ * @retval PC_ERR_NO_DATA  the block is empty; not logged
+ * @retval PC_ERR_CHECKSUM_MISMATCH  the block is damaged; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(
-    MEROVANE_OUT QV_FIXED_NV_INFO *info) MEROVANE_WRITES(1);
+    MEROVANE_INOUT QV_FIXED_NV_INFO *info) MEROVANE_UPDATES(1);
 
-/** QV_FastReadNvInfo for the port `port`, with the same results. Reads all fields; 3000 ms.
+/** QV_FastReadNvInfo for the port `port`, with the same results. Reads all fields. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param info  its flags stay as they were. With codes 4, 6 and 34 all of it does; with the link's
- *   codes it is filled as from an empty block: IMEIs and addresses of zeros. A damaged digit of an
- *   IMEI reads as a letter a to f */
+ * @param info  its flags stay as they are. When the exchange failed it is filled as from an empty
+ *   block, with IMEIs and addresses of zeros; with PC_ERR_NO_DATA and PC_ERR_CHECKSUM_MISMATCH it
+ *   stays as it was. A damaged digit of an IMEI reads as a letter a to f */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(
-    int32_t port, MEROVANE_OUT QV_FIXED_NV_INFO *info) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_INOUT QV_FIXED_NV_INFO *info) MEROVANE_UPDATES(2);
 
 /* ---- Serial numbers, GUID, production data ------------------------------------------- */
 
-/** Reads the serial number from where the handset keeps it: production flash item 0, or the
- * production block when the item begins with the block's magic. 4000 ms for each of two reads (3000
- * for the block), whose lines and operation ids are those of QV_ReadFlash and QV_FastReadProduct.
- * @param serial_number  24 bytes, padded with zeros
- * @param capacity  bytes at `serial_number`, 1 to 2147483647
- * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
+/** Reads the serial number from where the handset keeps it: flash item 0, or the production block
+ * when the item begins with the block's magic. Waits 4000 ms for each of two reads, 3000 ms for the
+ * block. The reads log and report as QV_ReadFlash and QV_FastReadProduct, and the result is
+ * reported under the operation id of the last.
+ * @param serial_number  24 bytes, padded with zeros; bytes that did not arrive read as 0. Written
+ *   on success, and cut (`capacity` bytes)
+ * @param capacity  room at `serial_number` (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `capacity` outside 1 to 2147483647
+ * @retval PC_ERR_BUFFER_TOO_SMALL  cut to `capacity`; or, with nothing stored, the production block
+ *   has more than 256 bytes
+ * @retval PC_ERR_WRONG_DATA_LENGTH  as QV_ReadFlash and QV_FastReadProduct give it
+ * @retval PC_ERR_CHECKSUM_MISMATCH  as QV_FastReadProduct gives it
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(
-    MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(capacity) uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
 
 /** QV_ReadSN for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number  24 bytes, padded with zeros
- * @param capacity  bytes at `serial_number`, 1 to 2147483647 */
+ * @param serial_number  24 bytes, padded with zeros; bytes that did not arrive read as 0. Written
+ *   on success, and cut (`capacity` bytes)
+ * @param capacity  room at `serial_number` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN_MT(
-    int32_t port, MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *serial_number,
+    uint32_t capacity) MEROVANE_WRITES_N(2, 3);
 
 /** QV_ReadSN for the second serial number.
- * @param serial_number
- * @param capacity
- * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
+ * @param serial_number  as QV_ReadSN stores it (`capacity` bytes)
+ * @param capacity  room at `serial_number` (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `capacity` outside 1 to 2147483647
+ * @retval PC_ERR_BUFFER_TOO_SMALL  as QV_ReadSN
+ * @retval PC_ERR_WRONG_DATA_LENGTH  as QV_ReadSN
+ * @retval PC_ERR_CHECKSUM_MISMATCH  as QV_ReadSN
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2(
-    MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(capacity) uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES_N(1, 2);
 
 /** QV_ReadSN2 for the port `port`, with the same results. QV_ReadSN for the second serial number.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number
- * @param capacity */
+ * @param serial_number  as QV_ReadSN stores it (`capacity` bytes)
+ * @param capacity  room at `serial_number` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2_MT(
-    int32_t port, MEROVANE_OUT uint8_t *serial_number, uint32_t capacity) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *serial_number,
+    uint32_t capacity) MEROVANE_WRITES_N(2, 3);
 
-/** Writes the serial number to where the handset keeps it, and all else there back as it was read.
- * A handset with neither layout gets the one that the settings file names, its other bytes zero.
- * Everything is read before the one frame is sent that carries the whole: interrupted before, the
- * handset is as it was. 4000 ms for the magic, 8000 for the whole item (3000 for the block), 3000
- * for the write.
- * @param serial_number
- * @param length  bytes at `serial_number`, 1 to 23
- * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
+/** Writes the serial number to where the handset keeps it, and all else there as it was read. A
+ * handset with neither layout gets the one that the setting "MAGIC_NUMBER" names, its other bytes
+ * zero. Everything is read before one frame carries the whole: until that frame is complete the
+ * handset is as it was, and no write follows a read that failed, came short or was damaged. A
+ * production block below 256 bytes counts as whole and is extended with zeros. Waits 4000 ms for
+ * the magic, 8000 ms for the whole item (3000 ms for the block), 3000 ms for the write. The steps
+ * log and report as QV_ReadFlash, QV_WriteFlash, QV_FastReadProduct and QV_FastWriteProduct, and
+ * the result is reported under the operation id of the last.
+ * @param serial_number  what is written; padded with zeros to 24 bytes (`length` bytes)
+ * @param length  how many bytes (1 to 23)
+ * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `length` outside 1 to 23
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the handset holds more than the layout; nothing was written
+ * @retval PC_ERR_WRONG_DATA_LENGTH  a read came short; nothing was written
+ * @retval PC_ERR_CHECKSUM_MISMATCH  the production block is damaged; nothing was written
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN(
-    MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
+    MEROVANE_IN_N(length) const uint8_t *serial_number, uint32_t length) MEROVANE_READS_N(1, 2);
 
 /** QV_WriteSN for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number
- * @param length  bytes at `serial_number`, 1 to 23 */
+ * @param serial_number  what is written; padded with zeros to 24 bytes (`length` bytes)
+ * @param length  how many bytes (1 to 23) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN_MT(
-    int32_t port, MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(length) const uint8_t *serial_number,
+    uint32_t length) MEROVANE_READS_N(2, 3);
 
 /** QV_WriteSN for the second serial number.
- * @param serial_number
- * @param length
- * @retval PC_ERR_INVALID_PARAM  `serial_number` is null
+ * @param serial_number  as QV_WriteSN takes it (`length` bytes)
+ * @param length  how many bytes (1 to 23)
+ * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `length` outside 1 to 23
+ * @retval PC_ERR_BUFFER_TOO_SMALL  as QV_WriteSN
+ * @retval PC_ERR_WRONG_DATA_LENGTH  as QV_WriteSN
+ * @retval PC_ERR_CHECKSUM_MISMATCH  as QV_WriteSN
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2(
-    MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(1);
+    MEROVANE_IN_N(length) const uint8_t *serial_number, uint32_t length) MEROVANE_READS_N(1, 2);
 
 /** QV_WriteSN2 for the port `port`, with the same results. QV_WriteSN for the second serial number.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number
- * @param length */
+ * @param serial_number  as QV_WriteSN takes it (`length` bytes)
+ * @param length  how many bytes (1 to 23) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
-    int32_t port, MEROVANE_IN const uint8_t *serial_number, uint32_t length) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(length) const uint8_t *serial_number,
+    uint32_t length) MEROVANE_READS_N(2, 3);
 
-/** Reads the handset's GUID; 4000 ms. Its lines and operation id are those of QV_ReadFlash.
- * @param guid  16 bytes, as the handset holds them
+/** Reads the handset's GUID from flash item 0. Waits 4000 ms. The read logs and reports as
+ * QV_ReadFlash.
+ * @param guid  as the handset holds it; bytes that did not arrive read as 0. Written on success
+ *   only (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `guid` is null
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the handset sent more than the item's 1752 bytes
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the item is empty
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT uint8_t *guid) MEROVANE_WRITES(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT_N(16) uint8_t *guid) MEROVANE_WRITES(1);
 
-/** QV_ReadGuid for the port `port`, with the same results. Reads the handset's GUID; 4000 ms. Its
- * lines and operation id are those of QV_ReadFlash.
+/** QV_ReadGuid for the port `port`, with the same results. Reads the handset's GUID from flash item
+ * 0. Waits 4000 ms. The read logs and reports as QV_ReadFlash.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param guid  16 bytes, as the handset holds them */
+ * @param guid  as the handset holds it; bytes that did not arrive read as 0. Written on success
+ *   only (16 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(
-    int32_t port, MEROVANE_OUT uint8_t *guid) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(16) uint8_t *guid) MEROVANE_WRITES(2);
 
-/** Writes the production block and its checksum; 3000 ms.
- * @param block
- * @param length  bytes at `block`, at most 65525; 256 in handsets that keep their serial numbers
- *   there
- * @retval PC_ERR_INVALID_PARAM  `block` is null
+/** Writes the production block and its checksum. Waits 3000 ms.
+ * @param block  without a checksum; 256 bytes in handsets that keep their serial numbers there
+ *   (`length` bytes)
+ * @param length  how many bytes; 0 is sent as well (0 to 65525)
+ * @retval PC_ERR_INVALID_PARAM  `block` is null; `length` above 65525
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(
-    MEROVANE_IN const uint8_t *block, uint32_t length) MEROVANE_READS(1);
+    MEROVANE_IN_N(length) const uint8_t *block, uint32_t length) MEROVANE_READS_N(1, 2);
 
 /** QV_FastWriteProduct for the port `port`, with the same results. Writes the production block and
- * its checksum; 3000 ms.
+ * its checksum. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block
- * @param length  bytes at `block`, at most 65525; 256 in handsets that keep their serial numbers
- *   there */
+ * @param block  without a checksum; 256 bytes in handsets that keep their serial numbers there
+ *   (`length` bytes)
+ * @param length  how many bytes; 0 is sent as well (0 to 65525) */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct_MT(
-    int32_t port, MEROVANE_IN const uint8_t *block, uint32_t length) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(length) const uint8_t *block,
+    uint32_t length) MEROVANE_READS_N(2, 3);
 
-/** Reads the production block; 3000 ms.
- * @param block  as the handset holds it, without its checksum
- * @param capacity  bytes at `block`, 1 to 2147483647 and all writable
- * @param length  of the whole block, also when it was cut; as it was with code 4, 0 with all other
- *   failures
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Reads the production block. Waits 3000 ms.
+ * @param block  as the handset holds it, without its checksum; must be writable over the whole
+ *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `block` (1 to 2147483647)
+ * @param length  of the whole block, also when it was cut; 0 with other failures, but for
+ *   PC_ERR_INVALID_PARAM
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647; a block that
+ *   cannot be written
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the block was cut to `capacity`
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has fewer than 2 bytes
+ * @retval PC_ERR_CHECKSUM_MISMATCH  the block is damaged, or longer than 998 bytes; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(
-    MEROVANE_OUT uint8_t *block, uint32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(1) MEROVANE_WRITES(3);
+    MEROVANE_OUT_N(capacity) uint8_t *block, uint32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(1, 2) MEROVANE_WRITES(3);
 
-/** QV_FastReadProduct for the port `port`, with the same results. Reads the production block; 3000
- * ms.
+/** QV_FastReadProduct for the port `port`, with the same results. Reads the production block. Waits
+ * 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  as the handset holds it, without its checksum
- * @param capacity  bytes at `block`, 1 to 2147483647 and all writable
- * @param length  of the whole block, also when it was cut; as it was with code 4, 0 with all other
- *   failures */
+ * @param block  as the handset holds it, without its checksum; must be writable over the whole
+ *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `block` (1 to 2147483647)
+ * @param length  of the whole block, also when it was cut; 0 with other failures, but for
+ *   PC_ERR_INVALID_PARAM */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct_MT(
-    int32_t port, MEROVANE_OUT uint8_t *block, uint32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *block, uint32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
-/** Reads the version block. Arguments and results as QV_FastReadProduct.
- * @param block
- * @param capacity
- * @param length
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+/** Reads the version block. Waits 3000 ms. It logs the name of QV_FastReadProduct.
+ * @param block  as the handset holds it, without its checksum; must be writable over the whole
+ *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `block` (1 to 2147483647)
+ * @param length  as QV_FastReadProduct stores it
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647; a block that
+ *   cannot be written
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the block was cut to `capacity`
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has fewer than 2 bytes
+ * @retval PC_ERR_CHECKSUM_MISMATCH  the block is damaged, or longer than 998 bytes; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion(
-    MEROVANE_OUT uint8_t *block, uint32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(1) MEROVANE_WRITES(3);
+    MEROVANE_OUT_N(capacity) uint8_t *block, uint32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(1, 2) MEROVANE_WRITES(3);
 
-/** QV_FastReadVerSion for the port `port`, with the same results. Reads the version block.
- * Arguments and results as QV_FastReadProduct.
+/** QV_FastReadVerSion for the port `port`, with the same results. Reads the version block. Waits
+ * 3000 ms. It logs the name of QV_FastReadProduct.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block
- * @param capacity
- * @param length */
+ * @param block  as the handset holds it, without its checksum; must be writable over the whole
+ *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param capacity  room at `block` (1 to 2147483647)
+ * @param length  as QV_FastReadProduct stores it */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion_MT(
-    int32_t port, MEROVANE_OUT uint8_t *block, uint32_t capacity,
-    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(2) MEROVANE_WRITES(4);
+    int32_t port, MEROVANE_OUT_N(capacity) uint8_t *block, uint32_t capacity,
+    MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
 /** Reads how many IMEIs the handset holds. It waits only as long as the setting "Inc Recv Timeout"
- * says: without one it gives 11.
+ * says; without that setting no answer is awaited, and the result is PC_ERR_NO_ANSWER.
  * @param count  the answer's first word in this machine's byte order, whatever the handset's;
- *   written with code 13 too
+ *   written with PC_ERR_WRONG_DATA_LENGTH too
  * @retval PC_ERR_INVALID_PARAM  `count` is null
+ * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has fewer than 10 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(
@@ -1033,118 +1117,111 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount(
 /** QV_FastReaIMEICount for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param count  the answer's first word in this machine's byte order, whatever the handset's;
- *   written with code 13 too */
+ *   written with PC_ERR_WRONG_DATA_LENGTH too */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReaIMEICount_MT(
     int32_t port, MEROVANE_OUT uint32_t *count) MEROVANE_WRITES(2);
 
 /* ---- Peripherals --------------------------------------------------------------------- */
 
-/** Switches the LED on (non-zero) or off. Nothing is awaited. Handsets cannot tell it from
- * QV_LcdOn(1), nor QV_LedOn(0) from QV_VibrationOn(0): the codes are the same.
- * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the LED on or off. The handset has one code for QV_LedOn(1) and QV_LcdOn(1), and one
+ * for QV_LedOn(0) and QV_VibrationOn(0).
+ * @param on  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LedOn(uint32_t on);
 
 /** QV_LedOn for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_LedOn_MT(int32_t port, uint32_t on);
 
-/** Switches the vibrator on (non-zero) or off. Nothing is awaited.
- * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the vibrator on or off.
+ * @param on  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn(uint32_t on);
 
-/** QV_VibrationOn for the port `port`, with the same results. Switches the vibrator on (non-zero)
- * or off. Nothing is awaited.
+/** QV_VibrationOn for the port `port`, with the same results. Switches the vibrator on or off.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_VibrationOn_MT(int32_t port, uint32_t on);
 
-/** Switches the LCD on (non-zero) or off. Nothing is awaited.
- * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the LCD on or off.
+ * @param on  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn(uint32_t on);
 
-/** QV_LcdOn for the port `port`, with the same results. Switches the LCD on (non-zero) or off.
- * Nothing is awaited.
+/** QV_LcdOn for the port `port`, with the same results. Switches the LCD on or off.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_LcdOn_MT(int32_t port, uint32_t on);
 
-/** Switches the key light on (non-zero) or off. Nothing is awaited.
- * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the key light on or off.
+ * @param on  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn(uint32_t on);
 
-/** QV_keyLightOn for the port `port`, with the same results. Switches the key light on (non-zero)
- * or off. Nothing is awaited.
+/** QV_keyLightOn for the port `port`, with the same results. Switches the key light on or off.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_keyLightOn_MT(int32_t port, uint32_t on);
 
-/** Switches the camera on (non-zero) or off. Nothing is awaited.
- * @param on
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the camera on or off.
+ * @param on  0: off
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
 MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn(uint32_t on);
 
-/** QV_CameraOn for the port `port`, with the same results. Switches the camera on (non-zero) or
- * off. Nothing is awaited.
+/** QV_CameraOn for the port `port`, with the same results. Switches the camera on or off.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param on */
+ * @param on  0: off */
 MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
 
 /** Measures an ADC channel.
- * @param channel  the handset's number of it
- * @param value  2 bytes, most significant first; written on success only
- * @param timeout_ms  above 0 (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  `value` is null
+ * @param channel  as the handset numbers its channels
+ * @param value  most significant byte first, whatever the handset's byte order; written on success
+ *   only (2 bytes)
+ * @param timeout_ms  of the answer (above 0, milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `value` is null; `timeout_ms` of 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
-    uint8_t channel, MEROVANE_OUT uint8_t *value, uint32_t timeout_ms) MEROVANE_WRITES(2);
+    uint8_t channel, MEROVANE_OUT_N(2) uint8_t *value, uint32_t timeout_ms) MEROVANE_WRITES(2);
 
 /** QV_ADCCalibration for the port `port`, with the same results. Measures an ADC channel.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param channel  the handset's number of it
- * @param value  2 bytes, most significant first; written on success only
- * @param timeout_ms  above 0 (milliseconds) */
+ * @param channel  as the handset numbers its channels
+ * @param value  most significant byte first, whatever the handset's byte order; written on success
+ *   only (2 bytes)
+ * @param timeout_ms  of the answer (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
-    int32_t port, uint8_t channel, MEROVANE_OUT uint8_t *value,
+    int32_t port, uint8_t channel, MEROVANE_OUT_N(2) uint8_t *value,
     uint32_t timeout_ms) MEROVANE_WRITES(3);
 
 /** Measures an ADC channel.
- * @param channel  the handset's number of it
- * @param value  written on success only, as the next two
- * @param third_byte  of the answer; null: not wanted
- * @param fourth_byte  of the answer; null: not wanted
- * @param timeout_ms  0: 1000 (milliseconds)
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @param channel  as the handset numbers its channels
+ * @param value  written on success only, as are the next two
+ * @param third_byte  of the answer (may be null)
+ * @param fourth_byte  of the answer (may be null)
+ * @param timeout_ms  of the answer; 0: 1000 (milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
-    uint8_t channel, MEROVANE_OUT uint16_t *value, MEROVANE_OUT uint8_t *third_byte,
-    MEROVANE_OUT uint8_t *fourth_byte,
+    uint8_t channel, MEROVANE_OUT uint16_t *value, MEROVANE_OUT_OPT uint8_t *third_byte,
+    MEROVANE_OUT_OPT uint8_t *fourth_byte,
     uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4);
 
 /** QV_ReadAdcValue for the port `port`, with the same results. Measures an ADC channel.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param channel  the handset's number of it
- * @param value  written on success only, as the next two
- * @param third_byte  of the answer; null: not wanted
- * @param fourth_byte  of the answer; null: not wanted
- * @param timeout_ms  0: 1000 (milliseconds) */
+ * @param channel  as the handset numbers its channels
+ * @param value  written on success only, as are the next two
+ * @param third_byte  of the answer (may be null)
+ * @param fourth_byte  of the answer (may be null)
+ * @param timeout_ms  of the answer; 0: 1000 (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
-    int32_t port, uint8_t channel, MEROVANE_OUT uint16_t *value, MEROVANE_OUT uint8_t *third_byte,
-    MEROVANE_OUT uint8_t *fourth_byte,
+    int32_t port, uint8_t channel, MEROVANE_OUT uint16_t *value,
+    MEROVANE_OUT_OPT uint8_t *third_byte, MEROVANE_OUT_OPT uint8_t *fourth_byte,
     uint32_t timeout_ms) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5);
 
-/** Measures the battery; 1000 ms.
+/** Measures the battery's voltage. Waits 1000 ms.
  * @param voltage  in the handset's unit; 0 is stored when the exchange failed
  * @retval PC_ERR_INVALID_PARAM  `voltage` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1152,311 +1229,352 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt(
     MEROVANE_OUT uint32_t *voltage) MEROVANE_WRITES(1);
 
-/** QV_ReadPhoneVolt for the port `port`, with the same results. Measures the battery; 1000 ms.
+/** QV_ReadPhoneVolt for the port `port`, with the same results. Measures the battery's voltage.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param voltage  in the handset's unit; 0 is stored when the exchange failed */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadPhoneVolt_MT(
     int32_t port, MEROVANE_OUT uint32_t *voltage) MEROVANE_WRITES(2);
 
-/** Makes the handset act as if a key were pressed; 1000 ms.
- * @param key  the handset's code of it
+/** Makes the handset act as if a key were pressed. Waits 1000 ms.
+ * @param key  the handset's code for it
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard(uint32_t key);
 
 /** QV_PressKeyboard for the port `port`, with the same results. Makes the handset act as if a key
- * were pressed; 1000 ms.
+ * were pressed. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param key  the handset's code of it */
+ * @param key  the handset's code for it */
 MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t key);
 
 /* ---- GPS ----------------------------------------------------------------------------- */
 
-/** Opens (non-zero) or closes the receiver; 1000 ms.
- * @param open
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Opens or closes the receiver. Waits 1000 ms.
+ * @param open  0: close
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command; one below 264 bytes is not
+ *   looked at
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
 
-/** QV_GpsOpen for the port `port`, with the same results. Opens (non-zero) or closes the receiver;
- * 1000 ms.
+/** QV_GpsOpen for the port `port`, with the same results. Opens or closes the receiver. Waits 1000
+ * ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param open */
+ * @param open  0: close */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
 
-/** Writes the GPS settings; 1000 ms.
- * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is
- *   the handset's
+/** Writes the GPS settings. Waits 1000 ms.
+ * @param block  as the handset holds them, but for the 32-bit word at offset 24, which is in this
+ *   machine's byte order (44 bytes)
  * @retval PC_ERR_INVALID_PARAM  `block` is null
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length; one below 264
+ *   bytes is not looked at
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(
-    MEROVANE_IN const uint8_t *block) MEROVANE_READS(1);
+    MEROVANE_IN_N(44) const uint8_t *block) MEROVANE_READS(1);
 
-/** QV_GpsWriteNv for the port `port`, with the same results. Writes the GPS settings; 1000 ms.
+/** QV_GpsWriteNv for the port `port`, with the same results. Writes the GPS settings. Waits 1000
+ * ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  44 bytes. The 32-bit word at offset 24 is in this machine's byte order, the rest is
- *   the handset's */
+ * @param block  as the handset holds them, but for the 32-bit word at offset 24, which is in this
+ *   machine's byte order (44 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
-    int32_t port, MEROVANE_IN const uint8_t *block) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(44) const uint8_t *block) MEROVANE_READS(2);
 
-/** Reads the GPS settings; 1000 ms.
- * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive
- *   read as 0
+/** Reads the GPS settings. Waits 1000 ms.
+ * @param block  as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written with
+ *   PC_ERR_GPS_FAILED too (44 bytes)
  * @retval PC_ERR_INVALID_PARAM  `block` is null
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length; one below 264
+ *   bytes is not looked at
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(MEROVANE_OUT uint8_t *block) MEROVANE_WRITES(1);
+MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(
+    MEROVANE_OUT_N(44) uint8_t *block) MEROVANE_WRITES(1);
 
-/** QV_GpsReadNv for the port `port`, with the same results. Reads the GPS settings; 1000 ms.
+/** QV_GpsReadNv for the port `port`, with the same results. Reads the GPS settings. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  44 bytes, as in QV_GpsWriteNv; stored with code 30 too. Bytes that did not arrive
- *   read as 0 */
+ * @param block  as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written with
+ *   PC_ERR_GPS_FAILED too (44 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv_MT(
-    int32_t port, MEROVANE_OUT uint8_t *block) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(44) uint8_t *block) MEROVANE_WRITES(2);
 
 /* ---- Bluetooth as equipment under test ----------------------------------------------- */
 
-/** Enters (non-zero) or leaves the Bluetooth test mode; 3000 ms.
- * @param enter
+/** Enters or leaves the Bluetooth test mode. Waits 3000 ms.
+ * @param enter  0: leave
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode(uint32_t enter);
 
-/** QV_EnterEUTMode for the port `port`, with the same results. Enters (non-zero) or leaves the
- * Bluetooth test mode; 3000 ms.
+/** QV_EnterEUTMode for the port `port`, with the same results. Enters or leaves the Bluetooth test
+ * mode. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param enter */
+ * @param enter  0: leave */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterEUTMode_MT(int32_t port, uint32_t enter);
 
-/** Stores the Bluetooth address; 3000 ms.
- * @param address  6 bytes, most significant first
+/** Stores the Bluetooth address. Waits 3000 ms.
+ * @param address  most significant byte first (6 bytes)
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr(
-    MEROVANE_IN const uint8_t *address) MEROVANE_READS(1);
+    MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(1);
 
-/** QV_SaveBTAddr for the port `port`, with the same results. Stores the Bluetooth address; 3000 ms.
+/** QV_SaveBTAddr for the port `port`, with the same results. Stores the Bluetooth address. Waits
+ * 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param address  6 bytes, most significant first */
+ * @param address  most significant byte first (6 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
-    int32_t port, MEROVANE_IN const uint8_t *address) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(2);
 
-/** Reads the Bluetooth address; 1000 ms.
- * @param address  6 bytes, most significant first
+/** Reads the Bluetooth address. Waits 1000 ms.
+ * @param address  most significant byte first; written on success only (6 bytes)
  * @retval PC_ERR_INVALID_PARAM  `address` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
-MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
+ * @retval PC_ERR_BLUETOOTH_FAILED  the answer has fewer than 6 bytes, or the exchange failed for
+ *   whatever reason; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(
+    MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(1);
 
-/** QV_LoadBTAddr for the port `port`, with the same results. Reads the Bluetooth address; 1000 ms.
+/** QV_LoadBTAddr for the port `port`, with the same results. Reads the Bluetooth address. Waits
+ * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param address  6 bytes, most significant first */
+ * @param address  most significant byte first; written on success only (6 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(
-    int32_t port, MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(2);
 
-/** Starts (3000 ms) or stops (1000 ms) a radio test.
- * @param start  0: stop; `words` is not looked at
- * @param words  four: the handset's, except the second, which is the channel, 0 to 78
- * @retval PC_ERR_INVALID_PARAM  `words` is null
+/** Starts or stops a radio test. Waits 3000 ms to start, 1000 ms to stop.
+ * @param start  0: stop
+ * @param words  the second is the channel, 0 to 78; the others are the handset's (4 values, looked
+ *   at only when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `words` is null when `start` is not 0; a channel above 78
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(
-    uint32_t start, MEROVANE_IN const uint32_t *words) MEROVANE_READS(2);
+    uint32_t start, MEROVANE_IN_N_OPT(4) const uint32_t *words) MEROVANE_READS(2);
 
-/** QV_StartBtRadioTest for the port `port`, with the same results. Starts (3000 ms) or stops (1000
- * ms) a radio test.
+/** QV_StartBtRadioTest for the port `port`, with the same results. Starts or stops a radio test.
+ * Waits 3000 ms to start, 1000 ms to stop.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start  0: stop; `words` is not looked at
- * @param words  four: the handset's, except the second, which is the channel, 0 to 78 */
+ * @param start  0: stop
+ * @param words  the second is the channel, 0 to 78; the others are the handset's (4 values, looked
+ *   at only when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
-    int32_t port, uint32_t start, MEROVANE_IN const uint32_t *words) MEROVANE_READS(3);
+    int32_t port, uint32_t start, MEROVANE_IN_N_OPT(4) const uint32_t *words) MEROVANE_READS(3);
 
-/** Starts (3000 ms) or stops (1000 ms) a carrier for frequency adjustment.
- * @param start  0: stop; `channel` is not looked at
- * @param channel  0 to 78
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Starts or stops a carrier on which the frequency is adjusted. Waits 3000 ms to start, 1000 ms to
+ * stop.
+ * @param start  0: stop
+ * @param channel  where the carrier is (0 to 78 when `start` is not 0)
+ * @retval PC_ERR_INVALID_PARAM  `channel` above 78 when `start` is not 0
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC(uint32_t start, uint32_t channel);
 
-/** QV_StartBtAFC for the port `port`, with the same results. Starts (3000 ms) or stops (1000 ms) a
- * carrier for frequency adjustment.
+/** QV_StartBtAFC for the port `port`, with the same results. Starts or stops a carrier on which the
+ * frequency is adjusted. Waits 3000 ms to start, 1000 ms to stop.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param start  0: stop; `channel` is not looked at
- * @param channel  0 to 78 */
+ * @param start  0: stop
+ * @param channel  where the carrier is (0 to 78 when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtAFC_MT(int32_t port, uint32_t start, uint32_t channel);
 
-/** Tries a value of the frequency DAC; 1000 ms.
- * @param value  0 to 63
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Tries a value of the frequency DAC. Waits 1000 ms.
+ * @param value  what is tried (0 to 63)
+ * @retval PC_ERR_INVALID_PARAM  `value` above 63
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue(uint32_t value);
 
-/** QV_SetBtDacValue for the port `port`, with the same results. Tries a value of the frequency DAC;
- * 1000 ms.
+/** QV_SetBtDacValue for the port `port`, with the same results. Tries a value of the frequency DAC.
+ * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  0 to 63 */
+ * @param value  what is tried (0 to 63) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetBtDacValue_MT(int32_t port, uint32_t value);
 
-/** Stores the value of the frequency DAC; 3000 ms.
- * @param value  0 to 63
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Stores the value of the frequency DAC. Waits 3000 ms.
+ * @param value  what is stored (0 to 63)
+ * @retval PC_ERR_INVALID_PARAM  `value` above 63
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue(uint32_t value);
 
 /** QV_SaveBtDacValue for the port `port`, with the same results. Stores the value of the frequency
- * DAC; 3000 ms.
+ * DAC. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  0 to 63 */
+ * @param value  what is stored (0 to 63) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t value);
 
-/** Reads the stored value of the frequency DAC; 1000 ms.
- * @param value
+/** Reads the stored value of the frequency DAC. Waits 1000 ms.
+ * @param value  written on success only
  * @retval PC_ERR_INVALID_PARAM  `value` is null
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
- *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
+ * @retval PC_ERR_BLUETOOTH_FAILED  the answer has fewer than 4 bytes, or the exchange failed for
+ *   whatever reason; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
 /** QV_LoadBtDacValue for the port `port`, with the same results. Reads the stored value of the
- * frequency DAC; 1000 ms.
+ * frequency DAC. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value */
+ * @param value  written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
 /* ---- WiFi as equipment under test ---------------------------------------------------- */
 
-/** Enters (non-zero) or leaves the WiFi test mode; 3000 ms.
- * @param enter
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Enters or leaves the WiFi test mode. Waits 3000 ms.
+ * @param enter  0: leave
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
 
-/** Stores the WiFi address; 3000 ms.
- * @param address  6 bytes. They reach the handset reversed, and QV_WIFI_LoadAddr does not turn them
- *   back: what is saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
+/** Stores the WiFi address. Waits 3000 ms.
+ * @param address  reaches the handset reversed, and QV_WIFI_LoadAddr does not turn it back: what is
+ *   saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01 (6 bytes)
  * @retval PC_ERR_INVALID_PARAM  `address` is null
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
-    MEROVANE_IN const uint8_t *address) MEROVANE_READS(1);
+    MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(1);
 
-/** Reads the WiFi address; 1000 ms.
- * @param address  6 bytes, as the handset holds them; written on success only
+/** Reads the WiFi address. Waits 1000 ms.
+ * @param address  as the handset holds it; written on success only (6 bytes)
  * @retval PC_ERR_INVALID_PARAM  `address` is null
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure or sent fewer than 6 bytes; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(
-    MEROVANE_OUT uint8_t *address) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(1);
 
-/** Chooses the channel; 3000 ms.
- * @param channel  1 to 13; others choose 6
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses the channel. Waits 3000 ms.
+ * @param channel  1 to 13; any other value chooses 6
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
 
-/** Chooses the data rate; 3000 ms.
- * @param rate  1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52, 54, 58 or 65 Mbit/s
- *   (rounded down)
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses the data rate. Waits 3000 ms.
+ * @param rate  Mbit/s, rounded down (1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52,
+ *   54, 58 or 65)
+ * @retval PC_ERR_INVALID_PARAM  `rate` other than 1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36,
+ *   39, 48, 52, 54, 58 or 65
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetDateRat(uint32_t rate);
 
-/** Chooses the modulation mode; 3000 ms.
- * @param mode  0 to 6
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses the modulation mode. Waits 3000 ms.
+ * @param mode  as the handset numbers its modes (0 to 6)
+ * @retval PC_ERR_INVALID_PARAM  `mode` above 6
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetMode(uint32_t mode);
 
-/** Chooses the power control level; 3000 ms.
- * @param level  1 to 5
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Chooses the power control level. Waits 3000 ms.
+ * @param level  as the handset numbers its levels (1 to 5)
+ * @retval PC_ERR_INVALID_PARAM  `level` outside 1 to 5
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
 
-/** Switches the transmitter; 3000 ms.
+/** Switches the transmitter on or off. Waits 3000 ms.
  * @param enable  0: off
  * @param argument  the handset's
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetTxStatus(uint32_t enable, uint32_t argument);
 
-/** Switches the receiver; 1000 ms.
- * @param mode  0 off, 1 on; others clear the received counts
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Switches the receiver on or off, or clears its counts. Waits 1000 ms.
+ * @param mode  a QV_WIFI_RX; any other value clears the counts
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetRxStatus(uint32_t mode);
 
-/** Reads the received counts; 1000 ms.
- * @param first  the handset's first count; 0 when no answer came
- * @param second  its second
+/** Reads the receiver's counts. Waits 1000 ms.
+ * @param first  the handset's first count; 0 is stored when no answer came
+ * @param second  its second, likewise
  * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged, and nothing is stored
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_ReadRxValue(
     MEROVANE_OUT uint32_t *first,
     MEROVANE_OUT uint32_t *second) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
-/** Reads, writes or sets a calibration factor.
- * @param operation  0 reads the one that the handset holds (1000 ms), 1 writes it (8000 ms), 2 sets
- *   it (8000 ms)
- * @param factor  read: all of it, on success; otherwise index and value are sent
+/** Reads, writes or sets a calibration factor. Waits 1000 ms to read, else 8000 ms.
+ * @param action  a QV_WIFI_FACTOR_ACTION
+ * @param factor  to read: filled on success; else its index, 1 to 5, and its value are sent
  * @retval PC_ERR_INVALID_PARAM  `factor` is null
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged. Also, with nothing sent,
+ *   for another action or index
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(
-    uint32_t operation, MEROVANE_OUT QV_WIFI_FACTOR *factor) MEROVANE_WRITES(2);
+    uint32_t action, MEROVANE_INOUT QV_WIFI_FACTOR *factor) MEROVANE_UPDATES(2);
 
-/** Stores the crystal's load capacitance; 3000 ms.
- * @param capacitance  2 bytes, sent as they are
+/** Stores the crystal's load capacitance. Waits 3000 ms.
+ * @param capacitance  sent as it is (2 bytes)
  * @retval PC_ERR_INVALID_PARAM  `capacitance` is null
+ * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
-    MEROVANE_IN const uint8_t *capacitance) MEROVANE_READS(1);
+    MEROVANE_IN_N(2) const uint8_t *capacitance) MEROVANE_READS(1);
 
 /* ---- DSP debugging ------------------------------------------------------------------- */
 
-/** Resets the DSP's RF parameters; 4000 ms. The DSP functions have no operation ids: results are
- * reported under the one of the command before.
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Resets the DSP's RF parameters. Waits 4000 ms. The DSP functions have no operation ids: results
+ * are reported under the one of the command before.
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
 
-/** Reads the DSP's registers or memory; 4000 ms.
+/** Reads the DSP's registers or memory. Waits 4000 ms.
  * @param unused  not looked at
- * @param width  bytes of a unit: 1, 2 or 4
+ * @param width  bytes of a unit (1, 2 or 4)
  * @param address  of the first unit
- * @param data  `count` units, in the handset's byte order, on success. Units that did not arrive
- *   read as 0
- * @param count  of units, above 0
- * @retval PC_ERR_INVALID_PARAM  `data` is null
+ * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
+ *   only (`count * width` bytes)
+ * @param count  of units (above 0)
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; `width` other than 1, 2 or 4; `count` of 0
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
-    uint32_t unused, uint32_t width, uint32_t address, MEROVANE_OUT uint8_t *data,
+    uint32_t unused, uint32_t width, uint32_t address, MEROVANE_OUT_N(count*width) uint8_t *data,
     uint16_t count) MEROVANE_WRITES(4);
 
-/** Writes a unit of the DSP's registers or memory; 4000 ms.
+/** Writes a unit of the DSP's registers or memory. Waits 4000 ms.
  * @param unused  not looked at
- * @param width  bytes of the unit: 1, 2 or 4
- * @param address
- * @param value
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+ * @param width  bytes of the unit (1, 2 or 4)
+ * @param address  of the unit
+ * @param value  what is written
+ * @retval PC_ERR_INVALID_PARAM  `width` other than 1, 2 or 4
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
     uint32_t unused, uint32_t width, uint32_t address, uint32_t value);
 
-/** Has the DSP plot a frame; 4000 ms. The arguments are the handset's.
- * @param a
- * @param b
- * @param c
- * @param d
- * @param e
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
- *   PC_ERR_REFUSED */
+/** Has the DSP plot a frame. Waits 4000 ms.
+ * @param a  the handset's, as are the others
+ * @param b  the handset's
+ * @param c  the handset's
+ * @param d  the handset's
+ * @param e  the handset's
+ * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
     uint32_t a, uint8_t b, uint8_t c, uint16_t d, uint16_t e);
 

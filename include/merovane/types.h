@@ -53,6 +53,30 @@ typedef enum QV_PROPERTY {
   QV_PROPERTY_BIG_ENDIAN = 4
 } QV_PROPERTY;
 
+/** The units in which QV_ReadRegister and QV_WriteRegister access memory. */
+typedef enum QV_ACCESS_WIDTH {
+  QV_ACCESS_WIDTH_8 = 0,
+  QV_ACCESS_WIDTH_16 = 1,
+  QV_ACCESS_WIDTH_32 = 2
+} QV_ACCESS_WIDTH;
+
+/** What QV_CheckFixedNV asks about. */
+typedef enum QV_FIXED_NV { QV_FIXED_NV_ITEMS = 0, QV_FIXED_NV_BLOCK = 10 } QV_FIXED_NV;
+
+/** What QV_WIFI_SetRxStatus does. */
+typedef enum QV_WIFI_RX {
+  QV_WIFI_RX_OFF = 0,
+  QV_WIFI_RX_ON = 1,
+  QV_WIFI_RX_CLEAR_COUNTS = 2
+} QV_WIFI_RX;
+
+/** What QV_WIFI_OperFactor does. */
+typedef enum QV_WIFI_FACTOR_ACTION {
+  QV_WIFI_FACTOR_READ = 0,
+  QV_WIFI_FACTOR_WRITE = 1,
+  QV_WIFI_FACTOR_SET = 2
+} QV_WIFI_FACTOR_ACTION;
+
 /** An event of the caller's: a Win32 event handle on Windows, elsewhere an eventfd descriptor. 0
  * and, elsewhere than on Windows, negative values count as null. */
 #if defined(_WIN32)
@@ -95,7 +119,7 @@ typedef struct QV_FIXED_NV_INFO {
 /** What QV_GetFlashInfo reads: 384 bytes. The words' meanings are the handset's. */
 typedef struct QV_FLASH_INFO {
   uint32_t identifier[2];
-  /** At most 31. Records behind these many are as they arrived. */
+  /** At most 31. Records after these are as they arrived. */
   uint32_t region_count;
   struct {
     uint32_t words[3];

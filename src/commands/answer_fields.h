@@ -7,7 +7,7 @@
 #include <cstring>
 #include <span>
 
-#include "link/byte_order.h"
+#include "link/frame.h"
 
 namespace merovane::commands {
 
@@ -30,8 +30,6 @@ std::array<std::uint8_t, kBytes> FirstBytes(std::span<const std::uint8_t> payloa
 // Answers of the WiFi transceiver and the DSP begin with a word that is not 0 when what they were
 // told was not done.
 inline constexpr std::size_t kStatusBytes = 4;
-inline bool TellsFailure(std::span<const std::uint8_t> payload) {
-  return GetU32(FirstBytes<kStatusBytes>(payload), 0) != 0;
-}
+inline bool TellsFailure(const Answer& answer) { return answer.U32(0) != 0; }
 
 }  // namespace merovane::commands

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "link/byte_order.h"
-
 namespace merovane::commands {
 namespace {
 
@@ -34,16 +32,17 @@ std::uint16_t Crc16Arc(std::span<const std::uint8_t> data) {
   return crc;
 }
 
-std::vector<std::uint8_t> WithChecksum(std::span<const std::uint8_t> block) {
+std::vector<std::uint8_t> WithChecksum(ByteOrder order, std::span<const std::uint8_t> block) {
   std::vector<std::uint8_t> checked(block.size() + kChecksumBytes);
   std::copy(block.begin(), block.end(), checked.begin());
-  PutU16(checked, block.size(), Crc16Arc(block));
+  order.PutU16(checked, block.size(), Crc16Arc(block));
   return checked;
 }
 
-bool ChecksumMatches(std::span<const std::uint8_t> blockWithChecksum) {
+bool ChecksumMatches(ByteOrder order, std::span<const std::uint8_t> blockWithChecksum) {
   const std::size_t blockBytes = blockWithChecksum.size() - kChecksumBytes;
-  return Crc16Arc(blockWithChecksum.first(blockBytes)) == GetU16(blockWithChecksum, blockBytes);
+  return Crc16Arc(blockWithChecksum.first(blockBytes)) ==
+         order.GetU16(blockWithChecksum, blockBytes);
 }
 
 }  // namespace merovane::commands

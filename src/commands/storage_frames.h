@@ -16,9 +16,9 @@ inline constexpr FrameId kReadNv{kStorageType, 0};
 
 // Stands ahead of an NV item's bytes, in requests and in answers.
 inline constexpr std::size_t kNvHeaderBytes = 2;
-inline std::array<std::uint8_t, kNvHeaderBytes> NvHeader(std::uint16_t item) {
+inline std::array<std::uint8_t, kNvHeaderBytes> NvHeader(ByteOrder order, std::uint16_t item) {
   std::array<std::uint8_t, kNvHeaderBytes> header;
-  PutU16(header, 0, item);
+  order.PutU16(header, 0, item);
   return header;
 }
 

@@ -12,7 +12,7 @@ constexpr std::uint16_t kImeiItem = 5;
 constexpr std::uint32_t kTimeoutMs = 1000;
 
 Result ReadPacked(PhoneLink& link, std::span<std::uint8_t, kPackedImeiBytes> imei) {
-  const auto request = NvHeader(kImeiItem);
+  const auto request = NvHeader(link.Order(), kImeiItem);
   const Answer answer = link.SendAndWaitSame(kReadNv, request, kTimeoutMs);
   if (!answer) return answer.Why();
   const auto payload = answer.Payload();

@@ -1,10 +1,8 @@
-#include "commands/handset/dsp_debug.h"
-
+// The DSP's debug functions.
 #include <array>
 
 #include "commands/answer_fields.h"
-#include "commands/operation.h"
-#include "link/byte_order.h"
+#include "declared/short_range_radio.h"
 
 namespace merovane::commands {
 namespace {
@@ -12,65 +10,55 @@ namespace {
 constexpr std::uint8_t kType = 50;
 constexpr std::uint32_t kTimeoutMs = 4000;
 
-Answer Ask(Phone& phone, std::uint8_t subtype, std::span<const std::uint8_t> payload) {
-  return phone.link.SendAndWaitSame({kType, subtype}, payload, kTimeoutMs);
+Answer Ask(PhoneLink& link, std::uint8_t subtype, std::span<const std::uint8_t> payload) {
+  return link.SendAndWaitSame({kType, subtype}, payload, kTimeoutMs);
 }
 
 // The exchange's result, unless the handset's own status says otherwise.
 Result Verdict(const Answer& answer) {
-  return TellsFailure(answer.Payload()) ? Result::DspDebugFailed : answer.Why();
+  return TellsFailure(answer) ? Result::DspDebugFailed : answer.Why();
 }
-
-bool KnownWidth(std::uint32_t width) { return width == 1 || width == 2 || width == 4; }
 
 }  // namespace
 
-Result DspDebug_ResetRFparam(Phone& phone) {
-  Operation operation(phone);
-  operation.Log("DspDebug Reset RF param:");
-  return operation.Finish(Verdict(Ask(phone, 0, {})));
+Result body::DspDebug_ResetRFparam(Operation& operation) {
+  return operation.Finish(Verdict(Ask(operation.link, 0, {})));
 }
 
-Result DspDebug_RdRegMemo(Phone& phone, std::uint32_t, std::uint32_t width, std::uint32_t address,
-                          std::uint8_t* data, std::uint16_t count) {
-  Operation operation(phone);
-  if (!KnownWidth(width) || !data || count == 0) return Result::InvalidParam;
-  operation.Log("DspDebug Read Register:");
+Result body::DspDebug_RdRegMemo(Operation& operation, std::uint32_t, std::uint32_t width,
+                                std::uint32_t address, std::span<std::uint8_t> data,
+                                std::uint16_t count) {
+  const ByteOrder order = operation.link.Order();
   std::array<std::uint8_t, 12> request{};
-  PutU32(request, 0, address);
-  PutU32(request, 4, width);
-  PutU16(request, 8, count);
-  const Answer answer = Ask(phone, 1, request);
+  order.PutU32(request, 0, address);
+  order.PutU32(request, 4, width);
+  order.PutU16(request, 8, count);
+  const Answer answer = Ask(operation.link, 1, request);
   const Result result = Verdict(answer);
-  if (Succeeded(result)) {
-    CopyZeroFilled(answer.Payload(), kStatusBytes, {data, std::size_t{count} * width});
-  }
+  if (Succeeded(result)) CopyZeroFilled(answer.Payload(), kStatusBytes, data);
   return operation.Finish(result);
 }
 
-Result DspDebug_WrRegMemo(Phone& phone, std::uint32_t, std::uint32_t width, std::uint32_t address,
-                          std::uint32_t value) {
-  Operation operation(phone);
-  if (!KnownWidth(width)) return Result::InvalidParam;
-  operation.Log("Dsp Debug Write Register:");
+Result body::DspDebug_WrRegMemo(Operation& operation, std::uint32_t, std::uint32_t width,
+                                std::uint32_t address, std::uint32_t value) {
+  const ByteOrder order = operation.link.Order();
   std::array<std::uint8_t, 16> request{};
-  PutU32(request, 0, address);
-  PutU32(request, 4, width);
-  PutU32(request, 8, value);
-  return operation.Finish(Verdict(Ask(phone, 2, request)));
+  order.PutU32(request, 0, address);
+  order.PutU32(request, 4, width);
+  order.PutU32(request, 8, value);
+  return operation.Finish(Verdict(Ask(operation.link, 2, request)));
 }
 
-Result DspDebug_PlotFrame(Phone& phone, std::uint32_t a, std::uint8_t b, std::uint8_t c,
-                          std::uint16_t d, std::uint16_t e) {
-  Operation operation(phone);
-  operation.Log("Dsp Debug Plot Frame:");
+Result body::DspDebug_PlotFrame(Operation& operation, std::uint32_t a, std::uint8_t b,
+                                std::uint8_t c, std::uint16_t d, std::uint16_t e) {
+  const ByteOrder order = operation.link.Order();
   std::array<std::uint8_t, 12> request{};
-  PutU16(request, 0, d);
-  PutU16(request, 2, e);
-  PutU32(request, 4, a);
+  order.PutU16(request, 0, d);
+  order.PutU16(request, 2, e);
+  order.PutU32(request, 4, a);
   request[8] = b;
   request[9] = c;
-  return operation.Finish(Verdict(Ask(phone, 3, request)));
+  return operation.Finish(Verdict(Ask(operation.link, 3, request)));
 }
 
 }  // namespace merovane::commands

@@ -1,5 +1,4 @@
-#include "commands/handset/fixed_nv.h"
-
+// The fixed-NV information: IMEIs, addresses and the GPS settings in one block.
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -10,8 +9,8 @@
 #include "commands/handset/gps_nv_block.h"
 #include "commands/handset/radio_address.h"
 #include "commands/imei.h"
-#include "commands/operation.h"
 #include "commands/storage_frames.h"
+#include "declared/identity.h"
 
 namespace merovane::commands {
 namespace {
@@ -22,6 +21,7 @@ constexpr std::uint8_t kType = 94;
 constexpr FrameId kAnswer{kType, 1};
 constexpr std::uint8_t kReadSubtype = 0xFF;
 constexpr std::uint32_t kTimeoutMs = 3000;
+constexpr std::uint32_t kCheckMs = 1000;
 
 // Where the fields stand in the block. A write's mask says which of them count.
 constexpr std::size_t kBlockBytes = 106;
@@ -44,7 +44,7 @@ std::optional<std::uint8_t> HexDigit(char character) {
   return std::nullopt;
 }
 
-// Only the first twelve characters are read, and none behind one that is no digit.
+// Only the first twelve characters are read, and none after one that is no digit.
 std::optional<Address> ParseAddress(const char* text) {
   Address address{};
   for (std::size_t at = 0; at < 2 * kAddressBytes; ++at) {
@@ -69,25 +69,25 @@ struct Writing {
 };
 
 // The fields that are written only when they are right.
-bool PutCheckedFields(Writing& writing, const QV_FIXED_NV_INFO& info) {
+bool PutCheckedFields(ByteOrder order, const QV_FIXED_NV_INFO& info, Writing& writing) {
   if (info.write_imei1 && !writing.Put(kImei1, PackImei(info.imei1))) return false;
   if (info.write_imei2 && !writing.Put(kImei2, PackImei(info.imei2))) return false;
   if (info.write_bluetooth_address) {
     auto address = ParseAddress(info.bluetooth_address);
-    if (address) address = Reversed(address->data());
+    if (address) address = Reversed(*address);
     if (!writing.Put(kBluetoothAddress, address)) return false;
   }
   if (info.write_parameter_block) {
     std::array<std::uint8_t, kGpsNvBytes> parameters;
     std::memcpy(parameters.data(), info.parameter_block, parameters.size());
-    ConvertGpsNvBlock(parameters);
+    ConvertGpsNvBlock(order, parameters);
     writing.Put(kParameterBlock, std::optional(parameters));
   }
   return true;
 }
 
 // The fields whose text is not checked: a wrong one is written as zeros.
-void PutUncheckedFields(Writing& writing, const QV_FIXED_NV_INFO& info) {
+void PutUncheckedFields(const QV_FIXED_NV_INFO& info, Writing& writing) {
   if (info.write_second_address) writing.Put(kSecondAddress, ParseAddress(info.second_address));
   if (info.write_imei3) writing.Put(kImei3, PackImei(info.imei3));
   if (info.write_imei4) writing.Put(kImei4, PackImei(info.imei4));
@@ -113,72 +113,64 @@ void PrintAddress(const Address& address, char (&text)[16]) {
 }
 
 // The write flags stay as they are.
-void TakeFields(Block block, QV_FIXED_NV_INFO& info) {
+void TakeFields(ByteOrder order, Block block, QV_FIXED_NV_INFO& info) {
   TakeImei(block, kImei1, info.imei1);
   TakeImei(block, kImei2, info.imei2);
   TakeImei(block, kImei3, info.imei3);
   TakeImei(block, kImei4, info.imei4);
-  PrintAddress(Reversed(&block[kBluetoothAddress.offset]), info.bluetooth_address);
+  PrintAddress(Reversed(AddressAt(block, kBluetoothAddress)), info.bluetooth_address);
   PrintAddress(AddressAt(block, kSecondAddress), info.second_address);
   auto parameters = FirstBytes<kGpsNvBytes>(block.subspan(kParameterBlock.offset));
-  ConvertGpsNvBlock(parameters);
+  ConvertGpsNvBlock(order, parameters);
   std::memcpy(info.parameter_block, parameters.data(), parameters.size());
 }
 
 }  // namespace
 
-Result CheckFixedNV(Phone& phone, std::uint32_t mode) {
-  constexpr std::uint32_t kInformationBlockMode = 10;
-  Operation operation(phone, 220);
-  operation.Log("Check NV:");
-  const bool block = mode == kInformationBlockMode;
+Result body::CheckFixedNV(Operation& operation, std::uint32_t mode) {
+  const bool block = mode == QV_FIXED_NV_BLOCK;
   const FrameId request = block ? FrameId{kType, 0xC0} : FrameId{kStorageType, 7};
   const FrameId awaited = block ? kAnswer : kStorageAnswer;
-  return operation.Finish(phone.link.SendAndWait(request, awaited, kEmptyBlock, 1000).Why());
+  return operation.Finish(
+      operation.link.SendAndWait(request, awaited, kEmptyBlock, kCheckMs).Why());
 }
 
-Result NvWriteDirect(Phone& phone, const QV_FIXED_NV_INFO* info) {
-  Operation operation(phone, 238);
-  if (!info) return Result::InvalidParam;
+Result body::NvWriteDirect(Operation& operation, const QV_FIXED_NV_INFO& info) {
   Writing writing;
-  if (!PutCheckedFields(writing, *info)) return Result::InvalidParam;
+  if (!PutCheckedFields(operation.link.Order(), info, writing)) return Result::InvalidParam;
   operation.Log("NvWriteDirect");
   // As long as a block with its checksum, which stays zero here.
   const auto payload = FirstBytes<kBlockBytes + kChecksumBytes>(writing.block);
   return operation.Finish(
-      phone.link.SendAndWait({kType, writing.mask}, kAnswer, payload, kTimeoutMs).Why());
+      operation.link.SendAndWait({kType, writing.mask}, kAnswer, payload, kTimeoutMs).Why());
 }
 
-Result FastWriteNvInfo(Phone& phone, const QV_FIXED_NV_INFO* info) {
-  Operation operation(phone, 238);
-  if (!info) return Result::InvalidParam;
+Result body::FastWriteNvInfo(Operation& operation, const QV_FIXED_NV_INFO& info) {
+  const ByteOrder order = operation.link.Order();
   Writing writing;
-  if (!PutCheckedFields(writing, *info)) return Result::InvalidParam;
-  PutUncheckedFields(writing, *info);
+  if (!PutCheckedFields(order, info, writing)) return Result::InvalidParam;
+  PutUncheckedFields(info, writing);
   operation.Log("Write NV");
+  const auto payload = WithChecksum(order, writing.block);
   return operation.Finish(
-      phone.link
-          .SendAndWait({kType, writing.mask}, kAnswer, WithChecksum(writing.block), kTimeoutMs)
-          .Why());
+      operation.link.SendAndWait({kType, writing.mask}, kAnswer, payload, kTimeoutMs).Why());
 }
 
-Result FastReadNvInfo(Phone& phone, QV_FIXED_NV_INFO* info) {
+Result body::FastReadNvInfo(Operation& operation, QV_FIXED_NV_INFO& info) {
   constexpr std::size_t kMaxBlockBytes = 108;
-  Operation operation(phone, 238);
-  if (!info) return Result::InvalidParam;
-  operation.Log("Read NV");
+  const ByteOrder order = operation.link.Order();
   const Answer answer =
-      phone.link.SendAndWait({kType, kReadSubtype}, kAnswer, kEmptyBlock, kTimeoutMs);
+      operation.link.SendAndWait({kType, kReadSubtype}, kAnswer, kEmptyBlock, kTimeoutMs);
   const auto payload = answer.Payload();
   Result result = answer.Why();
   if (answer) {
     // An empty or damaged block leaves the record as it was, and is not logged.
     if (payload.size() <= kChecksumBytes) return Result::NoData;
-    if (!ChecksumMatches(payload)) return Result::ChecksumMismatch;
+    if (!ChecksumMatches(order, payload)) return Result::ChecksumMismatch;
     if (payload.size() - kChecksumBytes > kMaxBlockBytes) result = Result::BufferTooSmall;
   }
   // After a failed exchange too: the record then reads as an empty block.
-  TakeFields(FirstBytes<kBlockBytes>(payload), *info);
+  TakeFields(order, FirstBytes<kBlockBytes>(payload), info);
   return operation.Finish(result);
 }
 

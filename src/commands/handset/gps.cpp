@@ -1,13 +1,10 @@
-#include "commands/handset/gps.h"
-
+// The GPS receiver.
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "commands/answer_fields.h"
 #include "commands/handset/gps_nv_block.h"
-#include "commands/operation.h"
-#include "link/byte_order.h"
+#include "declared/peripherals.h"
 
 namespace merovane::commands {
 namespace {
@@ -25,10 +22,10 @@ constexpr std::uint32_t kClose = 3;
 constexpr std::uint32_t kWriteNv = 4;
 constexpr std::uint32_t kReadNv = 5;
 
-GpsMessage NvRequest(std::uint32_t command) {
+GpsMessage NvRequest(ByteOrder order, std::uint32_t command) {
   GpsMessage request{};
-  PutU32(request, 0, command);
-  PutU32(request, 4, kGpsNvBytes);
+  order.PutU32(request, 0, command);
+  order.PutU32(request, 4, kGpsNvBytes);
   return request;
 }
 
@@ -44,38 +41,31 @@ Result Verdict(const Answer& answer, const GpsMessage& request, std::size_t repe
 
 }  // namespace
 
-Result GpsOpen(Phone& phone, std::uint32_t open) {
-  Operation operation(phone, 48);
-  operation.Log(open ? "GpsOpen:" : "GpsClose:");
+Result body::GpsOpen(Operation& operation, bool open) {
   GpsMessage request{};
-  PutU32(request, 0, open ? kOpen : kClose);
-  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
+  operation.link.Order().PutU32(request, 0, open ? kOpen : kClose);
+  const Answer answer = operation.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   return operation.Finish(Verdict(answer, request, kCommandBytes));
 }
 
-Result GpsWriteNv(Phone& phone, const std::uint8_t* block) {
-  Operation operation(phone, 49);
-  if (!block) return Result::InvalidParam;
-  operation.Log("GpsWriteNv:");
-  GpsMessage request = NvRequest(kWriteNv);
+Result body::GpsWriteNv(Operation& operation, std::span<const std::uint8_t, kGpsNvBytes> block) {
+  const ByteOrder order = operation.link.Order();
+  GpsMessage request = NvRequest(order, kWriteNv);
   const auto data = std::span(request).subspan<kDataOffset, kGpsNvBytes>();
-  std::memcpy(data.data(), block, data.size());
-  ConvertGpsNvBlock(data);
-  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
+  std::ranges::copy(block, data.begin());
+  ConvertGpsNvBlock(order, data);
+  const Answer answer = operation.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   return operation.Finish(Verdict(answer, request, kCommandAndLengthBytes));
 }
 
-Result GpsReadNv(Phone& phone, std::uint8_t* block) {
-  Operation operation(phone, 50);
-  if (!block) return Result::InvalidParam;
-  operation.Log("GpsReadNv:");
-  const GpsMessage request = NvRequest(kReadNv);
-  const Answer answer = phone.link.SendAndWaitSame(kGps, request, kTimeoutMs);
+Result body::GpsReadNv(Operation& operation, std::span<std::uint8_t, kGpsNvBytes> block) {
+  const ByteOrder order = operation.link.Order();
+  const GpsMessage request = NvRequest(order, kReadNv);
+  const Answer answer = operation.link.SendAndWaitSame(kGps, request, kTimeoutMs);
   if (answer) {
     // Delivered from an answer to something else as well.
-    const std::span<std::uint8_t, kGpsNvBytes> out(block, kGpsNvBytes);
-    CopyZeroFilled(answer.Payload(), kDataOffset, out);
-    ConvertGpsNvBlock(out);
+    CopyZeroFilled(answer.Payload(), kDataOffset, block);
+    ConvertGpsNvBlock(order, block);
   }
   return operation.Finish(Verdict(answer, request, kCommandAndLengthBytes));
 }

@@ -1,7 +1,7 @@
 // The GPS settings block, which the fixed-NV information carries as well.
 #pragma once
 
-#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 
@@ -13,9 +13,9 @@ inline constexpr std::size_t kGpsNvBytes = 44;
 
 // Between a caller's block and the handset's, either way: one word has a byte order, the rest is
 // the handset's own.
-inline void ConvertGpsNvBlock(std::span<std::uint8_t, kGpsNvBytes> block) {
+inline void ConvertGpsNvBlock(ByteOrder order, std::span<std::uint8_t, kGpsNvBytes> block) {
   constexpr std::size_t kSwappedWord = 24;
-  SwapArray32(block.subspan<kSwappedWord, 4>());
+  order.SwapArray32(block.subspan<kSwappedWord, 4>());
 }
 
 }  // namespace merovane::commands

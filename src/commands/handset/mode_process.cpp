@@ -4,9 +4,9 @@
 #include <atomic>
 #include <exception>
 
-#include "declared/phone_mode.h"
 #include "commands/operation.h"
 #include "commands/phone.h"
+#include "declared/phone_mode.h"
 #include "link/frame_codec.h"
 #include "platform/message_queue.h"
 

@@ -1,24 +1,25 @@
-// Peripherals that are switched or measured.
+// Peripherals that are switched on and off.
 #pragma once
 
 #include <cstdint>
 
-#include "commands/phone.h"
+#include "commands/operation.h"
 #include "link/result.h"
 
 namespace merovane::commands {
 
-Result LedOn(Phone& phone, std::uint32_t on);
-Result VibrationOn(Phone& phone, std::uint32_t on);
-Result LcdOn(Phone& phone, std::uint32_t on);
-Result keyLightOn(Phone& phone, std::uint32_t on);
-Result CameraOn(Phone& phone, std::uint32_t on);
+// The subtypes that switch a peripheral. They are the handset's codes: LED and LCD go on together,
+// LED and vibrator go off together.
+struct Switch {
+  std::uint8_t on;
+  std::uint8_t off;
+};
+inline constexpr Switch kLed{3, 0};
+inline constexpr Switch kVibrator{4, 0};
+inline constexpr Switch kLcd{3, 8};
+inline constexpr Switch kKeyLight{16, 17};
+inline constexpr Switch kCamera{18, 19};
 
-Result ADCCalibration(Phone& phone, std::uint8_t channel, std::uint8_t* value,
-                      std::uint32_t timeoutMs);
-Result ReadAdcValue(Phone& phone, std::uint8_t channel, std::uint16_t* value,
-                    std::uint8_t* thirdByte, std::uint8_t* fourthByte, std::uint32_t timeoutMs);
-Result ReadPhoneVolt(Phone& phone, std::uint32_t* voltage);
-Result PressKeyboard(Phone& phone, std::uint32_t key);
+Result Turn(Operation& operation, Switch peripheral, bool on);
 
 }  // namespace merovane::commands

@@ -1,18 +1,18 @@
-// Blocks of production data that travel with a checksum, and what the handset counts in them.
+// Blocks of production data, which travel with a checksum.
 #pragma once
 
 #include <cstdint>
+#include <span>
 
-#include "commands/phone.h"
+#include "commands/operation.h"
 #include "link/result.h"
 
 namespace merovane::commands {
 
-Result FastWriteProduct(Phone& phone, const std::uint8_t* block, std::uint32_t length);
-Result FastReadProduct(Phone& phone, std::uint8_t* block, std::uint32_t capacity,
-                       std::uint32_t* length);
-Result FastReadVerSion(Phone& phone, std::uint8_t* block, std::uint32_t capacity,
-                       std::uint32_t* length);
-Result FastReaIMEICount(Phone& phone, std::uint32_t* count);
+inline constexpr std::uint8_t kProductType = 95;
+inline constexpr std::uint8_t kVersionType = 96;
+
+Result ReadBlock(Operation& operation, std::uint8_t type, std::span<std::uint8_t> block,
+                 std::uint32_t& length);
 
 }  // namespace merovane::commands

@@ -5,16 +5,17 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <span>
 
 namespace merovane::commands {
 
 inline constexpr std::size_t kAddressBytes = 6;
 using Address = std::array<std::uint8_t, kAddressBytes>;
 
-// Of the six bytes there: some commands and blocks have an address last byte first.
-inline Address Reversed(const std::uint8_t* address) {
+// Some commands and blocks have an address last byte first.
+inline Address Reversed(std::span<const std::uint8_t, kAddressBytes> address) {
   Address reversed;
-  std::reverse_copy(address, address + kAddressBytes, reversed.begin());
+  std::ranges::reverse_copy(address, reversed.begin());
   return reversed;
 }
 

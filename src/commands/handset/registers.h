@@ -1,18 +1,25 @@
-// The handset's memory-mapped registers.
+// How much of the handset's registers one request reaches.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
-#include "commands/phone.h"
-#include "link/result.h"
+#include "commands/operation.h"
+#include "merovane/types.h"
 
 namespace merovane::commands {
 
-// The access width is a code: 0 bytes, 1 16-bit units, others 32-bit units. Data is never
-// converted.
-Result ReadRegister(Phone& phone, std::uint32_t accessWidth, std::uint32_t address,
-                    std::uint8_t* data, std::uint32_t count);
-Result WriteRegister(Phone& phone, std::uint32_t accessWidth, std::uint32_t address,
-                     const std::uint8_t* data, std::uint32_t count);
+inline constexpr std::size_t kRegisterHeaderBytes = 16;
+// The header's length field counts header and data in 16 bits.
+inline constexpr std::uint64_t kMaxRegisterReadBytes = 0xFFFF - kRegisterHeaderBytes;
+// The frame's counts the frame's header as well.
+inline constexpr std::uint64_t kMaxRegisterWriteBytes = kMaxPayloadBytes - kRegisterHeaderBytes;
+
+constexpr std::uint64_t RegisterBytes(std::uint32_t accessWidth, std::uint32_t count) {
+  const std::uint64_t unitBytes = accessWidth == QV_ACCESS_WIDTH_8    ? 1
+                                  : accessWidth == QV_ACCESS_WIDTH_16 ? 2
+                                                                      : 4;
+  return unitBytes * count;
+}
 
 }  // namespace merovane::commands

@@ -1,13 +1,12 @@
+// The steps are commands of their own: they log their names and results and leave their operation
+// ids behind; the command that runs them logs its name only.
 #include "commands/handset/serial_number.h"
 
 #include <algorithm>
 #include <array>
-#include <cstring>
-#include <string_view>
 
-#include "commands/handset/flash_nv.h"
-#include "commands/handset/production_block.h"
-#include "commands/operation.h"
+#include "declared/identity.h"
+#include "declared/memory.h"
 
 namespace merovane::commands {
 namespace {
@@ -17,7 +16,6 @@ constexpr std::size_t kItemBytes = 1752;
 constexpr std::size_t kBlockBytes = 256;
 constexpr std::size_t kFieldBytes = 24;
 constexpr std::size_t kGuidOffset = 152;
-constexpr std::size_t kGuidBytes = 16;
 // As far as a read of either number has to reach into the item.
 constexpr std::size_t kNumbersBytes = 216;
 
@@ -31,75 +29,69 @@ using Magic = std::array<std::uint8_t, 4>;
 constexpr Magic kFlashItemMagic{'5', '0', 'V', 'Q'};
 constexpr Magic kProductionBlockMagic{'9', '0', 'V', 'Q'};
 
-struct SerialNumberField {
-  std::size_t itemOffset;
-  std::size_t blockOffset;
-};
-constexpr SerialNumberField kSN{8, 4};
-constexpr SerialNumberField kSN2{168, 28};
-
-// A read of the production item from its start. Whole only when every byte asked for arrived.
+// Reads the production item from its start.
 template <std::size_t kBytes>
-Result ReadItem(Phone& phone, std::array<std::uint8_t, kBytes>& item, std::uint32_t timeoutMs,
-                bool mustBeWhole) {
+Result ReadItem(Phone& phone, std::array<std::uint8_t, kBytes>& item, std::uint32_t timeoutMs) {
   item.fill(0);
   std::uint32_t length = 0;
-  const Result result = ReadFlash(phone, kProductionItem, item.data(), kBytes, &length, timeoutMs);
-  if (Succeeded(result) && mustBeWhole && length < kBytes) return Result::WrongDataLength;
-  return result;
+  return ReadFlash(phone, kProductionItem, item.data(), kBytes, &length, timeoutMs);
 }
 
-Result DeliverField(std::span<const std::uint8_t, kFieldBytes> field, std::uint8_t* out,
-                    std::uint32_t capacity) {
-  std::memcpy(out, field.data(), std::min<std::size_t>(kFieldBytes, capacity));
-  return capacity < kFieldBytes ? Result::BufferTooSmall : Result::Success;
-}
-
-// The steps are commands of their own: they log their names and results and leave their operation
-// ids behind; the command that runs them logs its name only.
-Result ReadNumber(Phone& phone, std::string_view logName, SerialNumberField field,
-                  std::uint8_t* out, std::uint32_t capacity) {
-  Operation operation(phone, 26);
-  if (!out || !IsCapacity(capacity)) return Result::InvalidParam;
-  operation.Log(logName);
-
-  Magic magic;
-  if (const Result result = ReadItem(phone, magic, kReadMs, false); !Succeeded(result))
-    return result;
-  if (magic != kProductionBlockMagic) {
-    std::array<std::uint8_t, kNumbersBytes> item;
-    const Result result = ReadItem(phone, item, kReadMs, false);
-    if (!Succeeded(result)) return result;
-    return DeliverField(std::span(item).subspan(field.itemOffset).first<kFieldBytes>(), out,
-                        capacity);
-  }
-  std::array<std::uint8_t, kBlockBytes> block{};
+// The same; every byte must arrive.
+template <std::size_t kBytes>
+Result ReadWholeItem(Phone& phone, std::array<std::uint8_t, kBytes>& item,
+                     std::uint32_t timeoutMs) {
   std::uint32_t length = 0;
-  const Result result = FastReadProduct(phone, block.data(), kBlockBytes, &length);
-  if (!Succeeded(result)) return result;
-  return DeliverField(std::span(block).subspan(field.blockOffset).first<kFieldBytes>(), out,
-                      capacity);
+  const Result result = ReadFlash(phone, kProductionItem, item.data(), kBytes, &length, timeoutMs);
+  return Succeeded(result) && length < kBytes ? Result::WrongDataLength : result;
 }
 
-void PutNumber(std::span<std::uint8_t> storage, const Magic& magic, std::size_t offset,
-               std::span<const std::uint8_t> number) {
-  std::copy(magic.begin(), magic.end(), storage.begin());
+// A block that is shorter than its room is whole too when its checksum matches.
+Result ReadProductionBlock(Phone& phone, std::array<std::uint8_t, kBlockBytes>& block) {
+  block.fill(0);
+  std::uint32_t length = 0;
+  return FastReadProduct(phone, block.data(), kBlockBytes, &length);
+}
+
+Result Deliver(std::span<const std::uint8_t> storage, std::size_t offset,
+               std::span<std::uint8_t> serialNumber) {
+  const std::size_t bytes = std::min(kFieldBytes, serialNumber.size());
+  std::ranges::copy(storage.subspan(offset, bytes), serialNumber.begin());
+  return bytes < kFieldBytes ? Result::BufferTooSmall : Result::Success;
+}
+
+void Put(std::span<std::uint8_t> storage, const Magic& magic, std::size_t offset,
+         std::span<const std::uint8_t> serialNumber) {
+  std::ranges::copy(magic, storage.begin());
   const auto field = storage.subspan(offset, kFieldBytes);
-  std::fill(field.begin(), field.end(), std::uint8_t{0});
-  std::copy(number.begin(), number.end(), field.begin());
+  std::ranges::fill(field, std::uint8_t{0});
+  std::ranges::copy(serialNumber, field.begin());
 }
 
-Result WriteNumber(Phone& phone, std::string_view logName, SerialNumberField field,
-                   const std::uint8_t* number, std::uint32_t numberBytes) {
-  Operation operation(phone, 27);
-  if (!number || numberBytes == 0 || numberBytes >= kFieldBytes) return Result::InvalidParam;
-  operation.Log(logName);
+}  // namespace
 
+Result ReadSerialNumber(Operation& operation, SerialNumberField field,
+                        std::span<std::uint8_t> serialNumber) {
+  Phone& phone = operation.phone;
+  Magic magic;
+  if (const Result read = ReadItem(phone, magic, kReadMs); !Succeeded(read)) return read;
+  if (magic == kProductionBlockMagic) {
+    std::array<std::uint8_t, kBlockBytes> block;
+    const Result read = ReadProductionBlock(phone, block);
+    return Succeeded(read) ? Deliver(block, field.blockOffset, serialNumber) : read;
+  }
+  std::array<std::uint8_t, kNumbersBytes> item;
+  const Result read = ReadItem(phone, item, kReadMs);
+  return Succeeded(read) ? Deliver(item, field.itemOffset, serialNumber) : read;
+}
+
+Result WriteSerialNumber(Operation& operation, SerialNumberField field,
+                         std::span<const std::uint8_t> serialNumber) {
+  Phone& phone = operation.phone;
   // A magic of which bytes are missing must not pass for a handset without a layout: that one is
   // overwritten.
   Magic magic;
-  if (const Result result = ReadItem(phone, magic, kReadMs, true); !Succeeded(result))
-    return result;
+  if (const Result read = ReadWholeItem(phone, magic, kReadMs); !Succeeded(read)) return read;
   const bool inItem = magic == kFlashItemMagic;
   const bool inBlock = magic == kProductionBlockMagic;
   const auto layout = inItem    ? SerialNumberLayout::FlashItem
@@ -110,50 +102,25 @@ Result WriteNumber(Phone& phone, std::string_view logName, SerialNumberField fie
   // the new one in its hands.
   if (layout == SerialNumberLayout::FlashItem) {
     std::array<std::uint8_t, kItemBytes> item{};
-    if (inItem) {
-      const Result result = ReadItem(phone, item, kReadWholeItemMs, true);
-      if (!Succeeded(result)) return result;
-    }
-    PutNumber(item, kFlashItemMagic, field.itemOffset, {number, numberBytes});
+    const Result read = inItem ? ReadWholeItem(phone, item, kReadWholeItemMs) : Result::Success;
+    if (!Succeeded(read)) return read;
+    Put(item, kFlashItemMagic, field.itemOffset, serialNumber);
     return WriteFlash(phone, kProductionItem, item.data(), kItemBytes, kWriteItemMs);
   }
   std::array<std::uint8_t, kBlockBytes> block{};
-  if (inBlock) {
-    // Its checksum matched: a block shorter than 256 bytes is whole too.
-    std::uint32_t length = 0;
-    const Result result = FastReadProduct(phone, block.data(), kBlockBytes, &length);
-    if (!Succeeded(result)) return result;
-  }
-  PutNumber(block, kProductionBlockMagic, field.blockOffset, {number, numberBytes});
+  const Result read = inBlock ? ReadProductionBlock(phone, block) : Result::Success;
+  if (!Succeeded(read)) return read;
+  Put(block, kProductionBlockMagic, field.blockOffset, serialNumber);
   return FastWriteProduct(phone, block.data(), kBlockBytes);
 }
 
-}  // namespace
-
-Result ReadSN(Phone& phone, std::uint8_t* serialNumber, std::uint32_t capacity) {
-  return ReadNumber(phone, "ReadSN:", kSN, serialNumber, capacity);
-}
-
-Result ReadSN2(Phone& phone, std::uint8_t* serialNumber, std::uint32_t capacity) {
-  return ReadNumber(phone, "ReadSN2:", kSN2, serialNumber, capacity);
-}
-
-Result WriteSN(Phone& phone, const std::uint8_t* serialNumber, std::uint32_t length) {
-  return WriteNumber(phone, "WriteSN:", kSN, serialNumber, length);
-}
-
-Result WriteSN2(Phone& phone, const std::uint8_t* serialNumber, std::uint32_t length) {
-  return WriteNumber(phone, "WriteSN2:", kSN2, serialNumber, length);
-}
-
-Result ReadGuid(Phone& phone, std::uint8_t* guid) {
-  Operation operation(phone, 28);
-  if (!guid) return Result::InvalidParam;
-  operation.Log("ReadGuid:");
+Result body::ReadGuid(Operation& operation, std::span<std::uint8_t, 16> guid) {
   std::array<std::uint8_t, kItemBytes> item;
-  const Result result = ReadItem(phone, item, kReadMs, false);
-  if (Succeeded(result)) std::memcpy(guid, &item[kGuidOffset], kGuidBytes);
-  return result;
+  const Result read = ReadItem(operation.phone, item, kReadMs);
+  if (Succeeded(read)) {
+    std::ranges::copy(std::span(item).subspan<kGuidOffset, guid.extent>(), guid.begin());
+  }
+  return read;
 }
 
 }  // namespace merovane::commands

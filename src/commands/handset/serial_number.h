@@ -1,19 +1,26 @@
-// The handset's two serial numbers, in either of their layouts, and its GUID.
+// The handset's two serial numbers, in whichever layout it keeps them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
-#include "commands/phone.h"
+#include "commands/operation.h"
 #include "link/result.h"
 
 namespace merovane::commands {
 
-Result ReadSN(Phone& phone, std::uint8_t* serialNumber, std::uint32_t capacity);
-Result ReadSN2(Phone& phone, std::uint8_t* serialNumber, std::uint32_t capacity);
-// All else that the layout holds is written back as it was read. Nothing is written after a read
-// that failed or came short.
-Result WriteSN(Phone& phone, const std::uint8_t* serialNumber, std::uint32_t length);
-Result WriteSN2(Phone& phone, const std::uint8_t* serialNumber, std::uint32_t length);
-Result ReadGuid(Phone& phone, std::uint8_t* guid);
+// Where a number stands in production flash item 0 and in the production block.
+struct SerialNumberField {
+  std::size_t itemOffset;
+  std::size_t blockOffset;
+};
+inline constexpr SerialNumberField kFirstSerialNumber{8, 4};
+inline constexpr SerialNumberField kSecondSerialNumber{168, 28};
+
+Result ReadSerialNumber(Operation& operation, SerialNumberField field,
+                        std::span<std::uint8_t> serialNumber);
+Result WriteSerialNumber(Operation& operation, SerialNumberField field,
+                         std::span<const std::uint8_t> serialNumber);
 
 }  // namespace merovane::commands

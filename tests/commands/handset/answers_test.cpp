@@ -1,5 +1,12 @@
 // Answers that are longer or shorter than asked for, or tell of a failure.
-#include "rows.h"
+#include <functional>
+
+#include "commands/crc16.h"
+#include "declared/identity.h"
+#include "declared/memory.h"
+#include "declared/peripherals.h"
+#include "declared/short_range_radio.h"
+#include "support/command_fixture.h"
 
 namespace merovane::test {
 namespace {
@@ -14,7 +21,8 @@ struct HandsetAnswers : CommandFixture {
     static_cast<void>(Log());
     handset.ExpectAnyPayload(type, subtype).Answer(type, answerSubtype, payload);
   }
-  // What was delivered, and that nothing stands behind it.
+  Bytes Checked(const Bytes& block) { return WithChecksum(phone.link.Order(), block); }
+  // What was delivered, and that nothing stands after it.
   void ExpectOut(const char* hex) {
     const std::size_t bytes = Hex(hex).size();
     EXPECT_EQ(out.Hex(bytes), hex);
@@ -124,7 +132,8 @@ TEST_F(HandsetAnswers, OfThe7310KAreAwaitedWithoutTheIncrement) {
   EXPECT_TRUE(answered.Untouched());
   EXPECT_THAT(Log(), ElementsAre("Recv7310KCommand", ResultLine(Result::NoAnswer)));
   handset.Say(37, 4, handset.Message().U16(5).Zeros(18), 40);
-  EXPECT_EQ(Recv7310KCommand(phone, 4, answered.Data(), 50), Result::Success);
+  EXPECT_EQ(Recv7310KCommand(phone, 4, answered.Data(), 39), Result::NoAnswer);
+  EXPECT_EQ(Recv7310KCommand(phone, 4, answered.Data(), 1), Result::Success);
   EXPECT_EQ(OperationOf(Result::Success), 236u);
   EXPECT_EQ(answered[0], 5u);
 }
@@ -137,7 +146,7 @@ TEST_F(HandsetAnswers, WithProductionBlocksAreCheckedBeforeTheyAreDelivered) {
   };
   InBothByteOrders([&] {
     std::fill_n(out.Data(), 16, std::uint8_t{0xA5});
-    Bytes damaged = WithChecksum(Hex("01 02 03"));
+    Bytes damaged = Checked(Hex("01 02 03"));
     damaged[1] ^= 1;
     EXPECT_EQ(read(damaged), Result::ChecksumMismatch);
     EXPECT_THAT(LogText(), ElementsAre("Read Product Info", "Clear Port Buffer"));
@@ -147,13 +156,12 @@ TEST_F(HandsetAnswers, WithProductionBlocksAreCheckedBeforeTheyAreDelivered) {
     EXPECT_THAT(LogText(), Contains(ResultLine(Result::WrongDataLength)));
     EXPECT_EQ(read(Hex("00 00")), Result::Success) << "the checksum of nothing";
     EXPECT_EQ(length, 0u);
-    EXPECT_EQ(read(WithChecksum(Bytes(998, 7))), Result::BufferTooSmall);
+    EXPECT_EQ(read(Checked(Bytes(998, 7))), Result::BufferTooSmall);
     EXPECT_EQ(length, 998u);
-    EXPECT_EQ(read(WithChecksum(Bytes(999, 7))), Result::ChecksumMismatch)
-        << "cut behind its place";
+    EXPECT_EQ(read(Checked(Bytes(999, 7))), Result::ChecksumMismatch) << "cut after its place";
   });
   GuardedBuffer<std::uint8_t> small(4);
-  Answered(96, 0x81, 1, WithChecksum(Hex("01 02 03 04 05")));
+  Answered(96, 0x81, 1, Checked(Hex("01 02 03 04 05")));
   EXPECT_EQ(FastReadVerSion(phone, small.Data(), 4, &length), Result::BufferTooSmall);
   EXPECT_EQ(length, 5u);
   EXPECT_EQ(small.Hex(4), "01 02 03 04");

@@ -1,5 +1,4 @@
 #include "declared/phone_mode.h"
-
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -154,6 +153,10 @@ TEST_F(AtCommand, TheServingCellReadsAsManyNumbersAsThereAre) {
   Give("AT+CCED=0,1\r\n", {"ERROR\r\nOK\r\n"});
   EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::NoUsefulData);
   EXPECT_TRUE(cell.Untouched());
+  ExpectAt("AT+CCED=0,1\r\n").Silent();
+  const std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::NoData);
+  EXPECT_EQ(clock.NowMs() - before, 2000u);
   static_cast<void>(Log());
   Give("AT+CCED=0,1\r\n", {"\r\n+CCED:1,-2,3\r\nOK\r\n"});
   EXPECT_EQ(commands::GetCurrCellInfo(phone, cell.Data()), Result::Success);

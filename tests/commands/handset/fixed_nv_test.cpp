@@ -1,8 +1,7 @@
-#include "commands/handset/fixed_nv.h"
-
 #include <cstring>
 
 #include "commands/crc16.h"
+#include "declared/identity.h"
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -34,10 +33,10 @@ struct TextField {
 const TextField kTextFields[] = {
     {0x01, &Info::write_imei1, &Info::imei1, kImei, 0, kPackedImei, true},
     {0x02, &Info::write_imei2, &Info::imei2, kImei, 8, kPackedImei, true},
-    {0x04, &Info::write_bluetooth_address, &Info::bluetooth_address, "0011223344aA", 16,
-     "AA 44 33 22 11 00", true},
-    {0x40, &Info::write_second_address, &Info::second_address, "0011223344AA", 66,
-     "00 11 22 33 44 AA", false},
+    {0x04, &Info::write_bluetooth_address, &Info::bluetooth_address, "0911223344aA", 16,
+     "AA 44 33 22 11 09", true},
+    {0x40, &Info::write_second_address, &Info::second_address, "0011229344AA", 66,
+     "00 11 22 93 44 AA", false},
     {0x10, &Info::write_imei3, &Info::imei3, kImei, 74, kPackedImei, false},
     {0x20, &Info::write_imei4, &Info::imei4, kImei, 82, kPackedImei, false}};
 
@@ -49,11 +48,12 @@ struct FixedNv : CommandFixture {
     std::memset(info.*field.text, '9', 16);
     std::memcpy(info.*field.text, text.data(), text.size());
   }
+  Bytes Checked(const Bytes& block) { return WithChecksum(phone.link.Order(), block); }
   // The block with these bytes at that offset, and its checksum.
-  static Bytes Block(std::size_t offset, const Bytes& bytes) {
+  Bytes Block(std::size_t offset, const Bytes& bytes) {
     Bytes block(106);
     std::copy(bytes.begin(), bytes.end(), block.begin() + static_cast<std::ptrdiff_t>(offset));
-    return WithChecksum(block);
+    return Checked(block);
   }
   void ExpectWritten(std::uint8_t mask, const Bytes& payload) {
     handset.Expect(94, mask, payload).Answer(94, 1);
@@ -65,19 +65,19 @@ struct FixedNv : CommandFixture {
     return FastReadNvInfo(phone, &info);
   }
   Bytes Answered() {
-    return WithChecksum(handset.Message()
-                            .Raw(kPackedImei)
-                            .Raw("4A 09 51 24 30 32 57 F1")  // a damaged last digit
-                            .Raw("AA 44 33 22 11 00")
-                            .Raw(Bytes(24, 1))
-                            .U32(0x01020304)
-                            .Raw(Bytes(16, 2))
-                            .Raw("0A 0B 0C 0D 0E 0F")
-                            .Zeros(2)
-                            .Raw(kPackedImei)
-                            .Raw("0A 00 00 00 00 00 00 10")
-                            .Zeros(16)
-                            .Get());
+    return Checked(handset.Message()
+                       .Raw(kPackedImei)
+                       .Raw("4A 09 51 24 30 32 57 F1")  // a damaged last digit
+                       .Raw("AA 44 33 22 11 00")
+                       .Raw(Bytes(24, 1))
+                       .U32(0x01020304)
+                       .Raw(Bytes(16, 2))
+                       .Raw("0A 0B 9C 0D 0E 0F")
+                       .Zeros(2)
+                       .Raw(kPackedImei)
+                       .Raw("0A 00 00 00 00 00 00 10")
+                       .Zeros(16)
+                       .Get());
   }
 
   GuardedBuffer<Info> record;
@@ -149,7 +149,7 @@ TEST_F(FixedNv, ReadFillsTextsAndLeavesTheFlags) {
     EXPECT_STREQ(info.imei3, kImei);
     EXPECT_STREQ(info.imei4, "000000000000001");
     EXPECT_STREQ(info.bluetooth_address, "0011223344AA");
-    EXPECT_STREQ(info.second_address, "0A0B0C0D0E0F");
+    EXPECT_STREQ(info.second_address, "0A0B9C0D0E0F");
     EXPECT_EQ(ToHex(std::span(info.parameter_block).subspan(23, 6)), "01 04 03 02 01 02");
     EXPECT_EQ(info.write_imei1, 0x55555555u);
     EXPECT_EQ(info.write_second_address, 0x55555555u);
@@ -181,11 +181,11 @@ TEST_F(FixedNv, ReadOfADamagedOrEmptyBlockLeavesTheRecordAndTheLog) {
 TEST_F(FixedNv, ReadOfABlockOfAnotherLengthTakesWhatIsThere) {
   Bytes block = Answered();
   block.resize(108);
-  EXPECT_EQ(Read(WithChecksum(block)), Result::Success);
+  EXPECT_EQ(Read(Checked(block)), Result::Success);
   block.resize(109);
-  EXPECT_EQ(Read(WithChecksum(block)), Result::BufferTooSmall);
+  EXPECT_EQ(Read(Checked(block)), Result::BufferTooSmall);
   EXPECT_STREQ(info.imei1, kImei);
-  EXPECT_EQ(Read(WithChecksum(Hex("4A 09"))), Result::Success);
+  EXPECT_EQ(Read(Checked(Hex("4A 09"))), Result::Success);
   EXPECT_STREQ(info.bluetooth_address, "000000000000");
   EXPECT_EQ(std::string(info.imei1, 3), "490");
 }

@@ -1,6 +1,5 @@
-#include "commands/handset/serial_number.h"
-
 #include "commands/crc16.h"
+#include "declared/identity.h"
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -34,6 +33,7 @@ struct SerialNumber : CommandFixture {
   using ReadFunction = Result(Phone&, std::uint8_t*, std::uint32_t);
   using WriteFunction = Result(Phone&, const std::uint8_t*, std::uint32_t);
 
+  Bytes Checked(const Bytes& block) { return WithChecksum(phone.link.Order(), block); }
   Exchange& ExpectRead(unsigned bytes) {
     return handset.Expect(13, 2, handset.Message().U16(0).U16(bytes));
   }
@@ -52,12 +52,12 @@ struct SerialNumber : CommandFixture {
     ExpectRead(4).Answer(13, 0, ItemAnswer(Hex(kBlockMagic), 4));
     return handset.Expect(95, 0x81, "00 00");
   }
-  void GiveBlock(const Bytes& stored) { ExpectBlockRead().Answer(95, 1, WithChecksum(stored)); }
+  void GiveBlock(const Bytes& stored) { ExpectBlockRead().Answer(95, 1, Checked(stored)); }
   Exchange& ExpectItem(const Bytes& stored) {
     return handset.Expect(13, 3, handset.Message().U16(0).U16(kItemBytes).Raw(stored));
   }
   void TakeItem(const Bytes& stored) { ExpectItem(stored).Answer(13, 0); }
-  void TakeBlock(const Bytes& stored) { handset.Expect(95, 1, WithChecksum(stored)).Answer(95, 1); }
+  void TakeBlock(const Bytes& stored) { handset.Expect(95, 1, Checked(stored)).Answer(95, 1); }
   void ReadsField(ReadFunction& read, const Bytes& storage, std::size_t offset) {
     EXPECT_EQ(read(phone, out.Data(), 24), Result::Success);
     EXPECT_EQ(out.Hex(24), ToHex(std::span(storage).subspan(offset, 24)));
@@ -185,7 +185,7 @@ TEST_F(SerialNumber, IsNotWrittenAfterAReadThatFailedOrCameShort) {
   expectWholeRead().Answer(13, 0, Joined(ItemAnswer(item, kItemBytes), Hex("00")));
   EXPECT_EQ(Write(), Result::BufferTooSmall);
 
-  Bytes cut = WithChecksum(block);
+  Bytes cut = Checked(block);
   cut.pop_back();
   ExpectBlockRead().Answer(95, 1, cut);
   EXPECT_EQ(Write(), Result::ChecksumMismatch);
@@ -203,6 +203,9 @@ TEST_F(SerialNumber, WaitsAsLongAsEachStepIsGiven) {
     before = clock.NowMs();
   };
   ExpectRead(4).Silent();
+  waited(ReadSN(phone, out.Data(), 24), 4000);
+  ExpectRead(4).Answer(13, 0, ItemAnswer(item, 4));
+  ExpectRead(216).Silent();
   waited(ReadSN(phone, out.Data(), 24), 4000);
   ExpectRead(4).Answer(13, 0, ItemAnswer(item, 4));
   ExpectRead(kItemBytes).Silent();
