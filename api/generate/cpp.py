@@ -241,14 +241,7 @@ def declared_source(api, unit):
 def legacy_call(export):
     declaration = export.declaration
     names = [camel(argument.name) for argument in declaration.arguments]
-    if declaration.kind == "command":
-        call = f"commands::{declaration.name}({', '.join(['phone'] + names)})"
-    else:
-        function = declaration.name.replace("_", "").replace("Bianry", "Binary").replace("VersionTD", "VersionTd")
-        project = "phone.project" if "holder" in declaration.flags else "phone.project.get()"
-        context = ["library::ImageContextNow()"] if "image" in declaration.flags else []
-        call = (f"library::RunProjectOperation({declaration.operation}, [&] {{ "
-                f"return nvproject::{function}({', '.join([project] + names + context)}); }})")
+    call = f"commands::{declaration.name}({', '.join(['phone'] + names)})"
     frame = "OnPhone(port, " if export.twin else "OnDefaultPhone("
     return f"library::{frame}[&](auto& phone) {{ return {call}; }})"
 

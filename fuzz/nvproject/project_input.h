@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "nvproject/commands.h"
+#include "declared/nv_project.h"
 #include "nvproject/project_text.h"
 
 namespace merovane::nvproject::fuzzing {
@@ -52,12 +52,12 @@ inline void RunProjectInput(std::string_view input) {
     parser.ItemOffset(path);
     parser.ConvertBlock(path, block);
     const ImageContext context{i % 2 == 0 ? ByteOrder::Big() : ByteOrder::Little(), i};
-    if (i < 4) GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, context);
+    if (i < 4) GenerateNvBianryDataBlockInMemory(&parser, context, image.data(), &length);
   }
   std::array<std::uint16_t, 91> words{};
-  GetNvValueAgc(&parser, words.data(), words.data(), words.data(), 3);
-  SetNvValueAgc(&parser, words.data(), 1, words.data(), 3);
-  GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, {});
+  GetNvValue_Agc(&parser, words.data(), words.data(), words.data(), 3);
+  SetNvValue_Agc(&parser, words.data(), 1, words.data(), 3);
+  GenerateNvBianryDataBlockInMemory(&parser, {}, image.data(), &length);
   ProjectText(parser.Project(), parser.Modules());
   for (std::size_t i = 0; i < parser.Modules().size(); ++i) {
     ModuleText(parser.Modules()[i], items, i);

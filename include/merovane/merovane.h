@@ -4466,22 +4466,25 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
 /* ---- NV projects --------------------------------------------------------------------- */
 
 /** Opens an NV project in place of the one that the phone object holds, if any. An NV project
- * belongs to a phone object. The functions that work on it give 17 while none is open, and send
- * nothing.
+ * belongs to a phone object. The functions that work on it send nothing.
  * @param path  of the project file, in the system's narrow encoding; its module files are read with
- *   it. `path` must have a directory part ("./p.prj"): without one, reading stops at the first
- *   TARGET or MODULE line that is not absolute, and the result is 0 with the modules read so far,
- *   mostly none
+ *   it. It has a directory part ("./p.prj"): without one, reading stops at the first TARGET or
+ *   MODULE line that is not absolute, with PC_ERR_SUCCESS and the modules read so far, mostly none.
+ *   Absolute is a path with a drive or a share's name on Windows, and one with a leading "/"
+ *   elsewhere
  * @retval PC_ERR_INVALID_PARAM  `path` is null
+ * @retval PC_ERR_OPEN_NV_PROJECT_FAILED  the project names no module, or it or one of its modules
+ *   cannot be read: no project is open then
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile(MEROVANE_IN_TEXT const char *path);
 
 /** QV_OpenPrjFile for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  of the project file, in the system's narrow encoding; its module files are read with
- *   it. `path` must have a directory part ("./p.prj"): without one, reading stops at the first
- *   TARGET or MODULE line that is not absolute, and the result is 0 with the modules read so far,
- *   mostly none */
+ *   it. It has a directory part ("./p.prj"): without one, reading stops at the first TARGET or
+ *   MODULE line that is not absolute, with PC_ERR_SUCCESS and the modules read so far, mostly none.
+ *   Absolute is a path with a drive or a share's name on Windows, and one with a leading "/"
+ *   elsewhere */
 MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile_MT(
     int32_t port, MEROVANE_IN_TEXT const char *path);
 
@@ -4497,228 +4500,244 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
 /** Reads an item's content as text.
  * @param module  not used: the first item of that path in load order answers
  * @param path  full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
- * @param text  exactly `capacity` bytes are written: the text, cut to fit, then zeros. A text of
- *   `capacity` characters or more has no terminating zero
- * @param capacity  bytes at `text`; 256 hold every text
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @param text  all of the room is written: the content, cut to fit, then zeros. A content that
+ *   fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS (`capacity` bytes)
+ * @param capacity  room at `text`; 256 hold every content (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue(
-    uint32_t module, MEROVANE_IN_TEXT const char *path, MEROVANE_OUT char *text,
-    uint32_t capacity) MEROVANE_WRITES(3);
+    uint32_t module, MEROVANE_IN_TEXT const char *path, MEROVANE_OUT_N(capacity) char *text,
+    uint32_t capacity) MEROVANE_WRITES_N(3, 4);
 
 /** QV_GetNvValue for the port `port`, with the same results. Reads an item's content as text.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param module  not used: the first item of that path in load order answers
  * @param path  full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
- * @param text  exactly `capacity` bytes are written: the text, cut to fit, then zeros. A text of
- *   `capacity` characters or more has no terminating zero
- * @param capacity  bytes at `text`; 256 hold every text */
+ * @param text  all of the room is written: the content, cut to fit, then zeros. A content that
+ *   fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS (`capacity` bytes)
+ * @param capacity  room at `text`; 256 hold every content (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_MT(
-    int32_t port, uint32_t module, MEROVANE_IN_TEXT const char *path, MEROVANE_OUT char *text,
-    uint32_t capacity) MEROVANE_WRITES(4);
+    int32_t port, uint32_t module, MEROVANE_IN_TEXT const char *path,
+    MEROVANE_OUT_N(capacity) char *text, uint32_t capacity) MEROVANE_WRITES_N(4, 5);
 
-/** Replaces an item's content.
- * @param module
- * @param path
- * @param text  a block of 256 bytes; at most 255 characters, up to the first zero, are stored.
- *   Numbers are decimal or, with an "x" in them, hexadecimal
+/** Replaces an item's content in memory.
+ * @param module  not used, as in QV_GetNvValue
+ * @param path  as in QV_GetNvValue
+ * @param text  up to its zero; of a longer one the first 255 characters. Numbers are decimal or,
+ *   with an "x" in them, hexadecimal. What the item's type does not hold is taken all the same
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue(
     uint32_t module, MEROVANE_IN_TEXT const char *path, MEROVANE_IN_TEXT const char *text);
 
-/** QV_SetNvValue for the port `port`, with the same results. Replaces an item's content.
+/** QV_SetNvValue for the port `port`, with the same results. Replaces an item's content in memory.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param module
- * @param path
- * @param text  a block of 256 bytes; at most 255 characters, up to the first zero, are stored.
- *   Numbers are decimal or, with an "x" in them, hexadecimal */
+ * @param module  not used, as in QV_GetNvValue
+ * @param path  as in QV_GetNvValue
+ * @param text  up to its zero; of a longer one the first 255 characters. Numbers are decimal or,
+ *   with an "x" in them, hexadecimal. What the item's type does not hold is taken all the same */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
     int32_t port, uint32_t module, MEROVANE_IN_TEXT const char *path,
     MEROVANE_IN_TEXT const char *text);
 
-/** Builds the NV image.
- * @param buffer  65,536 bytes; those behind the image become zero
- * @param length  bytes of the image
+/** Builds the NV image: a time stamp, then every top-level item with its id, length and data.
+ * @param buffer  takes the image; what follows it becomes zero (65536 bytes)
+ * @param length  of the image in bytes
  * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the image would be larger: nothing is written
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory(
-    MEROVANE_OUT void *buffer,
+    MEROVANE_OUT_N(65536) void *buffer,
     MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
 /** QV_GenerateNvBianryDataBlockInMemory for the port `port`, with the same results. Builds the NV
- * image.
+ * image: a time stamp, then every top-level item with its id, length and data.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param buffer  65,536 bytes; those behind the image become zero
- * @param length  bytes of the image */
+ * @param buffer  takes the image; what follows it becomes zero (65536 bytes)
+ * @param length  of the image in bytes */
 MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
-    int32_t port, MEROVANE_OUT void *buffer,
+    int32_t port, MEROVANE_OUT_N(65536) void *buffer,
     MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
 /** Builds the NV image into the project's TARGET file. For the default phone object only.
+ * @retval PC_ERR_SUCCESS  also when the file cannot be written, or the project names none: a
+ *   message box tells
+ * @retval PC_ERR_BUFFER_TOO_SMALL  the image would pass 65,536 bytes: the file is left as it was
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToBinaryFile(void);
 
-/** Tells where an item's data stand: for a CHAR, SHORT or LONG member or element its place in its
- * top-level item's data; 0 for a top-level scalar or array. For a structure, and for an array
- * inside one, it tells the widest alignment (0, 1, 2 or 4): ask for its first element.
+/** Tells where an item's data stand.
  * @param path  letter case counts
- * @param offset  in bytes. No size is told, whatever the name says
+ * @param offset  in bytes. For a CHAR, SHORT or LONG member or element the place in its top-level
+ *   item's data; 0 for a top-level scalar or array. For a structure, and for an array inside one,
+ *   the widest alignment (0, 1, 2 or 4): ask for its first element. No size is told, whatever the
+ *   function's name says
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize(
     MEROVANE_IN_TEXT const char *path, MEROVANE_OUT uint32_t *offset) MEROVANE_WRITES(2);
 
-/** QV_GetItemOffsetAndSize for the port `port`, with the same effect and results.
+/** QV_GetItemOffsetAndSize for the port `port`, with the same results. Tells where an item's data
+ * stand.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  letter case counts
- * @param offset  in bytes. No size is told, whatever the name says */
+ * @param offset  in bytes. For a CHAR, SHORT or LONG member or element the place in its top-level
+ *   item's data; 0 for a top-level scalar or array. For a structure, and for an array inside one,
+ *   the widest alignment (0, 1, 2 or 4): ask for its first element. No size is told, whatever the
+ *   function's name says */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
     int32_t port, MEROVANE_IN_TEXT const char *path,
     MEROVANE_OUT uint32_t *offset) MEROVANE_WRITES(3);
 
 /** Reverses the byte order of 16- and 32-bit values in a block, as the items from `path` on say.
- * Only values that lie without a gap behind one another are converted: convert each run between
- * padding by itself. A structure or array inside the run can count as a byte as well.
+ * Only values that lie without a gap between them are converted: convert each run between padding
+ * by itself. A structure or array inside the run can count as a byte as well.
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
- * @param data
- * @param length  bytes at `data`
- * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @param data  converted in place (`length` bytes)
+ * @param length  how many bytes (above 0)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` of 0
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType(
-    MEROVANE_IN_TEXT const char *path, MEROVANE_OUT void *data,
-    uint32_t length) MEROVANE_WRITES(2);
+    MEROVANE_IN_TEXT const char *path, MEROVANE_INOUT_N(length) void *data,
+    uint32_t length) MEROVANE_UPDATES_N(2, 3);
 
 /** QV_ConvertDataByDataType for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
- * @param data
- * @param length  bytes at `data` */
+ * @param data  converted in place (`length` bytes)
+ * @param length  how many bytes (above 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType_MT(
-    int32_t port, MEROVANE_IN_TEXT const char *path, MEROVANE_OUT void *data,
-    uint32_t length) MEROVANE_WRITES(3);
+    int32_t port, MEROVANE_IN_TEXT const char *path, MEROVANE_INOUT_N(length) void *data,
+    uint32_t length) MEROVANE_UPDATES_N(3, 4);
 
 /* ---- NV projects: calibration parameters --------------------------------------------- */
 
-/** Reads a band's AGC words, gain index and receive boundaries.
- * @param agc_words  91 values
- * @param gain_index  one value
- * @param rx_boundary  4 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
+/** Reads a band's AGC words, gain index and receive boundaries. Of an array's elements that the
+ * project lacks, each repeats the one before; other values that it lacks are 0. So do the other
+ * functions that read calibration parameters.
+ * @param agc_words  as the items have them (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param rx_boundary  channel numbers (4 values)
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc(
-    MEROVANE_OUT uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
-    MEROVANE_OUT uint16_t *rx_boundary,
+    MEROVANE_OUT_N(91) uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
+    MEROVANE_OUT_N(4) uint16_t *rx_boundary,
     uint32_t band) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
-/** QV_GetNvValue_Agc for the port `port`, with the same results. Reads a band's AGC words, gain
- * index and receive boundaries.
+/** QV_GetNvValue_Agc for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param agc_words  91 values
- * @param gain_index  one value
- * @param rx_boundary  4 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS */
+ * @param agc_words  as the items have them (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param rx_boundary  channel numbers (4 values)
+ * @param band  a QV_NV_BAND (0 to 3) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc_MT(
-    int32_t port, MEROVANE_OUT uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
-    MEROVANE_OUT uint16_t *rx_boundary,
+    int32_t port, MEROVANE_OUT_N(91) uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
+    MEROVANE_OUT_N(4) uint16_t *rx_boundary,
     uint32_t band) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4);
 
 /** Writes a band's AGC words, gain index and receive compensation. The gain indices of GSM, DCS and
  * GSM850 are written with it, with the values last read by QV_GetNvValue_Agc or written by
- * QV_SetNvValue_Agc in this project, 0 before that.
- * @param agc_words  91 values
- * @param gain_index
- * @param rx_compensation  5 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
+ * QV_SetNvValue_Agc in this project, 0 before that. What the project lacks is not written, here and
+ * in the other functions that write calibration parameters.
+ * @param agc_words  as QV_GetNvValue_Agc reads them (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param rx_compensation  between the receive boundaries (5 values)
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc(
-    MEROVANE_IN const uint16_t *agc_words, uint16_t gain_index,
-    MEROVANE_IN const uint16_t *rx_compensation,
+    MEROVANE_IN_N(91) const uint16_t *agc_words, uint16_t gain_index,
+    MEROVANE_IN_N(5) const uint16_t *rx_compensation,
     uint32_t band) MEROVANE_READS(1) MEROVANE_READS(3);
 
 /** QV_SetNvValue_Agc for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param agc_words  91 values
- * @param gain_index
- * @param rx_compensation  5 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS */
+ * @param agc_words  as QV_GetNvValue_Agc reads them (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param rx_compensation  between the receive boundaries (5 values)
+ * @param band  a QV_NV_BAND (0 to 3) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc_MT(
-    int32_t port, MEROVANE_IN const uint16_t *agc_words, uint16_t gain_index,
-    MEROVANE_IN const uint16_t *rx_compensation,
+    int32_t port, MEROVANE_IN_N(91) const uint16_t *agc_words, uint16_t gain_index,
+    MEROVANE_IN_N(5) const uint16_t *rx_compensation,
     uint32_t band) MEROVANE_READS(2) MEROVANE_READS(4);
 
 /** Reads a band's ramp tables, transmit boundaries and step factors. For GSM the two ramp-down
  * tables come in each other's place.
- * @param ramp_up_stage0  16 values, as are the next three
- * @param ramp_up_stage1
- * @param ramp_down_stage0
- * @param ramp_down_stage1
- * @param tx_boundary  4 values
- * @param step_factor  80 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS
- * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
+ * @param ramp_up_stage0  ramp table (16 values)
+ * @param ramp_up_stage1  ramp table (16 values)
+ * @param ramp_down_stage0  ramp table; for GSM that of stage 1 (16 values)
+ * @param ramp_down_stage1  ramp table; for GSM that of stage 0 (16 values)
+ * @param tx_boundary  channel numbers (4 values)
+ * @param step_factor  as the items have them (80 values)
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc(
-    MEROVANE_OUT uint16_t *ramp_up_stage0, MEROVANE_OUT uint16_t *ramp_up_stage1,
-    MEROVANE_OUT uint16_t *ramp_down_stage0, MEROVANE_OUT uint16_t *ramp_down_stage1,
-    MEROVANE_OUT uint16_t *tx_boundary, MEROVANE_OUT uint16_t *step_factor,
+    MEROVANE_OUT_N(16) uint16_t *ramp_up_stage0, MEROVANE_OUT_N(16) uint16_t *ramp_up_stage1,
+    MEROVANE_OUT_N(16) uint16_t *ramp_down_stage0, MEROVANE_OUT_N(16) uint16_t *ramp_down_stage1,
+    MEROVANE_OUT_N(4) uint16_t *tx_boundary, MEROVANE_OUT_N(80) uint16_t *step_factor,
     uint32_t band) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6);
 
 /** QV_GetNvValue_Apc for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param ramp_up_stage0  16 values, as are the next three
- * @param ramp_up_stage1
- * @param ramp_down_stage0
- * @param ramp_down_stage1
- * @param tx_boundary  4 values
- * @param step_factor  80 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS */
+ * @param ramp_up_stage0  ramp table (16 values)
+ * @param ramp_up_stage1  ramp table (16 values)
+ * @param ramp_down_stage0  ramp table; for GSM that of stage 1 (16 values)
+ * @param ramp_down_stage1  ramp table; for GSM that of stage 0 (16 values)
+ * @param tx_boundary  channel numbers (4 values)
+ * @param step_factor  as the items have them (80 values)
+ * @param band  a QV_NV_BAND (0 to 3) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc_MT(
-    int32_t port, MEROVANE_OUT uint16_t *ramp_up_stage0, MEROVANE_OUT uint16_t *ramp_up_stage1,
-    MEROVANE_OUT uint16_t *ramp_down_stage0, MEROVANE_OUT uint16_t *ramp_down_stage1,
-    MEROVANE_OUT uint16_t *tx_boundary, MEROVANE_OUT uint16_t *step_factor,
+    int32_t port, MEROVANE_OUT_N(16) uint16_t *ramp_up_stage0,
+    MEROVANE_OUT_N(16) uint16_t *ramp_up_stage1, MEROVANE_OUT_N(16) uint16_t *ramp_down_stage0,
+    MEROVANE_OUT_N(16) uint16_t *ramp_down_stage1, MEROVANE_OUT_N(4) uint16_t *tx_boundary,
+    MEROVANE_OUT_N(80) uint16_t *step_factor,
     uint32_t band) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6) MEROVANE_WRITES(7);
 
 /** Writes a band's step factors.
- * @param step_factor  80 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS
- * @retval PC_ERR_INVALID_PARAM  `step_factor` is null; another band
+ * @param step_factor  as QV_GetNvValue_Apc reads them (80 values)
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  `step_factor` is null; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc(
-    MEROVANE_IN const uint16_t *step_factor, uint32_t band) MEROVANE_READS(1);
+    MEROVANE_IN_N(80) const uint16_t *step_factor, uint32_t band) MEROVANE_READS(1);
 
 /** QV_SetNvValue_Apc for the port `port`, with the same results. Writes a band's step factors.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step_factor  80 values
- * @param band  0 GSM, 1 GSM850, 2 DCS, 3 PCS */
+ * @param step_factor  as QV_GetNvValue_Apc reads them (80 values)
+ * @param band  a QV_NV_BAND (0 to 3) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc_MT(
-    int32_t port, MEROVANE_IN const uint16_t *step_factor, uint32_t band) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(80) const uint16_t *step_factor, uint32_t band) MEROVANE_READS(2);
 
 /** Reads a band's step factors. For the default phone object only.
- * @param step_factor  80 values
- * @param band  0 GSM, 1 DCS, 3 PCS, 4 GSM850 (not as elsewhere); another one reads nothing
- * @retval PC_ERR_INVALID_PARAM  `step_factor` is null; another band
+ * @param step_factor  as QV_GetNvValue_Apc reads them (80 values)
+ * @param band  not as elsewhere: 0 GSM, 1 DCS, 3 PCS, 4 GSM850; another one reads nothing, with
+ *   PC_ERR_SUCCESS
+ * @retval PC_ERR_INVALID_PARAM  `step_factor` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Factor(
-    MEROVANE_OUT uint16_t *step_factor, uint32_t band) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(80) uint16_t *step_factor, uint32_t band) MEROVANE_WRITES(1);
 
 /** Reads the version of the calibration parameters.
- * @param version
+ * @param version  as the item has it, read as hexadecimal
  * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4728,95 +4747,97 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion(
 /** QV_GetNvValue_NvVersion for the port `port`, with the same results. Reads the version of the
  * calibration parameters.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param version */
+ * @param version  as the item has it, read as hexadecimal */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_MT(
     int32_t port, MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(2);
 
-/** Reads the same version.
- * @param version
+/** Reads the same version as QV_GetNvValue_NvVersion.
+ * @param version  as the item has it, read as hexadecimal
  * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD(
     MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(1);
 
-/** QV_GetNvValue_NvVersion_TD for the port `port`, with the same results. Reads the same version.
+/** QV_GetNvValue_NvVersion_TD for the port `port`, with the same results. Reads the same version as
+ * QV_GetNvValue_NvVersion.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param version */
+ * @param version  as the item has it, read as hexadecimal */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD_MT(
     int32_t port, MEROVANE_OUT uint16_t *version) MEROVANE_WRITES(2);
 
-/** Reads the ADC's and the battery's calibration points.
- * @param adc  2 values
- * @param battery  2 values
+/** Reads the calibration points of the ADC and of the battery. A second point that the project
+ * lacks is the first one.
+ * @param adc  the ADC's points (2 values)
+ * @param battery  the battery's points (2 values)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1(
-    MEROVANE_OUT uint32_t *adc,
-    MEROVANE_OUT uint32_t *battery) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
+    MEROVANE_OUT_N(2) uint32_t *adc,
+    MEROVANE_OUT_N(2) uint32_t *battery) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
-/** QV_GetNvValue_Adc_1 for the port `port`, with the same results. Reads the ADC's and the
- * battery's calibration points.
+/** QV_GetNvValue_Adc_1 for the port `port`, with the same results. Reads the calibration points of
+ * the ADC and of the battery. A second point that the project lacks is the first one.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param adc  2 values
- * @param battery  2 values */
+ * @param adc  the ADC's points (2 values)
+ * @param battery  the battery's points (2 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1_MT(
-    int32_t port, MEROVANE_OUT uint32_t *adc,
-    MEROVANE_OUT uint32_t *battery) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
+    int32_t port, MEROVANE_OUT_N(2) uint32_t *adc,
+    MEROVANE_OUT_N(2) uint32_t *battery) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
-/** Writes the ADC's and the battery's calibration points, 2 values each.
- * @param adc
- * @param battery
+/** Writes the calibration points of the ADC and of the battery.
+ * @param adc  the ADC's points (2 values)
+ * @param battery  the battery's points (2 values)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1(
-    MEROVANE_IN const uint32_t *adc,
-    MEROVANE_IN const uint32_t *battery) MEROVANE_READS(1) MEROVANE_READS(2);
+    MEROVANE_IN_N(2) const uint32_t *adc,
+    MEROVANE_IN_N(2) const uint32_t *battery) MEROVANE_READS(1) MEROVANE_READS(2);
 
-/** QV_SetNvValue_Adc_1 for the port `port`, with the same results. Writes the ADC's and the
- * battery's calibration points, 2 values each.
+/** QV_SetNvValue_Adc_1 for the port `port`, with the same results. Writes the calibration points of
+ * the ADC and of the battery.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param adc
- * @param battery */
+ * @param adc  the ADC's points (2 values)
+ * @param battery  the battery's points (2 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1_MT(
-    int32_t port, MEROVANE_IN const uint32_t *adc,
-    MEROVANE_IN const uint32_t *battery) MEROVANE_READS(2) MEROVANE_READS(3);
+    int32_t port, MEROVANE_IN_N(2) const uint32_t *adc,
+    MEROVANE_IN_N(2) const uint32_t *battery) MEROVANE_READS(2) MEROVANE_READS(3);
 
 /** Reads the charger's voltage table.
- * @param voltage_table  16 values
+ * @param voltage_table  as the items have it (16 values)
  * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2(
-    MEROVANE_OUT uint16_t *voltage_table) MEROVANE_WRITES(1);
+    MEROVANE_OUT_N(16) uint16_t *voltage_table) MEROVANE_WRITES(1);
 
 /** QV_GetNvValue_Adc_2 for the port `port`, with the same results. Reads the charger's voltage
  * table.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param voltage_table  16 values */
+ * @param voltage_table  as the items have it (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2_MT(
-    int32_t port, MEROVANE_OUT uint16_t *voltage_table) MEROVANE_WRITES(2);
+    int32_t port, MEROVANE_OUT_N(16) uint16_t *voltage_table) MEROVANE_WRITES(2);
 
-/** Writes the charger's voltage table, 16 values.
- * @param voltage_table
+/** Writes the charger's voltage table.
+ * @param voltage_table  as the items have it (16 values)
  * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2(
-    MEROVANE_IN const uint16_t *voltage_table) MEROVANE_READS(1);
+    MEROVANE_IN_N(16) const uint16_t *voltage_table) MEROVANE_READS(1);
 
 /** QV_SetNvValue_Adc_2 for the port `port`, with the same results. Writes the charger's voltage
- * table, 16 values.
+ * table.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param voltage_table */
+ * @param voltage_table  as the items have it (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2_MT(
-    int32_t port, MEROVANE_IN const uint16_t *voltage_table) MEROVANE_READS(2);
+    int32_t port, MEROVANE_IN_N(16) const uint16_t *voltage_table) MEROVANE_READS(2);
 
 /** Reads the AFC centre and slope.
- * @param center
- * @param slope
+ * @param center  the centre
+ * @param slope  in Hz, for a step of 6 bits
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4826,82 +4847,83 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1(
 
 /** QV_GetNvValue_Afc_1 for the port `port`, with the same results. Reads the AFC centre and slope.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param center
- * @param slope */
+ * @param center  the centre
+ * @param slope  in Hz, for a step of 6 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1_MT(
     int32_t port, MEROVANE_OUT uint16_t *center,
     MEROVANE_OUT uint16_t *slope) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
 /** Writes the AFC centre and slope.
- * @param center
- * @param slope
+ * @param center  the centre
+ * @param slope  in Hz, for a step of 6 bits
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1(uint16_t center, uint16_t slope);
 
 /** QV_SetNvValue_Afc_1 for the port `port`, with the same results. Writes the AFC centre and slope.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param center
- * @param slope */
+ * @param center  the centre
+ * @param slope  in Hz, for a step of 6 bits */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1_MT(
     int32_t port, uint16_t center, uint16_t slope);
 
-/** Reads the AFC structure.
- * @param slope_length
- * @param cdac
- * @param cafc
- * @param afc_range  16 values, as are the next two
- * @param slope_value
- * @param slope_reciprocal
+/** Reads the AFC structure, under either spelling that projects have for its name.
+ * @param slope_length  how many of the next three arrays' values count
+ * @param cdac  the CDAC word
+ * @param cafc  the CAFC word
+ * @param afc_range  of each slope (16 values)
+ * @param slope_value  of each range (16 values)
+ * @param slope_reciprocal  of each slope (16 values)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2(
     MEROVANE_OUT uint16_t *slope_length, MEROVANE_OUT uint16_t *cdac, MEROVANE_OUT uint16_t *cafc,
-    MEROVANE_OUT uint16_t *afc_range, MEROVANE_OUT uint16_t *slope_value,
-    MEROVANE_OUT uint16_t *slope_reciprocal) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6);
+    MEROVANE_OUT_N(16) uint16_t *afc_range, MEROVANE_OUT_N(16) uint16_t *slope_value,
+    MEROVANE_OUT_N(16) uint16_t *slope_reciprocal) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6);
 
-/** QV_GetNvValue_Afc_2 for the port `port`, with the same results. Reads the AFC structure.
+/** QV_GetNvValue_Afc_2 for the port `port`, with the same results. Reads the AFC structure, under
+ * either spelling that projects have for its name.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param slope_length
- * @param cdac
- * @param cafc
- * @param afc_range  16 values, as are the next two
- * @param slope_value
- * @param slope_reciprocal */
+ * @param slope_length  how many of the next three arrays' values count
+ * @param cdac  the CDAC word
+ * @param cafc  the CAFC word
+ * @param afc_range  of each slope (16 values)
+ * @param slope_value  of each range (16 values)
+ * @param slope_reciprocal  of each slope (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2_MT(
     int32_t port, MEROVANE_OUT uint16_t *slope_length, MEROVANE_OUT uint16_t *cdac,
-    MEROVANE_OUT uint16_t *cafc, MEROVANE_OUT uint16_t *afc_range,
-    MEROVANE_OUT uint16_t *slope_value,
-    MEROVANE_OUT uint16_t *slope_reciprocal) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6) MEROVANE_WRITES(7);
+    MEROVANE_OUT uint16_t *cafc, MEROVANE_OUT_N(16) uint16_t *afc_range,
+    MEROVANE_OUT_N(16) uint16_t *slope_value,
+    MEROVANE_OUT_N(16) uint16_t *slope_reciprocal) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4) MEROVANE_WRITES(5) MEROVANE_WRITES(6) MEROVANE_WRITES(7);
 
 /** Writes the AFC structure.
- * @param slope_length
- * @param cdac
- * @param cafc
- * @param afc_range  16 values, as are the next two
- * @param slope_value
- * @param slope_reciprocal
+ * @param slope_length  as QV_GetNvValue_Afc_2 reads it, as are the others
+ * @param cdac  the CDAC word
+ * @param cafc  the CAFC word
+ * @param afc_range  of each slope (16 values)
+ * @param slope_value  of each range (16 values)
+ * @param slope_reciprocal  of each slope (16 values)
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2(
-    uint16_t slope_length, uint16_t cdac, uint16_t cafc, MEROVANE_IN const uint16_t *afc_range,
-    MEROVANE_IN const uint16_t *slope_value,
-    MEROVANE_IN const uint16_t *slope_reciprocal) MEROVANE_READS(4) MEROVANE_READS(5) MEROVANE_READS(6);
+    uint16_t slope_length, uint16_t cdac, uint16_t cafc,
+    MEROVANE_IN_N(16) const uint16_t *afc_range, MEROVANE_IN_N(16) const uint16_t *slope_value,
+    MEROVANE_IN_N(16) const uint16_t *slope_reciprocal) MEROVANE_READS(4) MEROVANE_READS(5) MEROVANE_READS(6);
 
 /** QV_SetNvValue_Afc_2 for the port `port`, with the same results. Writes the AFC structure.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param slope_length
- * @param cdac
- * @param cafc
- * @param afc_range  16 values, as are the next two
- * @param slope_value
- * @param slope_reciprocal */
+ * @param slope_length  as QV_GetNvValue_Afc_2 reads it, as are the others
+ * @param cdac  the CDAC word
+ * @param cafc  the CAFC word
+ * @param afc_range  of each slope (16 values)
+ * @param slope_value  of each range (16 values)
+ * @param slope_reciprocal  of each slope (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2_MT(
     int32_t port, uint16_t slope_length, uint16_t cdac, uint16_t cafc,
-    MEROVANE_IN const uint16_t *afc_range, MEROVANE_IN const uint16_t *slope_value,
-    MEROVANE_IN const uint16_t *slope_reciprocal) MEROVANE_READS(5) MEROVANE_READS(6) MEROVANE_READS(7);
+    MEROVANE_IN_N(16) const uint16_t *afc_range, MEROVANE_IN_N(16) const uint16_t *slope_value,
+    MEROVANE_IN_N(16) const uint16_t *slope_reciprocal) MEROVANE_READS(5) MEROVANE_READS(6) MEROVANE_READS(7);
 
 #ifdef __cplusplus
 }

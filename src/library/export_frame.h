@@ -6,7 +6,10 @@
 #include <utility>
 
 #include "library/library.h"
+#include "link/byte_order.h"
 #include "link/result.h"
+#include "nvproject/nv_image.h"
+#include "platform/clock.h"
 
 namespace merovane::library {
 
@@ -61,6 +64,10 @@ std::int32_t OnDefaultProject(std::uint32_t operation, Command&& command) noexce
     TheLibrary().settings.errors.BeginOperation(operation);
     return command(phone.project);
   });
+}
+
+inline nvproject::ImageContext ImageContextNow() {
+  return {CurrentByteOrder(), platform::SystemClock().NowMs()};
 }
 
 }  // namespace merovane::library

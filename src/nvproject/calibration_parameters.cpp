@@ -108,9 +108,6 @@ ItemArray ItemsOf(std::string structure, const ArrayParameter& array) {
 
 }  // namespace
 
-std::size_t CountOf(BandArray array) { return kBandArrays[Number(array)].count; }
-std::size_t CountOf(CommonArray array) { return kCommonArrays[Number(array)].array.count; }
-
 bool HasAreoSpelling(ItemStore& items) {
   const ValueParameter& probe = kCommonValues[Number(CommonValue::SlopeLength)];
   return items.Find(RootPath(probe.root, true).append(probe.path)) != kNoItem;

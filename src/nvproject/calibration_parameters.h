@@ -49,10 +49,6 @@ enum class CommonValue {
   VoltageWarning,
 };
 
-// How many values an array has.
-std::size_t CountOf(BandArray array);
-std::size_t CountOf(CommonArray array);
-
 // Which of the two spellings of the AFC structure's name the items have.
 bool HasAreoSpelling(ItemStore& items);
 

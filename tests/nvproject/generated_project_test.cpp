@@ -85,7 +85,7 @@ TEST_P(GeneratedProject, AgcOfEveryBand) {
   for (std::uint32_t band = 0; band < 4; ++band) {
     Words words(91), boundary(4);
     std::uint16_t gain = 0;
-    ASSERT_EQ(GetNvValueAgc(&parser, words.data(), &gain, boundary.data(), band), Result::Success);
+    ASSERT_EQ(GetNvValue_Agc(&parser, words.data(), &gain, boundary.data(), band), Result::Success);
     EXPECT_EQ(words, Table(BandPath(band) + "agc_ctrl_word", 91));
     EXPECT_EQ(gain, Value(BandPath(band) + "max_rf_gain_index", 16));
     EXPECT_EQ(boundary, Table(BandPath(band) + "RX_compensate_boundary_arfcn_index", 4));
@@ -103,7 +103,7 @@ TEST_P(GeneratedProject, SetAgcWritesTheGainIndicesOfOtherBandsFromTheCache) {
   const Words words = Counted(91, 0x8000), compensation = Counted(5, 0);
   const std::string pcs = gains()[3];
   // Nothing was read yet: the others become 0, PCS is left alone.
-  ASSERT_EQ(SetNvValueAgc(&parser, words.data(), 0x1F, compensation.data(), 1), Result::Success);
+  ASSERT_EQ(SetNvValue_Agc(&parser, words.data(), 0x1F, compensation.data(), 1), Result::Success);
   EXPECT_THAT(gains(), ElementsAre("0X0", "0X1f", "0X0", pcs));
   EXPECT_EQ(Table(BandPath(1) + "agc_ctrl_word", 91), words);
   EXPECT_EQ(Table(BandPath(1) + "RX_compensate_value", 5), compensation);
@@ -112,8 +112,8 @@ TEST_P(GeneratedProject, SetAgcWritesTheGainIndicesOfOtherBandsFromTheCache) {
   ASSERT_TRUE(parser.SetItemContent(0, BandPath(2) + "max_rf_gain_index", "22"));
   Words read(91), boundary(4);
   std::uint16_t index = 0;
-  ASSERT_EQ(GetNvValueAgc(&parser, read.data(), &index, boundary.data(), 0), Result::Success);
-  ASSERT_EQ(SetNvValueAgc(&parser, words.data(), 0xFFFE, compensation.data(), 3), Result::Success);
+  ASSERT_EQ(GetNvValue_Agc(&parser, read.data(), &index, boundary.data(), 0), Result::Success);
+  ASSERT_EQ(SetNvValue_Agc(&parser, words.data(), 0xFFFE, compensation.data(), 3), Result::Success);
   EXPECT_THAT(gains(), ElementsAre("0X0", "0X1f", "0X22", "0Xfffe"));
 }
 
@@ -121,10 +121,10 @@ TEST_P(GeneratedProject, ApcOfEveryBandAndTheCrossingOfGsm) {
   for (std::uint32_t band = 0; band < 4; ++band) {
     SCOPED_TRACE(kBandNames[band]);
     const Words factors = Counted(80, static_cast<std::uint16_t>(band));
-    ASSERT_EQ(SetNvValueApc(&parser, factors.data(), band), Result::Success);
+    ASSERT_EQ(SetNvValue_Apc(&parser, factors.data(), band), Result::Success);
     Words up0(16), up1(16), down0(16), down1(16), boundary(4), factor(80);
-    ASSERT_EQ(GetNvValueApc(&parser, up0.data(), up1.data(), down0.data(), down1.data(),
-                            boundary.data(), factor.data(), band),
+    ASSERT_EQ(GetNvValue_Apc(&parser, up0.data(), up1.data(), down0.data(), down1.data(),
+                             boundary.data(), factor.data(), band),
               Result::Success);
     if (band == 0) std::swap(down0, down1);
     EXPECT_EQ(up0, Ramp(band, "ramp_up_table_stage0"));
@@ -140,7 +140,7 @@ TEST_P(GeneratedProject, FactorHasBandNumbersOfItsOwn) {
   const std::array<std::uint32_t, 5> apcBand = {0, 2, 99, 3, 1};
   for (std::uint32_t band = 0; band < 6; ++band) {
     Words factor(80, 0xEEEE);
-    EXPECT_EQ(GetNvValueFactor(&parser, factor.data(), band), Result::Success);
+    EXPECT_EQ(GetNvValue_Factor(&parser, factor.data(), band), Result::Success);
     const bool read = band != 2 && band != 5;
     EXPECT_EQ(factor, read ? Table(BandPath(apcBand[band]) + "rf_ramppwr_step_factor", 80)
                            : Words(80, 0xEEEE));
@@ -150,28 +150,28 @@ TEST_P(GeneratedProject, FactorHasBandNumbersOfItsOwn) {
 TEST_P(GeneratedProject, AdcChargingAndVersion) {
   std::array<std::uint32_t, 2> adc{}, battery{};
   const std::string points = "calibration_param_T.adc.";
-  ASSERT_EQ(GetNvValueAdc1(&parser, adc.data(), battery.data()), Result::Success);
+  ASSERT_EQ(GetNvValue_Adc_1(&parser, adc.data(), battery.data()), Result::Success);
   EXPECT_THAT(adc, ElementsAre(Value(points + "adc[0]"), Value(points + "adc[1]")));
   EXPECT_EQ(battery[1], Value(points + "battery[1]"));
   const std::array<std::uint32_t, 2> written = {0xFFFFFFFF, 0xabc};
-  ASSERT_EQ(SetNvValueAdc1(&parser, written.data(), battery.data()), Result::Success);
+  ASSERT_EQ(SetNvValue_Adc_1(&parser, written.data(), battery.data()), Result::Success);
   EXPECT_EQ(Content(parser, points + "adc[0]"), "0XFFFFFFFF");
   EXPECT_EQ(Content(parser, points + "adc[1]"), "0XABC");
-  ASSERT_EQ(GetNvValueAdc1(&parser, adc.data(), battery.data()), Result::Success);
+  ASSERT_EQ(GetNvValue_Adc_1(&parser, adc.data(), battery.data()), Result::Success);
   EXPECT_EQ(adc, written);
 
   const std::string charging = "production_param_T.CHR_PARAM_T.";
   Words table(16);
-  ASSERT_EQ(GetNvValueAdc2(&parser, table.data()), Result::Success);
+  ASSERT_EQ(GetNvValue_Adc_2(&parser, table.data()), Result::Success);
   EXPECT_EQ(table, Table(charging + "adc_voltage_table", 16));
   EXPECT_EQ(parser.Calibration().Cached(CommonValue::SwitchVoltage),
             Value(charging + "switch_voltage"));
   table = Counted(16, 9);
-  ASSERT_EQ(SetNvValueAdc2(&parser, table.data()), Result::Success);
+  ASSERT_EQ(SetNvValue_Adc_2(&parser, table.data()), Result::Success);
   EXPECT_EQ(Table(charging + "adc_voltage_table", 16), table);
 
   ASSERT_TRUE(parser.SetItemContent(0, "calibration_param_T.cal_param_version", "123"));
-  for (const auto read : {GetNvValueNvVersion, GetNvValueNvVersionTd}) {
+  for (const auto read : {GetNvValue_NvVersion, GetNvValue_NvVersion_TD}) {
     std::uint16_t version = 0;
     ASSERT_EQ(read(&parser, &version), Result::Success);
     EXPECT_EQ(version, 0x123);
@@ -181,10 +181,10 @@ TEST_P(GeneratedProject, AdcChargingAndVersion) {
 TEST_P(GeneratedProject, AfcUnderTheProjectsSpelling) {
   const std::array<std::string, 2> one = {common + "afc_center", common + "afc_slope_hz_per_6bits"};
   std::uint16_t center = 0, slope = 0;
-  ASSERT_EQ(GetNvValueAfc1(&parser, &center, &slope), Result::Success);
+  ASSERT_EQ(GetNvValue_Afc_1(&parser, &center, &slope), Result::Success);
   EXPECT_EQ(center, static_cast<std::uint16_t>(Value(one[0])));
   EXPECT_EQ(slope, static_cast<std::uint16_t>(Value(one[1])));
-  ASSERT_EQ(SetNvValueAfc1(&parser, 0xABC, 0xFFFF), Result::Success);
+  ASSERT_EQ(SetNvValue_Afc_1(&parser, 0xABC, 0xFFFF), Result::Success);
   EXPECT_EQ(Content(parser, one[0]), "0xabc");
   EXPECT_EQ(Content(parser, one[1]), "0xffff");
 
@@ -194,17 +194,17 @@ TEST_P(GeneratedProject, AfcUnderTheProjectsSpelling) {
                                              afc + "slope_struct.slope_value_reciprocal_arr"};
   std::array<std::uint16_t, 3> value{};
   std::array<Words, 3> table = {Words(16), Words(16), Words(16)};
-  ASSERT_EQ(GetNvValueAfc2(&parser, &value[0], &value[1], &value[2], table[0].data(),
-                           table[1].data(), table[2].data()),
+  ASSERT_EQ(GetNvValue_Afc_2(&parser, &value[0], &value[1], &value[2], table[0].data(),
+                             table[1].data(), table[2].data()),
             Result::Success);
   for (std::size_t at = 0; at < 3; ++at) {
     EXPECT_EQ(value[at], static_cast<std::uint16_t>(Value(values[at])));
     EXPECT_EQ(table[at], Table(tables[at], 16));
     table[at] = Counted(16, static_cast<std::uint16_t>(at));
   }
-  ASSERT_EQ(
-      SetNvValueAfc2(&parser, 0x1A, 0x2B, 0x3C, table[0].data(), table[1].data(), table[2].data()),
-      Result::Success);
+  ASSERT_EQ(SetNvValue_Afc_2(&parser, 0x1A, 0x2B, 0x3C, table[0].data(), table[1].data(),
+                             table[2].data()),
+            Result::Success);
   const std::array<std::string, 3> contents = {"0X1A", "0X2B", "0X3C"};
   for (std::size_t at = 0; at < 3; ++at) {
     EXPECT_EQ(Content(parser, values[at]), contents[at]);
@@ -217,7 +217,7 @@ TEST(MissingParameters, ReadAsZeroAndASecondPointAsTheFirst) {
                              {.name = "adc", .type = kStruct, .parent = 0},
                              {.name = "adc[0]", .type = kLong, .parent = 1, .content = "0x7"}}});
   std::array<std::uint32_t, 2> adc = {1, 1}, battery = {1, 1};
-  ASSERT_EQ(GetNvValueAdc1(parser.get(), adc.data(), battery.data()), Result::Success);
+  ASSERT_EQ(GetNvValue_Adc_1(parser.get(), adc.data(), battery.data()), Result::Success);
   EXPECT_THAT(adc, ElementsAre(7, 7));
   EXPECT_THAT(battery, ElementsAre(0, 0));
 }

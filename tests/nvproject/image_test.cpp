@@ -39,7 +39,7 @@ TEST(Image, HoldsTimeStampHeaderAndValueInEitherOrder) {
   image.resize(kImageCapacity);
   Bytes buffer(kImageCapacity, 0xEE);
   std::uint32_t length = 0;
-  GenerateNvBinaryDataBlockInMemory(parser.get(), buffer.data(), &length, kBig);
+  GenerateNvBianryDataBlockInMemory(parser.get(), kBig, buffer.data(), &length);
   EXPECT_EQ(buffer, image);
   ASSERT_EQ(Generate(*parser, image, kLittle), Result::Success);
   EXPECT_THAT(image, ElementsAre(4, 3, 2, 1, 5, 0, 4, 0, 0x34, 0x12, 0, 0));

@@ -69,7 +69,7 @@ Result Generate(CFileParser& parser, std::vector<std::uint8_t>& image,
                 const ImageContext& context) {
   image.assign(kImageCapacity, 0xEE);
   std::uint32_t length = 77;
-  const Result result = GenerateNvBinaryDataBlockInMemory(&parser, image.data(), &length, context);
+  const Result result = GenerateNvBianryDataBlockInMemory(&parser, context, image.data(), &length);
   if (Succeeded(result)) {
     image.resize(length);
   } else {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "nvproject/commands.h"
+#include "declared/nv_project.h"
 #include "support/temp_directory.h"
 
 namespace merovane::nvproject::testing {

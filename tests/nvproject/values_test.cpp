@@ -126,26 +126,26 @@ TEST(Commands, CheckArgumentsBeforeTheProject) {
   char* const b = bytes.data();
   ExpectChecks(GetNvValue, 0, "a", b, 1);
   ExpectChecks(SetNvValue, 0, "a", "1");
-  ExpectChecks(GenerateNvBinaryDataBlockInMemory, b, d, ImageContext());
+  ExpectChecks(GenerateNvBianryDataBlockInMemory, ImageContext(), b, d);
   ExpectChecks(GetItemOffsetAndSize, "a", d);
-  ExpectChecks(GetNvValueAgc, w, w, w, 3);
-  ExpectChecks(SetNvValueAgc, w, 1, w, 3);
-  ExpectChecks(GetNvValueApc, w, w, w, w, w, w, 3);
-  ExpectChecks(SetNvValueApc, w, 3);
-  ExpectChecks(GetNvValueNvVersion, w);
-  ExpectChecks(GetNvValueNvVersionTd, w);
-  ExpectChecks(GetNvValueAdc1, d, d);
-  ExpectChecks(SetNvValueAdc1, d, d);
-  ExpectChecks(GetNvValueAdc2, w);
-  ExpectChecks(SetNvValueAdc2, w);
-  ExpectChecks(GetNvValueAfc1, w, w);
-  ExpectChecks(SetNvValueAfc1, 1, 2);
-  ExpectChecks(GetNvValueAfc2, w, w, w, w, w, w);
-  ExpectChecks(SetNvValueAfc2, 1, 2, 3, w, w, w);
+  ExpectChecks(GetNvValue_Agc, w, w, w, 3);
+  ExpectChecks(SetNvValue_Agc, w, 1, w, 3);
+  ExpectChecks(GetNvValue_Apc, w, w, w, w, w, w, 3);
+  ExpectChecks(SetNvValue_Apc, w, 3);
+  ExpectChecks(GetNvValue_NvVersion, w);
+  ExpectChecks(GetNvValue_NvVersion_TD, w);
+  ExpectChecks(GetNvValue_Adc_1, d, d);
+  ExpectChecks(SetNvValue_Adc_1, d, d);
+  ExpectChecks(GetNvValue_Adc_2, w);
+  ExpectChecks(SetNvValue_Adc_2, w);
+  ExpectChecks(GetNvValue_Afc_1, w, w);
+  ExpectChecks(SetNvValue_Afc_1, 1, 2);
+  ExpectChecks(GetNvValue_Afc_2, w, w, w, w, w, w);
+  ExpectChecks(SetNvValue_Afc_2, 1, 2, 3, w, w, w);
   for (const Result result :
-       {GetNvValue(nullptr, 0, "a", b, 0), GetNvValueAgc(nullptr, w, w, w, 4),
-        SetNvValueAgc(nullptr, w, 1, w, 0xFFFFFFFF), GetNvValueApc(nullptr, w, w, w, w, w, w, 4),
-        SetNvValueApc(nullptr, w, 4)}) {
+       {GetNvValue(nullptr, 0, "a", b, 0), GetNvValue_Agc(nullptr, w, w, w, 4),
+        SetNvValue_Agc(nullptr, w, 1, w, 0xFFFFFFFF), GetNvValue_Apc(nullptr, w, w, w, w, w, w, 4),
+        SetNvValue_Apc(nullptr, w, 4)}) {
     EXPECT_EQ(result, Result::InvalidParam);
   }
 }
@@ -159,9 +159,9 @@ TEST(Commands, ThatCheckTheProjectFirst) {
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", nullptr, 1), Result::InvalidParam);
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 0), Result::InvalidParam);
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 1), Result::Success);
-  EXPECT_EQ(GetNvValueFactor(nullptr, nullptr, 2), Result::NvProjectNotOpen);
-  EXPECT_EQ(GetNvValueFactor(project.get(), nullptr, 2), Result::InvalidParam);
-  EXPECT_EQ(GetNvValueFactor(project.get(), words.data(), 4), Result::Success);
+  EXPECT_EQ(GetNvValue_Factor(nullptr, nullptr, 2), Result::NvProjectNotOpen);
+  EXPECT_EQ(GetNvValue_Factor(project.get(), nullptr, 2), Result::InvalidParam);
+  EXPECT_EQ(GetNvValue_Factor(project.get(), words.data(), 4), Result::Success);
   EXPECT_EQ(SaveToBinaryFile(nullptr, {}), Result::NvProjectNotOpen);
 }
 
