@@ -145,6 +145,31 @@ def exchange_codes(declaration, api):
     return [api.result(internal).short_name for internal in given if internal not in described]
 
 
+def paragraphs(lines):
+    """The text, and then the points of its list: each begins with a hyphen."""
+    text = []
+    for line in lines:
+        if line.startswith("- ") or not text:
+            text.append(line)
+        else:
+            text[-1] += " " + line
+    return text
+
+
+def description(declaration):
+    """What the function does, as paragraphs."""
+    lines = paragraphs(declaration.brief)
+    if declaration.kind == "command" and declaration.operation is None:
+        lines[0] += " The result is reported under the operation id of the command before."
+    return lines
+
+
+def wrapped(declaration):
+    """A comment's first lines."""
+    text, *points = description(declaration)
+    return wrap("/**", text, " *") + [line for point in points for line in wrap(" * -", point[2:], " *   ")]
+
+
 def comment(export, api):
     declaration = export.declaration
     if export.twin:
@@ -152,7 +177,7 @@ def comment(export, api):
                      if len(declaration.brief) == 1 else
                      f"QV_{declaration.name} for the port `port`, with the same effect and results.", " *")
     else:
-        lines = wrap("/**", " ".join(declaration.brief), " *")
+        lines = wrapped(declaration)
     for argument in export.arguments:
         own = facts(argument, declaration)
         text = " ".join(argument.documentation)
@@ -162,12 +187,9 @@ def comment(export, api):
         for code, text in results(export, api):
             name = code.short_name
             lines += wrap(f" * @retval {name}  ", text, " *   ")
-        codes = exchange_codes(declaration, api)
-        if codes:
-            lines += wrap(" * @return ", f"0 (PC_ERR_SUCCESS), {'one of the above, ' if results(export, api) else ''}{listed(codes)}",
-                          " *   ")
-        elif declaration.returns_result:
-            lines += wrap(" * @return", "0 (PC_ERR_SUCCESS)" + (" or one of the above" if results(export, api) else ""), " *   ")
+        if declaration.returns_result:
+            codes = ["0 (PC_ERR_SUCCESS)"] + ["one of the above"] * bool(results(export, api)) + exchange_codes(declaration, api)
+            lines += wrap(" * @return ", listed(codes), " *   ")
     return "\n".join(lines) + " */\n"
 
 

@@ -1,9 +1,10 @@
 """The handset's calibration items: one `item` statement gives every export that reads or writes one.
 
+    /// WORDS
     item NAME = NUMBER [at OFFSET] [per band]: DATA
       as EXPORTS = OPERATION OPERATION OPERATION OPERATION;
 
-OFFSET is in elements: a number, `index`, `N * index`, or `offset` (8 bits of the caller's).
+WORDS say what the item is, as they stand after "Reads" and "Writes". OFFSET is in elements: a number, `index`, `N * index`, or `offset` (8 bits of the caller's).
 DATA is u16, u32 (one value, written by value), u16[17] (an array), u16[count] (as many as the caller says), imei (a text of 15
 digits), or commit (none but a time limit).
 EXPORTS is the name of all of them: the first {A|B} in it is the verb of reading and writing, {Ram|Flash} the place.
@@ -27,14 +28,14 @@ MOST_COUNTED_VALUES = 32758
 
 def read_item(text, documentation, where):
     match = STATEMENT.fullmatch(text)
-    if not match or documentation:
+    if not match or len(documentation) != 1:
         sys.exit(f"{where}: cannot read '{' '.join(text.split())}'")
     name, number, offset, per_band, data, count, pattern, operations = match.groups()
     if data not in ELEMENT_BYTES:
         sys.exit(f"{where}: an item has no '{data}'")
     factor = re.fullmatch(r"(?:(\d+)\s*\*\s*)?index", offset or "")
     item = {
-        "name": name, "number": int(number), "per_band": bool(per_band),
+        "name": name, "words": documentation[0], "number": int(number), "per_band": bool(per_band),
         "fixed_offset": int(offset) if offset and offset.isdigit() else 0,
         "per_index": int(factor[1] or 1) if factor else 1 if offset == "offset" else 0,
         "low_byte": offset == "offset",
@@ -93,18 +94,18 @@ def plain(item, export, operation, writes, place):
         arguments.append(Argument("band", "band", documentation=["a QV_BAND"]))
     if item["low_byte"]:
         arguments.append(Argument("offset", "u8", documentation=["of the value, in elements"]))
-        offset, where = "offset", " from offset `offset`"
+        offset, where = "offset", " at offset `offset`"
     elif item["per_index"]:
         most = WIDEST_INDEX // item["per_index"]
         arguments.append(Argument("index", "u16", high=most if most < WIDEST_INDEX else None,
                                   documentation=["of the table" if item["per_index"] > 1 else "of the element"]))
         offset = "index" if item["per_index"] == 1 else f"static_cast<std::uint16_t>({item['per_index']} * index)"
-        where = " from offset " + ("`index`" if item["per_index"] == 1 else f"{item['per_index']} x `index`")
+        where = " at offset " + ("`index`" if item["per_index"] == 1 else f"{item['per_index']} x `index`")
     elif item["fixed_offset"]:
-        where = f" from offset {item['fixed_offset']}"
+        where = f" at offset {item['fixed_offset']}"
     one_value = item["count"] == 1 and not item["counted"]
-    what = "`count` values" if item["counted"] else elements(item)
-    kept = [] if writes else ["what the answer lacks stays as it was"]
+    what = "" if one_value else ": `count` values" if item["counted"] else f": {elements(item)}"
+    kept = [] if writes else ["what was read; what the answer lacks stays as it was"]
     if one_value and writes:
         arguments.append(Argument("value", item["data"], documentation=["what is written"]))
         values = "std::span(&value, 1)"
@@ -123,7 +124,8 @@ def plain(item, export, operation, writes, place):
     band = "static_cast<std::uint16_t>(band)" if item["per_band"] else "0"
     storage = f"Storage::{place[0]}"
     return declaration(item, export, operation, arguments,
-                       [f"{verb}s item {item['number']}{of_band} in {place[1]}: {what}{where}. Waits 1000 ms."],
+                       [f"{verb}s {item['words']}{of_band} {'in' if writes else 'from'} {place[1]}{what}"
+                        f" (item {item['number']}{where}). Waits 1000 ms."],
                        f"{verb}Item(operation, {address(item, storage, band, offset)}, {values})",
                        () if writes else (NO_DATA,))
 
@@ -134,16 +136,16 @@ def imei(item, export, operation, writes, place):
         made = declaration(item, export, operation,
                            [Argument("text", "text", "in", documentation=[
                                "begins with 15 decimal digits; what follows does not matter"])],
-                           [f"Writes item {item['number']} in {place[1]}, an IMEI. Waits 3000 ms."],
+                           [f"Writes {item['words']} in {place[1]} (item {item['number']}). Waits 3000 ms."],
                            f"WriteImeiItem(operation, {where}, text)")
         made.requirements.append(("PackImei(text)", "a text that does not begin with 15 decimal digits"))
         return made
     return declaration(item, export, operation,
                        [Argument("text", "char", "out", "16", documentation=[
                            "15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the text is cut",
-                           "to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads as",
-                           "151515151515151 with PC_ERR_SUCCESS"])],
-                       [f"Reads item {item['number']} in {place[1]}, an IMEI. Waits 1000 ms."],
+                           "to 15 characters, so that an erased IMEI reads as 151515151515151 with PC_ERR_SUCCESS; a digit",
+                           "that the answer lacks shows as 0"])],
+                       [f"Reads {item['words']} from {place[1]} (item {item['number']}). Waits 1000 ms."],
                        f"ReadImeiItem(operation, {where}, text)", (NO_DATA,))
 
 
@@ -151,7 +153,7 @@ def commit(item, export, operation, _writes, place):
     return declaration(item, export, operation,
                        [Argument("timeout_ms", "ms", documentation=[
                            "of the acknowledgement; saving can take many seconds"])],
-                       [f"Saves all items in RAM to {place[1]}, through item {item['number']}."],
+                       [f"Saves {item['words']} to {place[1]} (item {item['number']})."],
                        f"CommitItem(operation, {address(item, f'Storage::{place[0]}', '0', '0')}, timeoutMs)")
 
 
@@ -161,8 +163,8 @@ def either(item, export):
         Argument("flash", "flag", documentation=["not 0: in flash; 0: in RAM"]),
         Argument("band", "u16", documentation=["the band word, unchecked"]),
         Argument("values", item["data"], "inout", str(item["count"]),
-                 documentation=["what is written; reading leaves what the answer lacks as it was"])],
-        [f"Reads or writes item {item['number']}: {elements(item)}. Waits 1000 ms. For the default phone object only; the result is",
-         "reported under the operation id of the command before."],
+                 documentation=["what is written, or what was read; what the answer lacks stays as it was"])],
+        [f"Reads or writes {item['words']}: {elements(item)} (item {item['number']}). Waits 1000 ms. For the default phone object"
+         " only."],
         f"TransferItem(operation, read, {address(item, 'flash ? Storage::Flash : Storage::Ram', 'band', '0')}, values)",
         (NO_DATA,))

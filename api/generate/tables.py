@@ -35,7 +35,7 @@ def export_json(export, api):
         "twin_of": f"QV_{declaration.name}" if export.twin else None, "group": declaration.group,
         "operation": declaration.operation, "reported_as": declaration.reported_as or None, "uses": declaration.uses,
         "log_names": declaration.log_names, "returns": declaration.returns, "returns_result": declaration.returns_result,
-        "documentation": " ".join(declaration.brief),
+        "documentation": "\n".join(header.description(declaration)),
         "arguments": [argument_json(argument) for argument in export.arguments],
         "results": [{"code": code.code, "name": code.public_name, "short_name": code.short_name, "when": text}
                     for code, text in header.results(export, api)],

@@ -3,20 +3,28 @@
  * This file is made from api/exports; its text is written there.
  *
  * A program opens a port with QV_BeginPhoneTest, sends commands and closes with QV_EndPhoneTest.
- * QV_X works on the default phone object, the one opened last by QV_BeginPhoneTest.
- * QV_X_MT takes the port number ahead of the same arguments and works on that port's object: 4 for a port
- * below 1, 1 for a port that is not open. Without a default object QV_X returns 1.
+ * QV_X works on the default phone object, which is that of the port opened last by
+ * QV_BeginPhoneTest. QV_X_MT takes a port's number ahead of the same arguments and works on that
+ * port's object.
  *
- * Results are the codes of result_codes.h, 0 for success. Besides those named with a command, each
- * that sends can return: 1 the port is not open; 3 the request was not written; 11 no answer in time;
- * 39 the handset refuses the command.
- * Time limits are milliseconds; the setting "Inc Recv Timeout" is added where a command sends first,
- * except where a function says otherwise.
- * Numbers in buffers are in this machine's byte order unless a function says otherwise; the
- * library converts to the handset's.
+ * Results are the codes of result_codes.h. Each QV_X names those that it gives; those of QV_X_MT are
+ * the same. What works on a phone object gives PC_ERR_PORT_NOT_OPEN when there is none, and QV_X_MT
+ * gives PC_ERR_INVALID_PARAM for a port below 1. A command that can make no request because memory
+ * is short gives PC_ERR_ENCODE_FAILED.
  *
- * Ports may be driven from different threads at the same time; one port takes one command at a
- * time. Opening and closing is for one thread, while no command runs. */
+ * Time limits are milliseconds. The setting "Inc Recv Timeout" is added to waits for an answer,
+ * except where a function says otherwise, and not to waits that no request precedes; a negative one
+ * takes time away, down to none. A device that is gone ends no wait before its limit.
+ *
+ * Numbers in buffers are in this machine's byte order unless a function says otherwise; the library
+ * converts to the handset's. When the exchange with the handset fails, what a function would write
+ * stays as it was, except where the function says otherwise.
+ *
+ * Every function may be called from any thread. Commands on different ports run at the same time.
+ * Two calls on one port run one after another, in the order in which they came. QV_EndPhoneTest and
+ * QV_EndPhoneTest_MT do not wait for a command that runs: it returns PC_ERR_PORT_NOT_OPEN at once,
+ * and so do those that wait for their turn. The operation id under which a result is reported is one
+ * for the process: with several threads it may be another command's. */
 #ifndef MEROVANE_MEROVANE_H
 #define MEROVANE_MEROVANE_H
 
@@ -27,144 +35,216 @@
 extern "C" {
 #endif
 
-/* ---- Sessions, properties and the mode process --------------------------------------- */
+/* ---- Sessions ------------------------------------------------------------------------ */
 
-/** Opens a port and makes its phone object the default one.
- * @param port  1 and up
- * @param baud_rate  bits per second, above 0
- * @return 0 (PC_ERR_SUCCESS) */
+/** Opens a port and makes its phone object the default one, on which the functions without _MT
+ * work. A port that cannot be opened leaves its "Open" line and the result in the Useful log.
+ * @param port  n stands for COMn on Windows; elsewhere for the device that the environment variable
+ *   CASSORIND_COMn names, or else for the n-th of /dev/ttyS0, /dev/ttyS1 and so on (1 and up)
+ * @param baud_rate  bits per second (1 and up)
+ * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
+ * @retval PC_ERR_PORT_ALREADY_OPENED  the port has a phone object already, which stays as it is,
+ *   even when that one is not open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest(int32_t port, int32_t baud_rate);
 
-/** Opens a port for the QV_..._MT functions; the default object stays as it is. Arguments and
- * results as QV_BeginPhoneTest.
- * @param port
- * @param baud_rate
- * @return 0 (PC_ERR_SUCCESS) */
+/** Opens a port for the functions with _MT. The default phone object stays the one that it is.
+ * @param port  as in QV_BeginPhoneTest (1 and up)
+ * @param baud_rate  bits per second (1 and up)
+ * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
+ * @retval PC_ERR_PORT_ALREADY_OPENED  the port has a phone object already, which stays as it is,
+ *   even when that one is not open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest_MT(int32_t port, int32_t baud_rate);
 
-/** Stops mode processes, closes every open port and forgets the default object.
- * @return 0 (PC_ERR_SUCCESS) */
+/** Stops mode processes and closes every port; there is no default phone object afterwards. A
+ * command that still runs returns PC_ERR_PORT_NOT_OPEN at once. With nothing open it succeeds.
+ * @retval PC_ERR_CANNOT_CLOSE_ALL_PORTS  a port did not close, or was not open, as after a stopped
+ *   wait for one; the others are closed all the same
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest(void);
 
-/** Closes one port. Not for the port of the default object while QV_X functions are still to be
- * called: they return 1 from then on.
- * @param port
- * @return 0 (PC_ERR_SUCCESS) */
+/** Closes one port, whatever its device says to it. A command that still runs on it returns
+ * PC_ERR_PORT_NOT_OPEN at once. When it is the port of the default phone object, there is none
+ * afterwards, and the functions without _MT return PC_ERR_PORT_NOT_OPEN.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @retval PC_ERR_PORT_NOT_OPEN  it is not open
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest_MT(int32_t port);
 
-/** Switches a property.
- * @param property  0 Useful log on or off; 1 recording of received data; 2 channel server on or
- *   off; 3 receive mode; 4 handset is big-endian
- * @param value1  property 1: non-zero to record; otherwise not used
- * @param value2  property 1: address of the file's path, as in QV_SaveRecvData; otherwise the value
+/* ---- Properties ---------------------------------------------------------------------- */
+
+/** Sets a property of the library. Values are as wide as a pointer. Other properties than the five
+ * are ignored. The result is reported under the operation id of the command before.
+ * - QV_PROPERTY_USEFUL_LOG: 0 silences the Useful logs of all ports; another value gives one to
+ *   ports opened from then on.
+ * - QV_PROPERTY_SAVE_RECEIVED_DATA: as QV_SaveRecvData.
+ * - QV_PROPERTY_CHANNEL_SERVER: 0 disconnects the channel server, also from ports that are open;
+ *   another value connects it, for ports opened from then on.
+ * - QV_PROPERTY_RECEIVE_MODE: as QV_SetRecvMode.
+ * - QV_PROPERTY_BIG_ENDIAN: whether handsets are big-endian (not 0) or little-endian (0), for all
+ *   ports at once.
+ * @param property  a QV_PROPERTY
+ * @param value1  QV_PROPERTY_SAVE_RECEIVED_DATA: not 0 to record; otherwise not used
+ * @param value2  QV_PROPERTY_SAVE_RECEIVED_DATA: the address of the file's path; otherwise the
+ *   value
  * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetProperty(
     uint32_t property, uintptr_t value1, uintptr_t value2);
 
-/** Reads property 4; for others `value` stays as it was.
- * @param property
+/** Gets QV_PROPERTY_BIG_ENDIAN. For other properties it succeeds and leaves `value` as it was. The
+ * result is reported under the operation id of the command before.
+ * @param property  a QV_PROPERTY
  * @param value1  not used
- * @param value
- * @retval PC_ERR_INVALID_PARAM  `value` is null
+ * @param value  1 or 0 (looked at only when `property == QV_PROPERTY_BIG_ENDIAN`)
+ * @retval PC_ERR_INVALID_PARAM  `value` is null when `property == QV_PROPERTY_BIG_ENDIAN`
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetProperty(
-    uint32_t property, uintptr_t value1, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(3);
+    uint32_t property, uintptr_t value1, MEROVANE_OUT_OPT uint32_t *value) MEROVANE_WRITES(3);
 
-/** Chooses how ports opened from now on receive: 0 in the caller's thread, 1 through a thread of
- * their own.
- * @param mode */
+/** Chooses how ports that are opened from now on receive. Nothing is reported.
+ * @param mode  a QV_RECEIVE_MODE; others count as QV_RECEIVE_MODE_CALLER. While it is
+ *   QV_RECEIVE_MODE_THREAD, a command on any port leaves what its device has received before in
+ *   place instead of purging it */
 MEROVANE_API void MEROVANE_CALL QV_SetRecvMode(uint32_t mode);
 
-/** Records received bytes, as they come, at the end of a file, on ports opened from now on.
- * @param on  0 ends the recording on every port
- * @param path  the file; null ends the recording too
- * @retval PC_ERR_INVALID_PARAM  `path` is null */
-MEROVANE_API void MEROVANE_CALL QV_SaveRecvData(uint32_t on, MEROVANE_IN_TEXT const char *path);
+/** Appends all received bytes to a file, as they come and without marks, on ports that are opened
+ * from now on. Nothing is reported.
+ * @param on  not 0: record; 0: end the recording on every port
+ * @param path  the file, relative to the process's current directory; null or empty ends the
+ *   recording too (may be null) */
+MEROVANE_API void MEROVANE_CALL QV_SaveRecvData(uint32_t on, MEROVANE_IN_TEXT_OPT const char *path);
 
-/** Whether the default object's handset has reported an assert since the last call. Needs a channel
- * server. The result is not reported to the error-code library.
- * @return 0 (PC_ERR_SUCCESS) */
+/** Tells whether the default phone object's handset has reported an assert since the last call:
+ * returns 1 if it has, else 0, also without a default phone object. Reports are noticed only while
+ * a channel server is connected. Nothing is reported. */
 MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
 
-/** Waits, in the background, for a handset to boot and puts it into a mode.
- * @param wait_for_port  0: on the default object's port. Otherwise: on the next serial device that
- *   arrives, with an object of its own; the device is left closed, see QV_GetUsbPort
- * @param mode  start mode, as in QV_SetPhoneStartMode
+/* ---- Mode processes ------------------------------------------------------------------ */
+
+/** Waits, in the background, for a handset to boot and puts it into a mode. A mode process of the
+ * same object that still runs is stopped first. The default object's handset is looked for on its
+ * open port, in attempts of 1000 ms each, so that the last one may end up to that much after the
+ * time limit; what it says to the mode does not count. A device that arrives is opened at 115200
+ * baud, told the mode and closed; when it comes back, the handset is caught. QV_GetUsbPort tells
+ * its port.
+ * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
+ *   arrives, with a phone object of its own
+ * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
  * @param event  reset at the start, set when the handset was caught
  * @param time_limit_ms  0: without end (milliseconds)
- * @return 0 (PC_ERR_SUCCESS) */
+ * @retval PC_ERR_PORT_NOT_OPEN  without a default phone object (`wait_for_port` 0)
+ * @retval PC_ERR_INVALID_PARAM  a null `event`
+ * @retval PC_ERR_ENTER_MODE_FAILED  the system gives no thread
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess(
     uint32_t wait_for_port, uint32_t mode, QV_EVENT event, uint32_t time_limit_ms);
 
-/** The same for one port. With wait_for_port the port need not exist yet: it is awaited, an object
- * of it that is open is closed first, and the port is open again when the event is set.
- * @param port
- * @param wait_for_port
- * @param mode
- * @param event
- * @param time_limit_ms  milliseconds
- * @return 0 (PC_ERR_SUCCESS) */
+/** QV_EnterModeProcess for one port. With `wait_for_port` that port is awaited: it need not exist
+ * yet, its phone object is closed and made anew, and it is open again, at 115200 baud, when the
+ * event is set. Devices that arrive on other ports are ignored.
+ * @param port  the port (1 and up)
+ * @param wait_for_port  0: on the port, which is open; not 0: on the port once its device arrives
+ * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
+ * @param event  reset at the start, set when the handset was caught
+ * @param time_limit_ms  0: without end (milliseconds)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port is not open (`wait_for_port` 0)
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1; a null `event`
+ * @retval PC_ERR_ENTER_MODE_FAILED  the system gives no thread
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess_MT(
     int32_t port, uint32_t wait_for_port, uint32_t mode, QV_EVENT event, uint32_t time_limit_ms);
 
-/** QV_EnterModeProcess that returns when the waiting is over. Messages of the calling thread's
- * queue are dispatched meanwhile.
- * @param wait_for_port
- * @param mode
- * @param time_limit_ms  milliseconds
- * @return 0 (PC_ERR_SUCCESS) */
+/** QV_EnterModeProcess that returns when the waiting is over. On Windows it dispatches the messages
+ * of the calling thread meanwhile, and keeps a WM_QUIT for the caller's own message loop.
+ * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
+ *   arrives
+ * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
+ * @param time_limit_ms  0: without end (milliseconds)
+ * @retval PC_ERR_PORT_NOT_OPEN  without a default phone object (`wait_for_port` 0)
+ * @retval PC_ERR_ENTER_MODE_FAILED  the handset was not caught
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx(
     uint32_t wait_for_port, uint32_t mode, uint32_t time_limit_ms);
 
-/** QV_EnterModeProcess_MT that returns when the waiting is over.
- * @param port
- * @param wait_for_port
- * @param mode
- * @param time_limit_ms  milliseconds
- * @return 0 (PC_ERR_SUCCESS) */
+/** QV_EnterModeProcess_MT that returns when the waiting is over. On Windows it dispatches the
+ * messages of the calling thread meanwhile, and keeps a WM_QUIT for the caller's own message loop.
+ * @param port  the port (1 and up)
+ * @param wait_for_port  0: on the port, which is open; not 0: on the port once its device arrives
+ * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
+ * @param time_limit_ms  0: without end (milliseconds)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port is not open (`wait_for_port` 0)
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1
+ * @retval PC_ERR_ENTER_MODE_FAILED  the handset was not caught
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx_MT(
     int32_t port, uint32_t wait_for_port, uint32_t mode, uint32_t time_limit_ms);
 
-/** Ends the mode process begun last by QV_EnterModeProcess, if it still runs, in at most 3300 ms.
- * @return 0 (PC_ERR_SUCCESS) */
+/** Stops the mode process that QV_EnterModeProcess or QV_EnterModeProcessEx began last, or that
+ * QV_ResetModeProcess began on the same phone object. It ends the wait that the process is in, as a
+ * rule within some 10 ms; one that has not ended after 3300 ms is given up: it neither sets its
+ * event nor disturbs the next one. With none running it succeeds.
+ * @retval PC_ERR_PORT_NOT_OPEN  there is no phone object that could run one
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess(void);
 
-/** The same for one port.
- * @param port
- * @return 0 (PC_ERR_SUCCESS) */
+/** Stops the mode process of one port, as QV_StopModeProcess does.
+ * @param port  the port (1 and up)
+ * @retval PC_ERR_PORT_NOT_OPEN  it has no phone object
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
 
-/** Restarts the handset and sets the event when it can be talked to again.
- * @param through_port  non-zero: the handset's serial device may vanish and come back; the port is
- *   then reopened at 115200 baud, in the background, on the device that arrives. 0: a plain restart
- * @param reboot_kind  what to restart into when through_port is set: 1, 5, 6, 7, 8 or 9; others
- *   restart plainly
- * @param event  set when done; reset at the start when through_port is set
- * @param time_limit_ms  of the wait for the device, 0 without end; of the answer when through_port
- *   is 0 (milliseconds)
- * @return 0 (PC_ERR_SUCCESS) */
+/** Restarts the default phone object's handset and sets an event once it can be talked to again.
+ * Through its port, the handset's serial device may vanish: its port is then closed and, in the
+ * background, opened at 115200 baud on the next device that arrives. A mode process of the phone
+ * object is stopped first. The result is that of QV_RestartPhone or QV_UsbChangePhoneMode, which
+ * restarts the handset, and is reported under its operation id.
+ * @param through_port  not 0: through its port; 0: a plain restart, after whose answer the event is
+ *   set
+ * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
+ *   others restart it plainly
+ * @param event  set when done; reset at the start when `through_port` is not 0
+ * @param time_limit_ms  through its port: of the wait for the device, 0 without end; otherwise of
+ *   the answer (milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  a null `event`; `time_limit_ms` is 0 in a plain restart
+ * @retval PC_ERR_ENTER_MODE_FAILED  the handset restarts, but the system gives no thread to wait
+ *   for its device
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(
     uint32_t through_port, uint32_t reboot_kind, QV_EVENT event, uint32_t time_limit_ms);
 
-/** The same for one port, which is reopened only on a device of that number.
- * @param port
- * @param through_port
- * @param reboot_kind
- * @param event
- * @param time_limit_ms  milliseconds
- * @return 0 (PC_ERR_SUCCESS) */
+/** QV_ResetModeProcess for one port, which is opened again only on a device that arrives under its
+ * own number.
+ * @param port  the port (1 and up)
+ * @param through_port  not 0: through its port; 0: a plain restart, after whose answer the event is
+ *   set
+ * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
+ *   others restart it plainly
+ * @param event  set when done; reset at the start when `through_port` is not 0
+ * @param time_limit_ms  through its port: of the wait for the device, 0 without end; otherwise of
+ *   the answer (milliseconds)
+ * @retval PC_ERR_INVALID_PARAM  `port` below 1; a null `event`; `time_limit_ms` is 0 in a plain
+ *   restart
+ * @retval PC_ERR_ENTER_MODE_FAILED  the handset restarts, but the system gives no thread to wait
+ *   for its device
+ * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
+ *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess_MT(
     int32_t port, uint32_t through_port, uint32_t reboot_kind, QV_EVENT event,
     uint32_t time_limit_ms);
 
-/** The number of the port on which QV_EnterModeProcess with wait_for_port found a device, 0 when
- * none.
- * @return 0 (PC_ERR_SUCCESS) */
+/** Returns the port on which the last QV_EnterModeProcess or QV_EnterModeProcessEx with
+ * `wait_for_port` found a device; 0 when it found none, or was never called. Nothing is reported. */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetUsbPort(void);
 
-/** Sets the 4-byte camp parameter that goes into the sequence field of the first frame after each
- * start of a mode process.
- * @param camp_parameter
+/** Sets what every mode process from now on puts into the sequence field of the first frame that it
+ * sends. The restart of QV_ResetModeProcess carries none. Needs no open port.
+ * @param camp_parameter  0 at first, and for none
  * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
 
@@ -179,7 +259,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time; one in the other byte order does
  *   not count
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
     MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity, MEROVANE_OUT uint32_t *length,
     uint32_t timeout_ms) MEROVANE_WRITES_N(1, 2) MEROVANE_WRITES(3);
@@ -362,7 +442,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(
  * @retval PC_ERR_BUFFER_TOO_SMALL  the frame was cut to the room that there is
  * @retval PC_ERR_DECODE_FAILED  a frame arrived that holds nothing
  * @retval PC_ERR_NO_FRAME  no whole frame arrived in time
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read(
     MEROVANE_OUT_N(*length) uint8_t *data, MEROVANE_INOUT uint32_t *length,
     uint32_t timeout_ms) MEROVANE_WRITES(1) MEROVANE_UPDATES(2);
@@ -1335,7 +1415,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @retval PC_ERR_BLUETOOTH_FAILED  the answer has fewer than 6 bytes, or the exchange failed for
  *   whatever reason; not logged
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(
     MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(1);
 
@@ -1412,7 +1492,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBtDacValue_MT(int32_t port, uint32_t v
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_BLUETOOTH_FAILED  the answer has fewer than 4 bytes, or the exchange failed for
  *   whatever reason; not logged
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
@@ -1533,13 +1613,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
 /* ---- DSP debugging ------------------------------------------------------------------- */
 
 /** Resets the DSP's RF parameters. Waits 4000 ms. The DSP functions have no operation ids: results
- * are reported under the one of the command before.
+ * are reported under the one of the command before. The result is reported under the operation id
+ * of the command before.
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
 
-/** Reads the DSP's registers or memory. Waits 4000 ms.
+/** Reads the DSP's registers or memory. Waits 4000 ms. The result is reported under the operation
+ * id of the command before.
  * @param unused  not looked at
  * @param width  bytes of a unit (1, 2 or 4)
  * @param address  of the first unit
@@ -1554,7 +1636,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
     uint32_t unused, uint32_t width, uint32_t address, MEROVANE_OUT_N(count*width) uint8_t *data,
     uint16_t count) MEROVANE_WRITES(4);
 
-/** Writes a unit of the DSP's registers or memory. Waits 4000 ms.
+/** Writes a unit of the DSP's registers or memory. Waits 4000 ms. The result is reported under the
+ * operation id of the command before.
  * @param unused  not looked at
  * @param width  bytes of the unit (1, 2 or 4)
  * @param address  of the unit
@@ -1566,7 +1649,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
 MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
     uint32_t unused, uint32_t width, uint32_t address, uint32_t value);
 
-/** Has the DSP plot a frame. Waits 4000 ms.
+/** Has the DSP plot a frame. Waits 4000 ms. The result is reported under the operation id of the
+ * command before.
  * @param a  the handset's, as are the others
  * @param b  the handset's
  * @param c  the handset's
@@ -1581,10 +1665,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_PlotFrame(
 /* ---- Calibration: modes and activation ----------------------------------------------- */
 
 /** Changes the handset's layer-1 software to another calibration mode. Other values of `mode` send
- * nothing and succeed. QV_CALIBRATION_MODE_GSM waits 3000 ms for the acknowledgement and then, for
- * the setting "Inc Recv Timeout" alone, for the handset's confirmation: unless that setting is
- * above 0, the result is PC_ERR_NO_ANSWER although the handset changes its mode.
- * QV_CALIBRATION_MODE_TD waits 1000 ms and succeeds whatever comes back, even when nothing does.
+ * nothing and succeed.
+ * - QV_CALIBRATION_MODE_GSM waits 3000 ms for the acknowledgement and then, for the setting "Inc
+ *   Recv Timeout" alone, for the handset's confirmation: unless that setting is above 0, the result
+ *   is PC_ERR_NO_ANSWER although the handset changes its mode.
+ * - QV_CALIBRATION_MODE_TD waits 1000 ms and succeeds whatever comes back, even when nothing does.
  * @param mode  a QV_CALIBRATION_MODE
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset confirms with a status other than 0; a confirmation
  *   that ends before its status counts as 0
@@ -1598,9 +1683,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode(int32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_ChangeGSMTDCalMode_MT(int32_t port, int32_t mode);
 
 /** Prepares the handset's layer-1 software for calibration. Other values of `mode` send nothing and
- * succeed. QV_CALIBRATION_MODE_TD waits 1000 ms for the acknowledgement and then for a
- * confirmation, as QV_CALIBRATION_MODE_GSM does in QV_ChangeGSMTDCalMode. QV_CALIBRATION_MODE_GSM
- * waits 1000 ms and succeeds whatever comes back, even when nothing does.
+ * succeed.
+ * - QV_CALIBRATION_MODE_TD waits 1000 ms for the acknowledgement and then for a confirmation, as
+ *   QV_CALIBRATION_MODE_GSM does in QV_ChangeGSMTDCalMode.
+ * - QV_CALIBRATION_MODE_GSM waits 1000 ms and succeeds whatever comes back, even when nothing does.
  * @param mode  a QV_CALIBRATION_MODE
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset confirms with a status other than 0; a confirmation
  *   that ends before its status counts as 0
@@ -1842,8 +1928,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
 
 /* ---- Calibration data: ADC ----------------------------------------------------------- */
 
-/** Reads item 1 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Adc0 of the ADC calibration from flash (item 1). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1851,27 +1937,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Adc0 for the port `port`, with the same results. Reads item 1 in flash:
- * one value. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Adc0 for the port `port`, with the same results. Reads value Adc0 of the
+ * ADC calibration from flash (item 1). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value. Waits 1000 ms.
+/** Writes value Adc0 of the ADC calibration in flash (item 1). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Adc0 for the port `port`, with the same results. Writes item 1 in flash:
- * one value. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Adc0 for the port `port`, with the same results. Writes value Adc0 of the
+ * ADC calibration in flash (item 1). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 1. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Adc1 of the ADC calibration from flash (item 1 at offset 1). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1879,27 +1965,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc0_MT(int32_t port, 
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Adc1 for the port `port`, with the same results. Reads item 1 in flash:
- * one value from offset 1. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Adc1 for the port `port`, with the same results. Reads value Adc1 of the
+ * ADC calibration from flash (item 1 at offset 1). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Adc1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 1. Waits 1000 ms.
+/** Writes value Adc1 of the ADC calibration in flash (item 1 at offset 1). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Adc1 for the port `port`, with the same results. Writes item 1 in flash:
- * one value from offset 1. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Adc1 for the port `port`, with the same results. Writes value Adc1 of the
+ * ADC calibration in flash (item 1 at offset 1). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in RAM: one value from offset 2. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Battery0 of the ADC calibration from RAM (item 1 at offset 2). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1907,27 +1993,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Adc1_MT(int32_t port, 
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_ADC_Battery0 for the port `port`, with the same results. Reads item 1 in RAM:
- * one value from offset 2. Waits 1000 ms.
+/** QV_ReadData_Ram_ADC_Battery0 for the port `port`, with the same results. Reads value Battery0 of
+ * the ADC calibration from RAM (item 1 at offset 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in RAM: one value from offset 2. Waits 1000 ms.
+/** Writes value Battery0 of the ADC calibration in RAM (item 1 at offset 2). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0(uint32_t value);
 
-/** QV_WriteData_Ram_ADC_Battery0 for the port `port`, with the same results. Writes item 1 in RAM:
- * one value from offset 2. Waits 1000 ms.
+/** QV_WriteData_Ram_ADC_Battery0 for the port `port`, with the same results. Writes value Battery0
+ * of the ADC calibration in RAM (item 1 at offset 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 2. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Battery0 of the ADC calibration from flash (item 1 at offset 2). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1935,27 +2021,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery0_MT(int32_t port
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Battery0 for the port `port`, with the same results. Reads item 1 in
- * flash: one value from offset 2. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Battery0 for the port `port`, with the same results. Reads value Battery0
+ * of the ADC calibration from flash (item 1 at offset 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 2. Waits 1000 ms.
+/** Writes value Battery0 of the ADC calibration in flash (item 1 at offset 2). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Battery0 for the port `port`, with the same results. Writes item 1 in
- * flash: one value from offset 2. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Battery0 for the port `port`, with the same results. Writes value
+ * Battery0 of the ADC calibration in flash (item 1 at offset 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in RAM: one value from offset 3. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Battery1 of the ADC calibration from RAM (item 1 at offset 3). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1963,27 +2049,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery0_MT(int32_t po
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_ADC_Battery1 for the port `port`, with the same results. Reads item 1 in RAM:
- * one value from offset 3. Waits 1000 ms.
+/** QV_ReadData_Ram_ADC_Battery1 for the port `port`, with the same results. Reads value Battery1 of
+ * the ADC calibration from RAM (item 1 at offset 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_ADC_Battery1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in RAM: one value from offset 3. Waits 1000 ms.
+/** Writes value Battery1 of the ADC calibration in RAM (item 1 at offset 3). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1(uint32_t value);
 
-/** QV_WriteData_Ram_ADC_Battery1 for the port `port`, with the same results. Writes item 1 in RAM:
- * one value from offset 3. Waits 1000 ms.
+/** QV_WriteData_Ram_ADC_Battery1 for the port `port`, with the same results. Writes value Battery1
+ * of the ADC calibration in RAM (item 1 at offset 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 3. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Battery1 of the ADC calibration from flash (item 1 at offset 3). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1991,27 +2077,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_ADC_Battery1_MT(int32_t port
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Battery1 for the port `port`, with the same results. Reads item 1 in
- * flash: one value from offset 3. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Battery1 for the port `port`, with the same results. Reads value Battery1
+ * of the ADC calibration from flash (item 1 at offset 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Battery1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 3. Waits 1000 ms.
+/** Writes value Battery1 of the ADC calibration in flash (item 1 at offset 3). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Battery1 for the port `port`, with the same results. Writes item 1 in
- * flash: one value from offset 3. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Battery1 for the port `port`, with the same results. Writes value
+ * Battery1 of the ADC calibration in flash (item 1 at offset 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 4. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Reserved0 of the ADC calibration from flash (item 1 at offset 4). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2019,28 +2105,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Battery1_MT(int32_t po
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Reserved0 for the port `port`, with the same results. Reads item 1 in
- * flash: one value from offset 4. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Reserved0 for the port `port`, with the same results. Reads value
+ * Reserved0 of the ADC calibration from flash (item 1 at offset 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved0_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 4. Waits 1000 ms.
+/** Writes value Reserved0 of the ADC calibration in flash (item 1 at offset 4). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Reserved0 for the port `port`, with the same results. Writes item 1 in
- * flash: one value from offset 4. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Reserved0 for the port `port`, with the same results. Writes value
+ * Reserved0 of the ADC calibration in flash (item 1 at offset 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
     int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 5. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Reserved1 of the ADC calibration from flash (item 1 at offset 5). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2048,28 +2134,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved0_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Reserved1 for the port `port`, with the same results. Reads item 1 in
- * flash: one value from offset 5. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Reserved1 for the port `port`, with the same results. Reads value
+ * Reserved1 of the ADC calibration from flash (item 1 at offset 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved1_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 5. Waits 1000 ms.
+/** Writes value Reserved1 of the ADC calibration in flash (item 1 at offset 5). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Reserved1 for the port `port`, with the same results. Writes item 1 in
- * flash: one value from offset 5. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Reserved1 for the port `port`, with the same results. Writes value
+ * Reserved1 of the ADC calibration in flash (item 1 at offset 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
     int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset 11. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads value Reserved7 of the ADC calibration from flash (item 1 at offset 11). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2077,29 +2163,30 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved1_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7(
     MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_ADC_Reserved7 for the port `port`, with the same results. Reads item 1 in
- * flash: one value from offset 11. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC_Reserved7 for the port `port`, with the same results. Reads value
+ * Reserved7 of the ADC calibration from flash (item 1 at offset 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_Reserved7_MT(
     int32_t port, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 1 in flash: one value from offset 11. Waits 1000 ms.
+/** Writes value Reserved7 of the ADC calibration in flash (item 1 at offset 11). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7(uint32_t value);
 
-/** QV_WriteData_Flash_ADC_Reserved7 for the port `port`, with the same results. Writes item 1 in
- * flash: one value from offset 11. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC_Reserved7 for the port `port`, with the same results. Writes value
+ * Reserved7 of the ADC calibration in flash (item 1 at offset 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
     int32_t port, uint32_t value);
 
-/** Reads item 1 in flash: one value from offset `offset`. Waits 1000 ms.
+/** Reads any value of the ADC calibration from flash (item 1 at offset `offset`). Waits 1000 ms.
+ * The result is reported under the operation id of the command before.
  * @param offset  of the value, in elements
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2107,23 +2194,24 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_Reserved7_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC(
     uint8_t offset, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Flash_ADC for the port `port`, with the same results. Reads item 1 in flash: one
- * value from offset `offset`. Waits 1000 ms.
+/** QV_ReadData_Flash_ADC for the port `port`, with the same results. Reads any value of the ADC
+ * calibration from flash (item 1 at offset `offset`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param offset  of the value, in elements
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_ADC_MT(
     int32_t port, uint8_t offset, MEROVANE_OUT uint32_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 1 in flash: one value from offset `offset`. Waits 1000 ms.
+/** Writes any value of the ADC calibration in flash (item 1 at offset `offset`). Waits 1000 ms. The
+ * result is reported under the operation id of the command before.
  * @param offset  of the value, in elements
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC(uint8_t offset, uint32_t value);
 
-/** QV_WriteData_Flash_ADC for the port `port`, with the same results. Writes item 1 in flash: one
- * value from offset `offset`. Waits 1000 ms.
+/** QV_WriteData_Flash_ADC for the port `port`, with the same results. Writes any value of the ADC
+ * calibration in flash (item 1 at offset `offset`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param offset  of the value, in elements
  * @param value  what is written */
@@ -2132,8 +2220,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
 
 /* ---- Calibration data: AFC ----------------------------------------------------------- */
 
-/** Reads item 2 in RAM: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the AFC centre from RAM (item 2). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2141,27 +2229,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_ADC_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_afc_center for the port `port`, with the same results. Reads item 2 in RAM:
- * one value. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_afc_center for the port `port`, with the same results. Reads the AFC centre
+ * from RAM (item 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_center_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 2 in RAM: one value. Waits 1000 ms.
+/** Writes the AFC centre in RAM (item 2). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center(uint16_t value);
 
-/** QV_WriteData_Ram_AFC_afc_center for the port `port`, with the same results. Writes item 2 in
- * RAM: one value. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_afc_center for the port `port`, with the same results. Writes the AFC
+ * centre in RAM (item 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t port, uint16_t value);
 
-/** Reads item 2 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the AFC centre from flash (item 2). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2169,28 +2257,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_center_MT(int32_t po
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_afc_center for the port `port`, with the same results. Reads item 2 in
- * flash: one value. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_afc_center for the port `port`, with the same results. Reads the AFC
+ * centre from flash (item 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_center_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 2 in flash: one value. Waits 1000 ms.
+/** Writes the AFC centre in flash (item 2). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center(uint16_t value);
 
-/** QV_WriteData_Flash_AFC_afc_center for the port `port`, with the same results. Writes item 2 in
- * flash: one value. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_afc_center for the port `port`, with the same results. Writes the AFC
+ * centre in flash (item 2). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
     int32_t port, uint16_t value);
 
-/** Reads item 3 in RAM: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the AFC slope in Hz per 6 bits from RAM (item 3). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2198,28 +2286,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_center_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Reads
- * item 3 in RAM: one value. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Reads the
+ * AFC slope in Hz per 6 bits from RAM (item 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 3 in RAM: one value. Waits 1000 ms.
+/** Writes the AFC slope in Hz per 6 bits in RAM (item 3). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits(uint16_t value);
 
 /** QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Writes
- * item 3 in RAM: one value. Waits 1000 ms.
+ * the AFC slope in Hz per 6 bits in RAM (item 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, uint16_t value);
 
-/** Reads item 3 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the AFC slope in Hz per 6 bits from flash (item 3). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2228,27 +2316,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
 /** QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Reads
- * item 3 in flash: one value. Waits 1000 ms.
+ * the AFC slope in Hz per 6 bits from flash (item 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 3 in flash: one value. Waits 1000 ms.
+/** Writes the AFC slope in Hz per 6 bits in flash (item 3). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits(uint16_t value);
 
 /** QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits for the port `port`, with the same results. Writes
- * item 3 in flash: one value. Waits 1000 ms.
+ * the AFC slope in Hz per 6 bits in flash (item 3). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits_MT(
     int32_t port, uint16_t value);
 
-/** Reads item 5 in RAM: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the length of the AFC slope from RAM (item 5). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2256,28 +2344,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_slope_hz_per_6bits
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_slope_length for the port `port`, with the same results. Reads item 5 in
- * RAM: one value. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_slope_length for the port `port`, with the same results. Reads the length of
+ * the AFC slope from RAM (item 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_length_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 5 in RAM: one value. Waits 1000 ms.
+/** Writes the length of the AFC slope in RAM (item 5). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length(uint16_t value);
 
-/** QV_WriteData_Ram_AFC_slope_length for the port `port`, with the same results. Writes item 5 in
- * RAM: one value. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_slope_length for the port `port`, with the same results. Writes the length
+ * of the AFC slope in RAM (item 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
     int32_t port, uint16_t value);
 
-/** Reads item 5 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the length of the AFC slope from flash (item 5). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2285,28 +2373,28 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_length_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_slope_length for the port `port`, with the same results. Reads item 5 in
- * flash: one value. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_slope_length for the port `port`, with the same results. Reads the length
+ * of the AFC slope from flash (item 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_length_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 5 in flash: one value. Waits 1000 ms.
+/** Writes the length of the AFC slope in flash (item 5). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length(uint16_t value);
 
-/** QV_WriteData_Flash_AFC_slope_length for the port `port`, with the same results. Writes item 5 in
- * flash: one value. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_slope_length for the port `port`, with the same results. Writes the
+ * length of the AFC slope in flash (item 5). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
     int32_t port, uint16_t value);
 
-/** Reads item 6 in RAM: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the coarse trim CDAC from RAM (item 6). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2314,27 +2402,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_length_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_CDAC for the port `port`, with the same results. Reads item 6 in RAM: one
- * value. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_CDAC for the port `port`, with the same results. Reads the coarse trim CDAC
+ * from RAM (item 6). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CDAC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 6 in RAM: one value. Waits 1000 ms.
+/** Writes the coarse trim CDAC in RAM (item 6). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC(uint16_t value);
 
-/** QV_WriteData_Ram_AFC_CDAC for the port `port`, with the same results. Writes item 6 in RAM: one
- * value. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_CDAC for the port `port`, with the same results. Writes the coarse trim
+ * CDAC in RAM (item 6). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, uint16_t value);
 
-/** Reads item 6 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the coarse trim CDAC from flash (item 6). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2342,27 +2430,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CDAC_MT(int32_t port, ui
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_CDAC for the port `port`, with the same results. Reads item 6 in flash:
- * one value. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_CDAC for the port `port`, with the same results. Reads the coarse trim
+ * CDAC from flash (item 6). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CDAC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 6 in flash: one value. Waits 1000 ms.
+/** Writes the coarse trim CDAC in flash (item 6). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC(uint16_t value);
 
-/** QV_WriteData_Flash_AFC_CDAC for the port `port`, with the same results. Writes item 6 in flash:
- * one value. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_CDAC for the port `port`, with the same results. Writes the coarse trim
+ * CDAC in flash (item 6). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, uint16_t value);
 
-/** Reads item 7 in RAM: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the fine trim CAFC from RAM (item 7). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2370,27 +2458,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CDAC_MT(int32_t port, 
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_CAFC for the port `port`, with the same results. Reads item 7 in RAM: one
- * value. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_CAFC for the port `port`, with the same results. Reads the fine trim CAFC
+ * from RAM (item 7). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_CAFC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 7 in RAM: one value. Waits 1000 ms.
+/** Writes the fine trim CAFC in RAM (item 7). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC(uint16_t value);
 
-/** QV_WriteData_Ram_AFC_CAFC for the port `port`, with the same results. Writes item 7 in RAM: one
- * value. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_CAFC for the port `port`, with the same results. Writes the fine trim CAFC
+ * in RAM (item 7). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, uint16_t value);
 
-/** Reads item 7 in flash: one value. Waits 1000 ms.
- * @param value  what the answer lacks stays as it was
+/** Reads the fine trim CAFC from flash (item 7). Waits 1000 ms.
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2398,27 +2486,27 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_CAFC_MT(int32_t port, ui
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC(
     MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_CAFC for the port `port`, with the same results. Reads item 7 in flash:
- * one value. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_CAFC for the port `port`, with the same results. Reads the fine trim CAFC
+ * from flash (item 7). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_CAFC_MT(
     int32_t port, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** Writes item 7 in flash: one value. Waits 1000 ms.
+/** Writes the fine trim CAFC in flash (item 7). Waits 1000 ms.
  * @param value  what is written
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
 
-/** QV_WriteData_Flash_AFC_CAFC for the port `port`, with the same results. Writes item 7 in flash:
- * one value. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_CAFC for the port `port`, with the same results. Writes the fine trim
+ * CAFC in flash (item 7). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, uint16_t value);
 
-/** Reads item 14 in RAM: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the AFC values from RAM: 17 values (item 14). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2426,14 +2514,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, 
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Reads item 14 in
- * RAM: 17 values. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Reads the AFC
+ * values from RAM: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 14 in RAM: 17 values. Waits 1000 ms.
+/** Writes the AFC values in RAM: 17 values (item 14). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2441,15 +2529,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
-/** QV_WriteData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Writes item 14 in
- * RAM: 17 values. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Writes the AFC
+ * values in RAM: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
-/** Reads item 14 in flash: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the AFC values from flash: 17 values (item 14). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2457,14 +2545,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Reads item 14 in
- * flash: 17 values. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Reads the AFC
+ * values from flash: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 14 in flash: 17 values. Waits 1000 ms.
+/** Writes the AFC values in flash: 17 values (item 14). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2472,15 +2560,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
-/** QV_WriteData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Writes item 14
- * in flash: 17 values. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Writes the AFC
+ * values in flash: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
-/** Reads item 4 in RAM: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the AFC slopes from RAM: 17 values (item 4). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2488,14 +2576,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Reads item 4 in
- * RAM: 17 values. Waits 1000 ms.
+/** QV_ReadData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Reads the AFC
+ * slopes from RAM: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 4 in RAM: 17 values. Waits 1000 ms.
+/** Writes the AFC slopes in RAM: 17 values (item 4). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2503,15 +2591,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
-/** QV_WriteData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Writes item 4
- * in RAM: 17 values. Waits 1000 ms.
+/** QV_WriteData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Writes the AFC
+ * slopes in RAM: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
-/** Reads item 4 in flash: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the AFC slopes from flash: 17 values (item 4). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2519,14 +2607,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Reads item 4
- * in flash: 17 values. Waits 1000 ms.
+/** QV_ReadData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Reads the AFC
+ * slopes from flash: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 4 in flash: 17 values. Waits 1000 ms.
+/** Writes the AFC slopes in flash: 17 values (item 4). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2534,15 +2622,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr(
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
-/** QV_WriteData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Writes item 4
- * in flash: 17 values. Waits 1000 ms.
+/** QV_WriteData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Writes the
+ * AFC slopes in flash: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
-/** Reads item 15 in RAM: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the reciprocals of the AFC slopes from RAM: 17 values (item 15). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2551,13 +2639,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_ar
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
 /** QV_ReadData_Ram_AFC_slope_value_reciprocal_arr for the port `port`, with the same results. Reads
- * item 15 in RAM: 17 values. Waits 1000 ms.
+ * the reciprocals of the AFC slopes from RAM: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 15 in RAM: 17 values. Waits 1000 ms.
+/** Writes the reciprocals of the AFC slopes in RAM: 17 values (item 15). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2566,14 +2654,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
 /** QV_WriteData_Ram_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
- * Writes item 15 in RAM: 17 values. Waits 1000 ms.
+ * Writes the reciprocals of the AFC slopes in RAM: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
-/** Reads item 15 in flash: 17 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (17 values)
+/** Reads the reciprocals of the AFC slopes from flash: 17 values (item 15). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2582,13 +2670,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_
     MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(1);
 
 /** QV_ReadData_Flash_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
- * Reads item 15 in flash: 17 values. Waits 1000 ms.
+ * Reads the reciprocals of the AFC slopes from flash: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (17 values) */
+ * @param values  what was read; what the answer lacks stays as it was (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
-/** Writes item 15 in flash: 17 values. Waits 1000 ms.
+/** Writes the reciprocals of the AFC slopes in flash: 17 values (item 15). Waits 1000 ms.
  * @param values  what is written (17 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2597,7 +2685,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
     MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(1);
 
 /** QV_WriteData_Flash_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
- * Writes item 15 in flash: 17 values. Waits 1000 ms.
+ * Writes the reciprocals of the AFC slopes in flash: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param values  what is written (17 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal_arr_MT(
@@ -2605,9 +2693,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
 
 /* ---- Calibration data: APC ----------------------------------------------------------- */
 
-/** Reads item 21 of a band in RAM: 80 values. Waits 1000 ms.
+/** Reads the power step factors of a band from RAM: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (80 values)
+ * @param values  what was read; what the answer lacks stays as it was (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2615,15 +2703,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Ram_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Reads
- * item 21 of a band in RAM: 80 values. Waits 1000 ms.
+/** QV_ReadData_Ram_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Reads the
+ * power step factors of a band from RAM: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (80 values) */
+ * @param values  what was read; what the answer lacks stays as it was (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 21 of a band in RAM: 80 values. Waits 1000 ms.
+/** Writes the power step factors of a band in RAM: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -2633,16 +2721,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(2);
 
 /** QV_WriteData_Ram_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Writes
- * item 21 of a band in RAM: 80 values. Waits 1000 ms.
+ * the power step factors of a band in RAM: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(3);
 
-/** Reads item 21 of a band in flash: 80 values. Waits 1000 ms.
+/** Reads the power step factors of a band from flash: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (80 values)
+ * @param values  what was read; what the answer lacks stays as it was (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2651,14 +2739,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
     uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(2);
 
 /** QV_ReadData_Flash_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Reads
- * item 21 of a band in flash: 80 values. Waits 1000 ms.
+ * the power step factors of a band from flash: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (80 values) */
+ * @param values  what was read; what the answer lacks stays as it was (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 21 of a band in flash: 80 values. Waits 1000 ms.
+/** Writes the power step factors of a band in flash: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (80 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -2668,16 +2756,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
     uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(2);
 
 /** QV_WriteData_Flash_APC_RF_ramppwr_step_factor for the port `port`, with the same results. Writes
- * item 21 of a band in flash: 80 values. Waits 1000 ms.
+ * the power step factors of a band in flash: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (80 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_IN_N(80) const uint16_t *values) MEROVANE_READS(3);
 
-/** Reads item 36 of a band in RAM: one value. Waits 1000 ms.
+/** Reads the power step factor for 8PSK of a band from RAM (item 36). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2686,14 +2774,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8P
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
 /** QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
- * Reads item 36 of a band in RAM: one value. Waits 1000 ms.
+ * Reads the power step factor for 8PSK of a band from RAM (item 36). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 36 of a band in RAM: one value. Waits 1000 ms.
+/** Writes the power step factor for 8PSK of a band in RAM (item 36). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -2703,16 +2791,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8
     uint32_t band, uint16_t value);
 
 /** QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
- * Writes item 36 of a band in RAM: one value. Waits 1000 ms.
+ * Writes the power step factor for 8PSK of a band in RAM (item 36). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_8Psk_MT(
     int32_t port, uint32_t band, uint16_t value);
 
-/** Reads item 36 of a band in flash: one value. Waits 1000 ms.
+/** Reads the power step factor for 8PSK of a band from flash (item 36). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2721,14 +2809,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
 /** QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
- * Reads item 36 of a band in flash: one value. Waits 1000 ms.
+ * Reads the power step factor for 8PSK of a band from flash (item 36). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_8Psk_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 36 of a band in flash: one value. Waits 1000 ms.
+/** Writes the power step factor for 8PSK of a band in flash (item 36). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -2738,7 +2826,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
     uint32_t band, uint16_t value);
 
 /** QV_WriteData_Flash_APC_RF_ramppwr_step_factor_8Psk for the port `port`, with the same results.
- * Writes item 36 of a band in flash: one value. Waits 1000 ms.
+ * Writes the power step factor for 8PSK of a band in flash (item 36). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
@@ -2747,9 +2835,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 
 /* ---- Calibration data: AGC ----------------------------------------------------------- */
 
-/** Reads item 24 of a band in RAM: one value. Waits 1000 ms.
+/** Reads the highest RF gain index of a band from RAM (item 24). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2757,15 +2845,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_APC_RF_ramppwr_step_factor
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Reads item 24
- * of a band in RAM: one value. Waits 1000 ms.
+/** QV_ReadData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Reads the
+ * highest RF gain index of a band from RAM (item 24). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 24 of a band in RAM: one value. Waits 1000 ms.
+/** Writes the highest RF gain index of a band in RAM (item 24). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -2774,17 +2862,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_max_rf_gain_index_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index(
     uint32_t band, uint16_t value);
 
-/** QV_WriteData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Writes item
- * 24 of a band in RAM: one value. Waits 1000 ms.
+/** QV_WriteData_Ram_AGC_max_rf_gain_index for the port `port`, with the same results. Writes the
+ * highest RF gain index of a band in RAM (item 24). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
     int32_t port, uint32_t band, uint16_t value);
 
-/** Reads item 24 of a band in flash: one value. Waits 1000 ms.
+/** Reads the highest RF gain index of a band from flash (item 24). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2792,15 +2880,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_max_rf_gain_index_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Reads item
- * 24 of a band in flash: one value. Waits 1000 ms.
+/** QV_ReadData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Reads the
+ * highest RF gain index of a band from flash (item 24). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 24 of a band in flash: one value. Waits 1000 ms.
+/** Writes the highest RF gain index of a band in flash (item 24). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -2809,17 +2897,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_max_rf_gain_index_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index(
     uint32_t band, uint16_t value);
 
-/** QV_WriteData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Writes item
- * 24 of a band in flash: one value. Waits 1000 ms.
+/** QV_WriteData_Flash_AGC_max_rf_gain_index for the port `port`, with the same results. Writes the
+ * highest RF gain index of a band in flash (item 24). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
     int32_t port, uint32_t band, uint16_t value);
 
-/** Reads item 18 of a band in RAM: `count` values. Waits 1000 ms.
+/** Reads the receive compensations of a band from RAM: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (`count` values)
+ * @param values  what was read; what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
@@ -2828,17 +2916,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_OUT_N(count) uint16_t *values, uint32_t count) MEROVANE_WRITES_N(2, 3);
 
-/** QV_ReadData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Reads item
- * 18 of a band in RAM: `count` values. Waits 1000 ms.
+/** QV_ReadData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Reads the
+ * receive compensations of a band from RAM: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (`count` values)
+ * @param values  what was read; what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(count) uint16_t *values,
     uint32_t count) MEROVANE_WRITES_N(3, 4);
 
-/** Writes item 18 of a band in RAM: `count` values. Waits 1000 ms.
+/** Writes the receive compensations of a band in RAM: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
@@ -2849,8 +2937,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
     uint32_t count) MEROVANE_READS_N(2, 3);
 
-/** QV_WriteData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Writes item
- * 18 of a band in RAM: `count` values. Waits 1000 ms.
+/** QV_WriteData_Ram_AGC_RX_compensate_value for the port `port`, with the same results. Writes the
+ * receive compensations of a band in RAM: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
@@ -2859,9 +2947,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
     int32_t port, uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
     uint32_t count) MEROVANE_READS_N(3, 4);
 
-/** Reads item 18 of a band in flash: `count` values. Waits 1000 ms.
+/** Reads the receive compensations of a band from flash: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (`count` values)
+ * @param values  what was read; what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
@@ -2870,17 +2958,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
     uint32_t band, MEROVANE_OUT_N(count) uint16_t *values, uint32_t count) MEROVANE_WRITES_N(2, 3);
 
-/** QV_ReadData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Reads item
- * 18 of a band in flash: `count` values. Waits 1000 ms.
+/** QV_ReadData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Reads the
+ * receive compensations of a band from flash: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (`count` values)
+ * @param values  what was read; what the answer lacks stays as it was (`count` values)
  * @param count  of values (1 to 32758) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(count) uint16_t *values,
     uint32_t count) MEROVANE_WRITES_N(3, 4);
 
-/** Writes item 18 of a band in flash: `count` values. Waits 1000 ms.
+/** Writes the receive compensations of a band in flash: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
  * @param count  of values (1 to 32758)
@@ -2892,7 +2980,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value(
     uint32_t count) MEROVANE_READS_N(2, 3);
 
 /** QV_WriteData_Flash_AGC_RX_compensate_value for the port `port`, with the same results. Writes
- * item 18 of a band in flash: `count` values. Waits 1000 ms.
+ * the receive compensations of a band in flash: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (`count` values)
@@ -2901,9 +2989,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT
     int32_t port, uint32_t band, MEROVANE_IN_N(count) const uint16_t *values,
     uint32_t count) MEROVANE_READS_N(3, 4);
 
-/** Reads item 23 of a band in RAM: 91 values. Waits 1000 ms.
+/** Reads the AGC control words of a band from RAM: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (91 values)
+ * @param values  what was read; what the answer lacks stays as it was (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2911,15 +2999,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Reads item 23 of a
- * band in RAM: 91 values. Waits 1000 ms.
+/** QV_ReadData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Reads the AGC
+ * control words of a band from RAM: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (91 values) */
+ * @param values  what was read; what the answer lacks stays as it was (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 23 of a band in RAM: 91 values. Waits 1000 ms.
+/** Writes the AGC control words of a band in RAM: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -2928,17 +3016,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_IN_N(91) const uint16_t *values) MEROVANE_READS(2);
 
-/** QV_WriteData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Writes item 23 of
- * a band in RAM: 91 values. Waits 1000 ms.
+/** QV_WriteData_Ram_AGC_agc_ctrl_word for the port `port`, with the same results. Writes the AGC
+ * control words of a band in RAM: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
     int32_t port, uint32_t band, MEROVANE_IN_N(91) const uint16_t *values) MEROVANE_READS(3);
 
-/** Reads item 23 of a band in flash: 91 values. Waits 1000 ms.
+/** Reads the AGC control words of a band from flash: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (91 values)
+ * @param values  what was read; what the answer lacks stays as it was (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2946,15 +3034,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(2);
 
-/** QV_ReadData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Reads item 23 of
- * a band in flash: 91 values. Waits 1000 ms.
+/** QV_ReadData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Reads the AGC
+ * control words of a band from flash: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (91 values) */
+ * @param values  what was read; what the answer lacks stays as it was (91 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 23 of a band in flash: 91 values. Waits 1000 ms.
+/** Writes the AGC control words of a band in flash: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (91 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -2963,8 +3051,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word(
     uint32_t band, MEROVANE_IN_N(91) const uint16_t *values) MEROVANE_READS(2);
 
-/** QV_WriteData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Writes item 23
- * of a band in flash: 91 values. Waits 1000 ms.
+/** QV_WriteData_Flash_AGC_agc_ctrl_word for the port `port`, with the same results. Writes the AGC
+ * control words of a band in flash: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (91 values) */
@@ -2973,10 +3061,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
 
 /* ---- Calibration data: ramp tables --------------------------------------------------- */
 
-/** Reads item 8 of a band in RAM: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** Reads a ramp table of a band from RAM: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what the answer lacks stays as it was (20 values)
+ * @param values  what was read; what the answer lacks stays as it was (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2984,17 +3072,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTable_Ram for the port `port`, with the same results. Reads item 8 of a band in RAM:
- * 20 values from offset 20 x `index`. Waits 1000 ms.
+/** QV_ReadRampTable_Ram for the port `port`, with the same results. Reads a ramp table of a band
+ * from RAM: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what the answer lacks stays as it was (20 values) */
+ * @param values  what was read; what the answer lacks stays as it was (20 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(4);
 
-/** Writes item 8 of a band in RAM: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** Writes a ramp table of a band in RAM: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
@@ -3004,8 +3092,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram(
     uint32_t band, uint16_t index, MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(3);
 
-/** QV_SetRampTable_Ram for the port `port`, with the same results. Writes item 8 of a band in RAM:
- * 20 values from offset 20 x `index`. Waits 1000 ms.
+/** QV_SetRampTable_Ram for the port `port`, with the same results. Writes a ramp table of a band in
+ * RAM: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
@@ -3014,10 +3102,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(4);
 
-/** Reads item 8 of a band in flash: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** Reads a ramp table of a band from flash: 20 values (item 8 at offset 20 x `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what the answer lacks stays as it was (20 values)
+ * @param values  what was read; what the answer lacks stays as it was (20 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3025,17 +3114,18 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTable_Flash for the port `port`, with the same results. Reads item 8 of a band in
- * flash: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** QV_ReadRampTable_Flash for the port `port`, with the same results. Reads a ramp table of a band
+ * from flash: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what the answer lacks stays as it was (20 values) */
+ * @param values  what was read; what the answer lacks stays as it was (20 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(4);
 
-/** Writes item 8 of a band in flash: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** Writes a ramp table of a band in flash: 20 values (item 8 at offset 20 x `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
  * @param values  what is written (20 values)
@@ -3045,8 +3135,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash(
     uint32_t band, uint16_t index, MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(3);
 
-/** QV_SetRampTable_Flash for the port `port`, with the same results. Writes item 8 of a band in
- * flash: 20 values from offset 20 x `index`. Waits 1000 ms.
+/** QV_SetRampTable_Flash for the port `port`, with the same results. Writes a ramp table of a band
+ * in flash: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
@@ -3055,10 +3145,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_IN_N(20) const uint16_t *values) MEROVANE_READS(4);
 
-/** Reads item 9 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a constant of the ramps up of a band from RAM (item 9 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3066,16 +3156,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTableConstUp_Ram for the port `port`, with the same results. Reads item 9 of a band
- * in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadRampTableConstUp_Ram for the port `port`, with the same results. Reads a constant of the
+ * ramps up of a band from RAM (item 9 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 9 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a constant of the ramps up of a band in RAM (item 9 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3085,8 +3175,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_SetRampTableConstUp_Ram for the port `port`, with the same results. Writes item 9 of a band
- * in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_SetRampTableConstUp_Ram for the port `port`, with the same results. Writes a constant of the
+ * ramps up of a band in RAM (item 9 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3094,10 +3184,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 9 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a constant of the ramps up of a band from flash (item 9 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3105,16 +3195,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTableConstUp_Flash for the port `port`, with the same results. Reads item 9 of a band
- * in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadRampTableConstUp_Flash for the port `port`, with the same results. Reads a constant of
+ * the ramps up of a band from flash (item 9 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 9 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a constant of the ramps up of a band in flash (item 9 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3124,8 +3214,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstUp_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_SetRampTableConstUp_Flash for the port `port`, with the same results. Writes item 9 of a band
- * in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_SetRampTableConstUp_Flash for the port `port`, with the same results. Writes a constant of
+ * the ramps up of a band in flash (item 9 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3133,10 +3223,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 10 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a constant of the ramps down of a band from RAM (item 10 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3144,16 +3235,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstUp_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTableConstDown_Ram for the port `port`, with the same results. Reads item 10 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadRampTableConstDown_Ram for the port `port`, with the same results. Reads a constant of
+ * the ramps down of a band from RAM (item 10 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 10 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a constant of the ramps down of a band in RAM (item 10 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3163,8 +3254,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_SetRampTableConstDown_Ram for the port `port`, with the same results. Writes item 10 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_SetRampTableConstDown_Ram for the port `port`, with the same results. Writes a constant of
+ * the ramps down of a band in RAM (item 10 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3172,10 +3263,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 10 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a constant of the ramps down of a band from flash (item 10 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3183,16 +3275,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadRampTableConstDown_Flash for the port `port`, with the same results. Reads item 10 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadRampTableConstDown_Flash for the port `port`, with the same results. Reads a constant of
+ * the ramps down of a band from flash (item 10 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 10 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a constant of the ramps down of a band in flash (item 10 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3202,8 +3295,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableConstDown_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_SetRampTableConstDown_Flash for the port `port`, with the same results. Writes item 10 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_SetRampTableConstDown_Flash for the port `port`, with the same results. Writes a constant of
+ * the ramps down of a band in flash (item 10 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3211,9 +3304,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 11 of a band in RAM: one value. Waits 1000 ms.
+/** Reads the number of ramp-up parameters of a band from RAM (item 11). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3221,15 +3314,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableConstDown_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** QV_ReadRampUpParamNum_Ram for the port `port`, with the same results. Reads item 11 of a band in
- * RAM: one value. Waits 1000 ms.
+/** QV_ReadRampUpParamNum_Ram for the port `port`, with the same results. Reads the number of
+ * ramp-up parameters of a band from RAM (item 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 11 of a band in RAM: one value. Waits 1000 ms.
+/** Writes the number of ramp-up parameters of a band in RAM (item 11). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -3237,17 +3330,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Ram_MT(
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram(uint32_t band, uint16_t value);
 
-/** QV_SetRampUpParamNum_Ram for the port `port`, with the same results. Writes item 11 of a band in
- * RAM: one value. Waits 1000 ms.
+/** QV_SetRampUpParamNum_Ram for the port `port`, with the same results. Writes the number of
+ * ramp-up parameters of a band in RAM (item 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
     int32_t port, uint32_t band, uint16_t value);
 
-/** Reads item 11 of a band in flash: one value. Waits 1000 ms.
+/** Reads the number of ramp-up parameters of a band from flash (item 11). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3255,15 +3348,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Ram_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash(
     uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(2);
 
-/** QV_ReadRampUpParamNum_Flash for the port `port`, with the same results. Reads item 11 of a band
- * in flash: one value. Waits 1000 ms.
+/** QV_ReadRampUpParamNum_Flash for the port `port`, with the same results. Reads the number of
+ * ramp-up parameters of a band from flash (item 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** Writes item 11 of a band in flash: one value. Waits 1000 ms.
+/** Writes the number of ramp-up parameters of a band in flash (item 11). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param value  what is written
  * @retval PC_ERR_INVALID_PARAM  another band
@@ -3271,17 +3364,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampUpParamNum_Flash_MT(
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash(uint32_t band, uint16_t value);
 
-/** QV_SetRampUpParamNum_Flash for the port `port`, with the same results. Writes item 11 of a band
- * in flash: one value. Waits 1000 ms.
+/** QV_SetRampUpParamNum_Flash for the port `port`, with the same results. Writes the number of
+ * ramp-up parameters of a band in flash (item 11). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param value  what is written */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
     int32_t port, uint32_t band, uint16_t value);
 
-/** Reads item 9 of a band in flash: 16 values. Waits 1000 ms.
+/** Reads all constants of the ramps up of a band from flash: 16 values (item 9). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (16 values)
+ * @param values  what was read; what the answer lacks stays as it was (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3289,15 +3382,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
     uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(2);
 
-/** QV_ReadRampTableAllConstUp_Flash for the port `port`, with the same results. Reads item 9 of a
- * band in flash: 16 values. Waits 1000 ms.
+/** QV_ReadRampTableAllConstUp_Flash for the port `port`, with the same results. Reads all constants
+ * of the ramps up of a band from flash: 16 values (item 9). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (16 values) */
+ * @param values  what was read; what the answer lacks stays as it was (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 9 of a band in flash: 16 values. Waits 1000 ms.
+/** Writes all constants of the ramps up of a band in flash: 16 values (item 9). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -3306,17 +3399,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash(
     uint32_t band, MEROVANE_IN_N(16) const uint16_t *values) MEROVANE_READS(2);
 
-/** QV_SetRampTableAllConstUp_Flash for the port `port`, with the same results. Writes item 9 of a
- * band in flash: 16 values. Waits 1000 ms.
+/** QV_SetRampTableAllConstUp_Flash for the port `port`, with the same results. Writes all constants
+ * of the ramps up of a band in flash: 16 values (item 9). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_IN_N(16) const uint16_t *values) MEROVANE_READS(3);
 
-/** Reads item 10 of a band in flash: 16 values. Waits 1000 ms.
+/** Reads all constants of the ramps down of a band from flash: 16 values (item 10). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (16 values)
+ * @param values  what was read; what the answer lacks stays as it was (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3324,15 +3417,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
     uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(2);
 
-/** QV_ReadRampTableAllConstDown_Flash for the port `port`, with the same results. Reads item 10 of
- * a band in flash: 16 values. Waits 1000 ms.
+/** QV_ReadRampTableAllConstDown_Flash for the port `port`, with the same results. Reads all
+ * constants of the ramps down of a band from flash: 16 values (item 10). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what the answer lacks stays as it was (16 values) */
+ * @param values  what was read; what the answer lacks stays as it was (16 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(3);
 
-/** Writes item 10 of a band in flash: 16 values. Waits 1000 ms.
+/** Writes all constants of the ramps down of a band in flash: 16 values (item 10). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param values  what is written (16 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
@@ -3341,8 +3434,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash(
     uint32_t band, MEROVANE_IN_N(16) const uint16_t *values) MEROVANE_READS(2);
 
-/** QV_SetRampTableAllConstDown_Flash for the port `port`, with the same results. Writes item 10 of
- * a band in flash: 16 values. Waits 1000 ms.
+/** QV_SetRampTableAllConstDown_Flash for the port `port`, with the same results. Writes all
+ * constants of the ramps down of a band in flash: 16 values (item 10). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param values  what is written (16 values) */
@@ -3351,10 +3444,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
 
 /* ---- Calibration data: transmit timing and gain -------------------------------------- */
 
-/** Reads item 12 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a timing difference of transmission of a band from RAM (item 12 at offset `index`). Waits
+ * 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3362,16 +3456,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstDown_Flash_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Ram_Delta_Timing for the port `port`, with the same results. Reads item 12 of a band
- * in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Ram_Delta_Timing for the port `port`, with the same results. Reads a timing
+ * difference of transmission of a band from RAM (item 12 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 12 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a timing difference of transmission of a band in RAM (item 12 at offset `index`). Waits
+ * 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3381,8 +3476,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Ram_Delta_Timing for the port `port`, with the same results. Writes item 12 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Ram_Delta_Timing for the port `port`, with the same results. Writes a timing
+ * difference of transmission of a band in RAM (item 12 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3390,10 +3485,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 12 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a timing difference of transmission of a band from flash (item 12 at offset `index`).
+ * Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3401,16 +3497,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Flash_Delta_Timing for the port `port`, with the same results. Reads item 12 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Flash_Delta_Timing for the port `port`, with the same results. Reads a timing
+ * difference of transmission of a band from flash (item 12 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 12 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a timing difference of transmission of a band in flash (item 12 at offset `index`). Waits
+ * 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3420,8 +3517,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Flash_Delta_Timing for the port `port`, with the same results. Writes item 12 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Flash_Delta_Timing for the port `port`, with the same results. Writes a timing
+ * difference of transmission of a band in flash (item 12 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3429,10 +3526,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 13 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a duration of transmission of a band from RAM (item 13 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3440,16 +3537,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Ram_Duration for the port `port`, with the same results. Reads item 13 of a band in
- * RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Ram_Duration for the port `port`, with the same results. Reads a duration of
+ * transmission of a band from RAM (item 13 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 13 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a duration of transmission of a band in RAM (item 13 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3459,8 +3556,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Ram_Duration for the port `port`, with the same results. Writes item 13 of a band
- * in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Ram_Duration for the port `port`, with the same results. Writes a duration of
+ * transmission of a band in RAM (item 13 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3468,10 +3565,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 13 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a duration of transmission of a band from flash (item 13 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3479,16 +3577,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Flash_Duration for the port `port`, with the same results. Reads item 13 of a band
- * in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Flash_Duration for the port `port`, with the same results. Reads a duration of
+ * transmission of a band from flash (item 13 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 13 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a duration of transmission of a band in flash (item 13 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3498,8 +3596,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Flash_Duration for the port `port`, with the same results. Writes item 13 of a band
- * in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Flash_Duration for the port `port`, with the same results. Writes a duration of
+ * transmission of a band in flash (item 13 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3507,10 +3605,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 38 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a timing difference of 8PSK transmission of a band from RAM (item 38 at offset `index`).
+ * Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3518,16 +3617,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Reads item 38 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Reads a timing
+ * difference of 8PSK transmission of a band from RAM (item 38 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 38 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a timing difference of 8PSK transmission of a band in RAM (item 38 at offset `index`).
+ * Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3537,8 +3637,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Delta_Timing_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Writes item 38 of
- * a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Ram_Delta_Timing_8PSK for the port `port`, with the same results. Writes a timing
+ * difference of 8PSK transmission of a band in RAM (item 38 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3546,10 +3646,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 38 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a timing difference of 8PSK transmission of a band from flash (item 38 at offset `index`).
+ * Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3557,16 +3658,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Delta_Timing_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Reads item 38 of
- * a band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Reads a timing
+ * difference of 8PSK transmission of a band from flash (item 38 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 38 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a timing difference of 8PSK transmission of a band in flash (item 38 at offset `index`).
+ * Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3576,8 +3678,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Delta_Timing_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Writes item 38
- * of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Flash_Delta_Timing_8PSK for the port `port`, with the same results. Writes a timing
+ * difference of 8PSK transmission of a band in flash (item 38 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3585,10 +3687,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 39 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a duration of 8PSK transmission of a band from RAM (item 39 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3596,16 +3699,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Delta_Timing_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Ram_Duration_8PSK for the port `port`, with the same results. Reads item 39 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Ram_Duration_8PSK for the port `port`, with the same results. Reads a duration of
+ * 8PSK transmission of a band from RAM (item 39 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 39 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Writes a duration of 8PSK transmission of a band in RAM (item 39 at offset `index`). Waits 1000
+ * ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3615,8 +3719,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_Duration_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Ram_Duration_8PSK for the port `port`, with the same results. Writes item 39 of a
- * band in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Ram_Duration_8PSK for the port `port`, with the same results. Writes a duration of
+ * 8PSK transmission of a band in RAM (item 39 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3624,10 +3728,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 39 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a duration of 8PSK transmission of a band from flash (item 39 at offset `index`). Waits
+ * 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3635,16 +3740,17 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_Duration_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Flash_Duration_8PSK for the port `port`, with the same results. Reads item 39 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Flash_Duration_8PSK for the port `port`, with the same results. Reads a duration of
+ * 8PSK transmission of a band from flash (item 39 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Writes item 39 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Writes a duration of 8PSK transmission of a band in flash (item 39 at offset `index`). Waits
+ * 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
  * @param value  what is written
@@ -3654,8 +3760,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_Duration_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK(
     uint32_t band, uint16_t index, uint16_t value);
 
-/** QV_WriteData_Flash_Duration_8PSK for the port `port`, with the same results. Writes item 39 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_WriteData_Flash_Duration_8PSK for the port `port`, with the same results. Writes a duration
+ * of 8PSK transmission of a band in flash (item 39 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
@@ -3663,10 +3769,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK(
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, uint16_t value);
 
-/** Reads item 37 of a band in RAM: one value from offset `index`. Waits 1000 ms.
+/** Reads a transmit gain for 8PSK of a band from RAM (item 37 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3674,19 +3780,19 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_Duration_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Ram_TxGain_8PSK for the port `port`, with the same results. Reads item 37 of a band
- * in RAM: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Ram_TxGain_8PSK for the port `port`, with the same results. Reads a transmit gain
+ * for 8PSK of a band from RAM (item 37 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
-/** Reads item 37 of a band in flash: one value from offset `index`. Waits 1000 ms.
+/** Reads a transmit gain for 8PSK of a band from flash (item 37 at offset `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was
+ * @param value  what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `value` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3694,21 +3800,21 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_TxGain_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK(
     uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(3);
 
-/** QV_ReadData_Flash_TxGain_8PSK for the port `port`, with the same results. Reads item 37 of a
- * band in flash: one value from offset `index`. Waits 1000 ms.
+/** QV_ReadData_Flash_TxGain_8PSK for the port `port`, with the same results. Reads a transmit gain
+ * for 8PSK of a band from flash (item 37 at offset `index`). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the element
- * @param value  what the answer lacks stays as it was */
+ * @param value  what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
     int32_t port, uint32_t band, uint16_t index, MEROVANE_OUT uint16_t *value) MEROVANE_WRITES(4);
 
 /* ---- Calibration data: IMEIs in flash ------------------------------------------------ */
 
-/** Reads item 30 in flash, an IMEI. Waits 1000 ms.
+/** Reads the first IMEI from flash (item 30). Waits 1000 ms.
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
- *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
+ *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3716,33 +3822,33 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI(
     MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_IMEI for the port `port`, with the same results. Reads item 30 in flash, an
- * IMEI. Waits 1000 ms.
+/** QV_ReadData_Flash_IMEI for the port `port`, with the same results. Reads the first IMEI from
+ * flash (item 30). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
- *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes) */
+ *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI_MT(
     int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
-/** Writes item 30 in flash, an IMEI. Waits 3000 ms.
+/** Writes the first IMEI in flash (item 30). Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
  * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI(MEROVANE_IN_TEXT const char *text);
 
-/** QV_WriteData_Flash_IMEI for the port `port`, with the same results. Writes item 30 in flash, an
- * IMEI. Waits 3000 ms.
+/** QV_WriteData_Flash_IMEI for the port `port`, with the same results. Writes the first IMEI in
+ * flash (item 30). Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  begins with 15 decimal digits; what follows does not matter */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
     int32_t port, MEROVANE_IN_TEXT const char *text);
 
-/** Reads item 35 in flash, an IMEI. Waits 1000 ms.
+/** Reads the second IMEI from flash (item 35). Waits 1000 ms.
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
- *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes)
+ *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes)
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3750,24 +3856,24 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI(
     MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(1);
 
-/** QV_ReadData_Flash_SecIMEI for the port `port`, with the same results. Reads item 35 in flash, an
- * IMEI. Waits 1000 ms.
+/** QV_ReadData_Flash_SecIMEI for the port `port`, with the same results. Reads the second IMEI from
+ * flash (item 35). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters; a digit that the answer lacks shows as 0, so an erased IMEI reads
- *   as 151515151515151 with PC_ERR_SUCCESS (16 bytes) */
+ *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI_MT(
     int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
-/** Writes item 35 in flash, an IMEI. Waits 3000 ms.
+/** Writes the second IMEI in flash (item 35). Waits 3000 ms.
  * @param text  begins with 15 decimal digits; what follows does not matter
  * @retval PC_ERR_INVALID_PARAM  `text` is null; a text that does not begin with 15 decimal digits
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI(MEROVANE_IN_TEXT const char *text);
 
-/** QV_WriteData_Flash_SecIMEI for the port `port`, with the same results. Writes item 35 in flash,
- * an IMEI. Waits 3000 ms.
+/** QV_WriteData_Flash_SecIMEI for the port `port`, with the same results. Writes the second IMEI in
+ * flash (item 35). Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param text  begins with 15 decimal digits; what follows does not matter */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(
@@ -3775,20 +3881,20 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(
 
 /* ---- Calibration data: saving, RF scheme --------------------------------------------- */
 
-/** Saves all items in RAM to flash, through item 32.
+/** Saves all items in RAM to flash (item 32).
  * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds)
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
 
-/** QV_SaveToFlash for the port `port`, with the same results. Saves all items in RAM to flash,
- * through item 32.
+/** QV_SaveToFlash for the port `port`, with the same results. Saves all items in RAM to flash (item
+ * 32).
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t timeout_ms);
 
-/** Reads item 33 in RAM: 6 values. Waits 1000 ms.
- * @param values  what the answer lacks stays as it was (6 values)
+/** Reads the RF scheme from RAM: 6 values (item 33). Waits 1000 ms.
+ * @param values  what was read; what the answer lacks stays as it was (6 values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3796,21 +3902,23 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t time
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(
     MEROVANE_OUT_N(6) uint16_t *values) MEROVANE_WRITES(1);
 
-/** QV_GetRfScheme for the port `port`, with the same results. Reads item 33 in RAM: 6 values. Waits
- * 1000 ms.
+/** QV_GetRfScheme for the port `port`, with the same results. Reads the RF scheme from RAM: 6
+ * values (item 33). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what the answer lacks stays as it was (6 values) */
+ * @param values  what was read; what the answer lacks stays as it was (6 values) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(
     int32_t port, MEROVANE_OUT_N(6) uint16_t *values) MEROVANE_WRITES(2);
 
 /* ---- Calibration data: temperature and EDGE compensation ----------------------------- */
 
-/** Reads or writes item 48: 5 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the oscillator's temperature compensation as DAC values: 5 values (item 48).
+ * Waits 1000 ms. For the default phone object only. The result is reported under the operation id
+ * of the command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (5
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3819,12 +3927,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_OSCI_TEMP_COM_IN_DAC(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(5) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 49: 9 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the temperature compensation of GSM transmission: 9 values (item 49). Waits 1000
+ * ms. For the default phone object only. The result is reported under the operation id of the
+ * command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (9 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (9
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3833,12 +3943,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TX_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(9) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 50: 9 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the temperature compensation of EDGE transmission: 9 values (item 50). Waits
+ * 1000 ms. For the default phone object only. The result is reported under the operation id of the
+ * command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (9 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (9
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3847,12 +3959,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TX_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(9) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 51: 6 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the temperature compensation of GSM transmit power: 6 values (item 51). Waits
+ * 1000 ms. For the default phone object only. The result is reported under the operation id of the
+ * command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (6 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (6
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3861,12 +3975,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TXPOWER_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(6) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 52: 6 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the temperature compensation of EDGE transmit power: 6 values (item 52). Waits
+ * 1000 ms. For the default phone object only. The result is reported under the operation id of the
+ * command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (6 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (6
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3875,12 +3991,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TXPOWER_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(6) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 53: 4 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the ARFCN indices that bound the transmit compensation: 4 values (item 53).
+ * Waits 1000 ms. For the default phone object only. The result is reported under the operation id
+ * of the command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (4
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3889,12 +4007,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TX_COMPENSATE_BOUNDARY_ARFCN_INDEX(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(4) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 54: 4 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the ADC values of the receiver's temperature compensation: 4 values (item 54).
+ * Waits 1000 ms. For the default phone object only. The result is reported under the operation id
+ * of the command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (4
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3903,12 +4023,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_COMPENSATE_ADC(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(4) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 55: 5 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the temperature compensation of receive levels: 5 values (item 55). Waits 1000
+ * ms. For the default phone object only. The result is reported under the operation id of the
+ * command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (5
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3917,12 +4039,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_LEVEL_COMPENSATE(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(5) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 56: 4 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the ADC values of the transmitter's temperature compensation: 4 values (item
+ * 56). Waits 1000 ms. For the default phone object only. The result is reported under the operation
+ * id of the command before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (4 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (4
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3931,12 +4055,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_COMPENSATE_ADC(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(4) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 57: 5 values. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the power step factors by temperature: 5 values (item 57). Waits 1000 ms. For
+ * the default phone object only. The result is reported under the operation id of the command
+ * before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (5 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (5
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3945,12 +4071,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(5) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 58: one value. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the timing difference of EDGE transmission: one value (item 58). Waits 1000 ms.
+ * For the default phone object only. The result is reported under the operation id of the command
+ * before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (1 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (1
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3959,12 +4087,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
     uint32_t read, uint32_t flash, uint16_t band,
     MEROVANE_INOUT_N(1) uint16_t *values) MEROVANE_UPDATES(4);
 
-/** Reads or writes item 59: one value. Waits 1000 ms. For the default phone object only; the result
- * is reported under the operation id of the command before.
+/** Reads or writes the power-on duration of EDGE transmission: one value (item 59). Waits 1000 ms.
+ * For the default phone object only. The result is reported under the operation id of the command
+ * before.
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written; reading leaves what the answer lacks as it was (1 values)
+ * @param values  what is written, or what was read; what the answer lacks stays as it was (1
+ *   values)
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3979,7 +4109,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_POWER_ON_DURATION(
  * sent. A new phone object begins with QV_BAND_GSM, which QV_CalDirectCurr sets again.
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  another band; the band that was chosen stays
- * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS), one of the above or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
 
 /** QV_SetPhoneClassmark_MChip for the port `port`, with the same effect and results.
@@ -3988,9 +4118,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip(uint32_t band);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneClassmark_MChip_MT(int32_t port, uint32_t band);
 
 /** Chooses how QV_AfcStart_MChip trims the handset's frequency. Nothing is sent. A new phone object
- * begins with 0.
+ * begins with 0. The result is reported under the operation id of the command before.
  * @param mode  not 0: with CDAC and CAFC; 0: with the CAFC centre
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS) or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
 
 /** QV_SetPhoneAfcMode for the port `port`, with the same results. Chooses how QV_AfcStart_MChip
@@ -4000,12 +4130,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode(uint32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t mode);
 
 /** Sets the transmit parameters that go to the handset whenever its transmitter is switched.
- * Nothing is sent. A new phone object begins with zeros. For the default phone object only.
+ * Nothing is sent. A new phone object begins with zeros. For the default phone object only. The
+ * result is reported under the operation id of the command before.
  * @param first  its meaning, and that of the others, is the handset's
  * @param second  sent after it
  * @param third  sent after it
  * @param fourth  sent after it
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS) or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTxParam(
     uint32_t first, uint16_t second, uint16_t third, uint16_t fourth);
 
@@ -4026,7 +4157,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Active_MChip_MT(int32_t port, uint32_t on)
  * off. In the band of QV_SetPhoneClassmark_MChip. Each step waits 1000 ms; the first one that fails
  * ends the command. The channel is sent only when it differs from the one that was sent last on
  * this phone object (0 at first), even when the band has changed or the handset has been restarted
- * since.
+ * since. The result is reported under the operation id of the command before.
  * @param on  not 0: on; 0: off
  * @param channel  not used to switch off
  * @param level  power control level, not used to switch off
@@ -4072,7 +4203,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
  * @param start  not 0: measure; 0: switch off
  * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
  *   off needs too, and [3] is the power control level
- * @param measured  `value` stays as it was (looked at only when `start` is not 0)
+ * @param measured  RSSI is there even when reading RxLevel fails; `value` stays as it was (looked
+ *   at only when `start` is not 0)
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null; `measured` is null when `start` is not 0
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
  * @retval PC_ERR_INVALID_RSSI  RSSI was 0 in all reads; `measured->rssi` is 0
@@ -4087,7 +4219,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
  * @param start  not 0: measure; 0: switch off
  * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
  *   off needs too, and [3] is the power control level
- * @param measured  `value` stays as it was (looked at only when `start` is not 0) */
+ * @param measured  RSSI is there even when reading RxLevel fails; `value` stays as it was (looked
+ *   at only when `start` is not 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
     int32_t port, uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
     MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
@@ -4141,11 +4274,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
 
 /* ---- Calibration: power factors and ramps of multi-chip handsets --------------------- */
 
-/** Writes `third` to item 21 in RAM in the band of QV_SetPhoneClassmark_MChip. Waits 1000 ms. Its
- * offset is 16 x `fourth` + `second`, less 5 when `first` is QV_BAND_GSM or QV_BAND_GSM850. Nothing
- * is sent when `second`, `third` and `fourth` are those that this function wrote last, whatever the
- * band and even if the handset was restarted since: the result is 0.
- * @param step  band, level, value and index, as described there
+/** Writes a power step factor in RAM (item 21): `third`, in the band of QV_SetPhoneClassmark_MChip,
+ * at offset 16 x `fourth` + `second`, less 5 when `first` is QV_BAND_GSM or QV_BAND_GSM850; the
+ * offset keeps 16 bits. Waits 1000 ms. When `second`, `third` and `fourth` are those that this
+ * function wrote last on this phone object, nothing is sent and the result is PC_ERR_SUCCESS, even
+ * when the band has changed or the handset has been restarted since.
+ * @param step  `first` is the band (here any value), `second` the power control level, `third` the
+ *   value and `fourth` the table
  * @retval PC_ERR_INVALID_PARAM  `step` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -4154,73 +4289,86 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip(
 
 /** QV_PwrStepFactorSet_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step  band, level, value and index, as described there */
+ * @param step  `first` is the band (here any value), `second` the power control level, `third` the
+ *   value and `fourth` the table */
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Writes `third` to item 36 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
+/** Writes an 8PSK power step factor in flash (item 36) in the band `first`. Otherwise as
+ * QV_PwrStepFactorSet_MChip.
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `step->first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_Set_Flash_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes `third` to
- * item 36 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
+/** QV_Set_Flash_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes an 8PSK
+ * power step factor in flash (item 36) in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step  band, level, value and index, as described there */
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_FACTOR_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Writes `third` to item 36 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
+/** Writes an 8PSK power step factor in RAM (item 36) in the band `first`. Otherwise as
+ * QV_PwrStepFactorSet_MChip.
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `step->first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_Set_Ram_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes `third` to
- * item 36 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
+/** QV_Set_Ram_8PSK_PWR_FACTOR_MChip for the port `port`, with the same results. Writes an 8PSK
+ * power step factor in RAM (item 36) in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step  band, level, value and index, as described there */
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_FACTOR_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Writes `third` to item 37 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
+/** Writes an 8PSK transmit gain in flash (item 37) in the band `first`. Otherwise as
+ * QV_PwrStepFactorSet_MChip.
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `step->first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes `third`
- * to item 37 in flash in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
+/** QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes an 8PSK
+ * transmit gain in flash (item 37) in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step  band, level, value and index, as described there */
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Flash_8PSK_PWR_TX_GAIN_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Writes `third` to item 37 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
- * @param step  band, level, value and index, as described there
- * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `first`
+/** Writes an 8PSK transmit gain in RAM (item 37) in the band `first`. Otherwise as
+ * QV_PwrStepFactorSet_MChip.
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table
+ * @retval PC_ERR_INVALID_PARAM  `step` is null; another band in `step->first`
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip(
     MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(1);
 
-/** QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes `third` to
- * item 37 in RAM in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
+/** QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip for the port `port`, with the same results. Writes an 8PSK
+ * transmit gain in RAM (item 37) in the band `first`. Otherwise as QV_PwrStepFactorSet_MChip.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param step  band, level, value and index, as described there */
+ * @param step  `first` is the band, `second` the power control level, `third` the value and
+ *   `fourth` the table */
 MEROVANE_API int32_t MEROVANE_CALL QV_Set_Ram_8PSK_PWR_TX_GAIN_MChip_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Writes two ramp tables in RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms
- * for each.
- * @param flag  which pair of items
+/** Writes two ramp tables in RAM. Waits 1000 ms for each; when the first fails, the second is not
+ * written.
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
@@ -4232,9 +4380,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip(
     MEROVANE_IN_N(16) const uint16_t *second, uint32_t band) MEROVANE_READS(2) MEROVANE_READS(3);
 
 /** QV_RampSetting_Ram_MChip for the port `port`, with the same results. Writes two ramp tables in
- * RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
+ * RAM. Waits 1000 ms for each; when the first fails, the second is not written.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param flag  which pair of items
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND */
@@ -4242,12 +4390,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_IN_N(16) const uint16_t *first,
     MEROVANE_IN_N(16) const uint16_t *second, uint32_t band) MEROVANE_READS(3) MEROVANE_READS(4);
 
-/** Reads two ramp tables from RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000
- * ms for each.
- * @param flag  which pair of items
- * @param first  the points of the first item; those that an answer lacks stay as they were (16
+/** Reads two ramp tables from RAM. Waits 1000 ms for each; when the first fails, the second is not
+ * read.
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
+ * @param first  the points of the first item; those that an answer lacks stay as they were. They
+ *   are there even when reading the second item fails (16 values)
+ * @param second  the points of the second item; those that an answer lacks stay as they were (16
  *   values)
- * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
@@ -4258,20 +4407,21 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip(
     uint32_t band) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
 /** QV_ReadRamp_Ram_MChip for the port `port`, with the same results. Reads two ramp tables from
- * RAM: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
+ * RAM. Waits 1000 ms for each; when the first fails, the second is not read.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param flag  which pair of items
- * @param first  the points of the first item; those that an answer lacks stay as they were (16
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
+ * @param first  the points of the first item; those that an answer lacks stay as they were. They
+ *   are there even when reading the second item fails (16 values)
+ * @param second  the points of the second item; those that an answer lacks stay as they were (16
  *   values)
- * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first,
     MEROVANE_OUT_N(16) uint16_t *second, uint32_t band) MEROVANE_WRITES(3) MEROVANE_WRITES(4);
 
-/** Writes two ramp tables in flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000
- * ms for each.
- * @param flag  which pair of items
+/** Writes two ramp tables in flash. Waits 1000 ms for each; when the first fails, the second is not
+ * written.
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
@@ -4283,9 +4433,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip(
     MEROVANE_IN_N(16) const uint16_t *second, uint32_t band) MEROVANE_READS(2) MEROVANE_READS(3);
 
 /** QV_RampSetting_Flash_MChip for the port `port`, with the same results. Writes two ramp tables in
- * flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
+ * flash. Waits 1000 ms for each; when the first fails, the second is not written.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param flag  which pair of items
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
  * @param first  the points of the first item (16 values)
  * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND */
@@ -4293,12 +4443,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_IN_N(16) const uint16_t *first,
     MEROVANE_IN_N(16) const uint16_t *second, uint32_t band) MEROVANE_READS(3) MEROVANE_READS(4);
 
-/** Reads two ramp tables from flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000
- * ms for each.
- * @param flag  which pair of items
- * @param first  the points of the first item; those that an answer lacks stay as they were (16
+/** Reads two ramp tables from flash. Waits 1000 ms for each; when the first fails, the second is
+ * not read.
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
+ * @param first  the points of the first item; those that an answer lacks stay as they were. They
+ *   are there even when reading the second item fails (16 values)
+ * @param second  the points of the second item; those that an answer lacks stay as they were (16
  *   values)
- * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
@@ -4309,12 +4460,13 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip(
     uint32_t band) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
 /** QV_ReadRamp_Flash_MChip for the port `port`, with the same results. Reads two ramp tables from
- * flash: items 9 and 11 when `flag` is not 0, else 8 and 10. Waits 1000 ms for each.
+ * flash. Waits 1000 ms for each; when the first fails, the second is not read.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param flag  which pair of items
- * @param first  the points of the first item; those that an answer lacks stay as they were (16
+ * @param flag  not 0: items 9 and 11; 0: items 8 and 10
+ * @param first  the points of the first item; those that an answer lacks stay as they were. They
+ *   are there even when reading the second item fails (16 values)
+ * @param second  the points of the second item; those that an answer lacks stay as they were (16
  *   values)
- * @param second  the points of the second item (16 values)
  * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first,
@@ -4382,9 +4534,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
 /** Chooses what QV_PwrStepFactorSet_TD tells the handset of continuous transmission and reception.
- * Nothing is sent. A new phone object begins with 0.
+ * Nothing is sent. A new phone object begins with 0. The result is reported under the operation id
+ * of the command before.
  * @param mode  not 0: continuous; 0: not
- * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN */
+ * @return 0 (PC_ERR_SUCCESS) or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
 
 /** QV_SetTDContTxRxMode for the port `port`, with the same effect and results.

@@ -1,7 +1,7 @@
-/* Calling convention, linkage and the records that exported functions take.
+/* Calling convention, linkage, and the constants and records that exported functions take.
  *
- * Records stand in the caller's memory, in this machine's byte order, without padding between their
- * fields other than shown. */
+ * Records stand in the caller's memory, in this machine's byte order. There is no padding between
+ * their fields but what is shown. */
 #ifndef MEROVANE_TYPES_H
 #define MEROVANE_TYPES_H
 
@@ -38,7 +38,7 @@ typedef enum QV_NV_BAND {
   QV_NV_BAND_PCS = 3
 } QV_NV_BAND;
 
-/** What QV_ChangeGSMTDCalMode and QV_InitGSMTDCalMode can ask for. */
+/** The modes of QV_ChangeGSMTDCalMode and QV_InitGSMTDCalMode. */
 typedef enum QV_CALIBRATION_MODE {
   QV_CALIBRATION_MODE_GSM = 1,
   QV_CALIBRATION_MODE_TD = 7
@@ -52,6 +52,12 @@ typedef enum QV_PROPERTY {
   QV_PROPERTY_RECEIVE_MODE = 3,
   QV_PROPERTY_BIG_ENDIAN = 4
 } QV_PROPERTY;
+
+/** How a port receives: in the thread of the command that waits, or in a thread of its own. */
+typedef enum QV_RECEIVE_MODE {
+  QV_RECEIVE_MODE_CALLER = 0,
+  QV_RECEIVE_MODE_THREAD = 1
+} QV_RECEIVE_MODE;
 
 /** The units in which QV_ReadRegister and QV_WriteRegister access memory. */
 typedef enum QV_ACCESS_WIDTH {
@@ -77,24 +83,25 @@ typedef enum QV_WIFI_FACTOR_ACTION {
   QV_WIFI_FACTOR_SET = 2
 } QV_WIFI_FACTOR_ACTION;
 
-/** An event of the caller's: a Win32 event handle on Windows, elsewhere an eventfd descriptor. 0
- * and, elsewhere than on Windows, negative values count as null. */
+/** An event of the caller's: on Windows an event's handle, elsewhere an eventfd descriptor. 0
+ * counts as null, and so do negative descriptors. Setting one never blocks, even a descriptor that
+ * blocks or whose count is full. */
 #if defined(_WIN32)
 typedef void* QV_EVENT;
 #else
 typedef intptr_t QV_EVENT;
 #endif
 
-/** The eight numbers of the serving cell line "+CCED:", in its order; those that it lacks are 0. */
+/** The eight numbers of the handset's line "+CCED:", in its order; those that it lacks are 0. */
 typedef struct QV_CELL_INFO {
   int32_t values[8];
 } QV_CELL_INFO;
 
 /* ---- Memory, identity and short-range radios ---- */
 
-/** The fixed-NV information: 168 bytes. A write takes the fields whose flag is not 0; a read fills
- * every field and leaves the flags. Texts need no terminating zero when written; when read they are
- * terminated. */
+/** The fixed-NV information, 168 bytes. Writing takes the fields whose flag is not 0. Reading fills
+ * every field and leaves the flags as they were. Texts need no terminating zero when they are
+ * written; when they are read, zeros fill what follows them. */
 typedef struct QV_FIXED_NV_INFO {
   uint32_t write_imei1;
   uint32_t write_imei2;
@@ -102,24 +109,24 @@ typedef struct QV_FIXED_NV_INFO {
   uint32_t write_parameter_block;
   uint32_t write_imei4;
   uint32_t write_imei3;
-  /** 15 decimal digits; more are ignored. */
+  /** 15 decimal digits; what follows them is ignored. */
   char imei1[16];
   char imei2[16];
-  /** 12 hexadecimal digits, most significant byte first, without separators; read in capitals. */
+  /** 12 hexadecimal digits, most significant byte first, without separators; capitals when read. */
   char bluetooth_address[16];
   /** The GPS settings block of QV_GpsWriteNv. */
   uint8_t parameter_block[44];
   char imei3[16];
   char imei4[16];
-  /** A second network address, as bluetooth_address. */
+  /** A second network address, written like the first. */
   char second_address[16];
   uint32_t write_second_address;
 } QV_FIXED_NV_INFO;
 
-/** What QV_GetFlashInfo reads: 384 bytes. The words' meanings are the handset's. */
+/** What QV_GetFlashInfo reads, 384 bytes. What the words mean is the handset's. */
 typedef struct QV_FLASH_INFO {
   uint32_t identifier[2];
-  /** At most 31. Records after these are as they arrived. */
+  /** At most 31. The regions that it does not count are as they arrived. */
   uint32_t region_count;
   struct {
     uint32_t words[3];
@@ -128,48 +135,51 @@ typedef struct QV_FLASH_INFO {
 
 /** One WiFi calibration factor. */
 typedef struct QV_WIFI_FACTOR {
-  /** 0 after a read; not used otherwise. */
+  /** 0 when it was read; not used when it is written. */
   uint32_t status;
   /** 1 to 5. */
   uint32_t index;
   uint32_t value;
 } QV_WIFI_FACTOR;
 
-/* ---- Radio calibration. What a value means is the handset's where it is not said here. */
+/* ---- Radio calibration. Where no meaning of a value is given, it is the handset's. */
 
-/** Parameters of an AFC run. Sent in the order 1, 2, 0, 3. Multi-chip handsets take values[1] as
- * channel, [2] as power control level, [0] as CAFC centre or CDAC and [3] as CAFC. */
+/** The trim of a transmission, sent in the order 1, 2, 0, 3. For multi-chip handsets values[1] is
+ * the channel, [2] the power control level, [0] the CAFC centre or CDAC, and [3] the CAFC. */
 typedef struct QV_AFC_PARAMETERS {
   uint16_t values[4];
 } QV_AFC_PARAMETERS;
 
-/** An extended AFC run: the first two are given, the last two are what came. */
+/** An extended AFC run: the caller gives values and count, and gets the report. */
 typedef struct QV_EXTENDED_AFC {
   uint16_t values[4];
-  uint16_t count; /**< at most 16 */
+  /** At most 16. Checked, but not sent. */
+  uint16_t count;
   uint16_t padding;
+  /** How much of the report came. */
   uint32_t report_bytes;
   uint16_t report[13824];
 } QV_EXTENDED_AFC;
 
-/** Parameters of a receive measurement, sent in this order. Multi-chip handsets take words[0] as
- * channel, [1] and [2] as receive parameters and [3] as power control level. */
+/** The parameters of a receive measurement, sent in this order. For multi-chip handsets words[0] is
+ * the channel, [1] and [2] are receive parameters, and [3] is the power control level; the others
+ * are not used. */
 typedef struct QV_AGC_PARAMETERS {
   uint32_t first;
   uint16_t words[4];
   uint32_t last;
 } QV_AGC_PARAMETERS;
 
-/** What a receive measurement found; multi-chip handsets report no `value`. */
+/** What a receive measurement found. Multi-chip handsets report no `value`. */
 typedef struct QV_AGC_RESULT {
   uint32_t value;
   uint16_t rx_level;
   uint16_t rssi;
 } QV_AGC_RESULT;
 
-/** A power step or PA setting. The multi-chip commands take `first` as band, `second` as power
- * control level, `third` as the value to write and `fourth` as the index of a table of 16 levels.
- */
+/** A power step or power amplifier setting. For multi-chip handsets `first` is the band, `second`
+ * the power control level, `third` the value to write, and `fourth` the index of a table of 16
+ * levels. */
 typedef struct QV_POWER_STEP {
   uint32_t first;
   uint16_t second;
@@ -177,7 +187,7 @@ typedef struct QV_POWER_STEP {
   uint32_t fourth;
 } QV_POWER_STEP;
 
-/** A non-signalling command; sent are the words, then the low 16 bits of the other three. */
+/** A non-signalling command. The words are sent, then the low 16 bits of the other three. */
 typedef struct QV_NON_SIGNAL_COMMAND {
   uint32_t first;
   uint32_t command_id;
@@ -187,7 +197,8 @@ typedef struct QV_NON_SIGNAL_COMMAND {
 
 /** The answer to non-signalling command 6. */
 typedef struct QV_NON_SIGNAL_ANSWER {
-  uint16_t status; /**< 0 when it succeeded */
+  /** 0 when the command succeeded. */
+  uint16_t status;
   uint16_t values[3];
 } QV_NON_SIGNAL_ANSWER;
 
@@ -196,7 +207,8 @@ typedef struct QV_TD_TX_SWEEP {
   uint32_t first;
   uint16_t second;
   uint16_t third;
-  uint16_t count; /**< of points, at most 8 */
+  /** How many points are given, at most 8. */
+  uint16_t count;
   uint16_t points[8][2];
 } QV_TD_TX_SWEEP;
 
@@ -218,11 +230,14 @@ typedef struct QV_TD_POWER_SWEEP {
   uint16_t words[4];
 } QV_TD_POWER_SWEEP;
 
-/** TD-SCDMA calibration parameters. A caller's memory need not be larger than `count` values ask
- * for. */
+/** TD-SCDMA calibration parameters. The caller's memory holds `count` values, which may be fewer
+ * than the record declares, or, to read, more: at an address that is a multiple of 4,
+ *   QV_TD_PARAMETERS* more = malloc(6 + 2 * count);
+ * with the values from `more->values` on. */
 typedef struct QV_TD_PARAMETERS {
   uint32_t selector;
-  uint16_t count; /**< of values, at most 3073 */
+  /** 1 to 3073 when they are written; when they are read, as many as an answer can carry, 4600. */
+  uint16_t count;
   uint16_t values[3073];
 } QV_TD_PARAMETERS;
 
