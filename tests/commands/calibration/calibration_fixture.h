@@ -4,6 +4,7 @@
 #include <array>
 #include <initializer_list>
 #include <string>
+#include <vector>
 
 #include "commands/calibration/data_command.h"
 #include "support/command_fixture.h"
@@ -38,25 +39,30 @@ struct CalibrationFixture : CommandFixture {
   Fields Message(unsigned id, unsigned length) const {
     return handset.Message().U16(id).U16(length).Zeros(12);
   }
-  void ExpectMessage(const Fields& message) { handset.Expect(10, 0, message).Answer(10, 0); }
-
-  void ExpectLogged(const std::string& name, Result result = Result::Success) {
-    EXPECT_THAT(LogText(), ElementsAre(name, "Clear Port Buffer", ResultLine(result)));
+  // Of the radio's switches, in a band.
+  Fields TransmitterRequest(unsigned band, unsigned on) const {
+    const auto& sent = phone.calibration.transmit;
+    const Fields start = Header({0, band, 28, 0, 20, 0, 0}).U32(sent.first).Zeros(2).U8(on).U8(0);
+    return Words(start, {sent.second, sent.third, sent.fourth, 0});
+  }
+  Fields ReceiverRequest(unsigned band, unsigned on, unsigned first, unsigned second,
+                         unsigned directCurrent = 0) const {
+    const Fields start = Header({0, band, 29, 0, 20, first, second}).U32(2).U16(18);
+    return Fields(start).U8(on).Zeros(7).U8(directCurrent).U8(0);
   }
 
-  // What each call returns is a refusal: nothing sent, nothing logged, its id recorded.
-  template <typename... Calls>
-  void ExpectRefused(std::uint32_t operation, Calls... calls) {
-    static_cast<void>(Log());
-    for (const Result result : {calls()...}) {
-      EXPECT_EQ(result, Result::InvalidParam);
-      EXPECT_EQ(OperationOf(result), operation);
-    }
-    EXPECT_THAT(Log(), IsEmpty());
+  // What the log has gained, without the line that every request leaves.
+  std::vector<std::string> LogNames() {
+    std::vector<std::string> lines = LogText();
+    std::erase(lines, "Clear Port Buffer");
+    return lines;
+  }
+
+  std::uint32_t ElapsedMs(const std::function<void()>& body) {
+    const std::uint32_t before = clock.NowMs();
+    body();
+    return clock.NowMs() - before;
   }
 };
-
-// A call that is made later.
-#define CALL(...) [&] { return __VA_ARGS__; }
 
 }  // namespace merovane::test

@@ -42,8 +42,8 @@ TEST_F(ExtendedAfc, ReportComesInBlocks) {
     EXPECT_EQ(run[0].report[251], 0x2222);
     EXPECT_EQ(run[0].report[501], 0x3333);
     EXPECT_EQ(run[0].report[791], 0x3333);
-    EXPECT_EQ(run[0].report[792], 0xA5A5) << "written behind the report";
-    EXPECT_THAT(LogText().back(), ResultLine(Result::Success));
+    EXPECT_EQ(run[0].report[792], 0xA5A5) << "written after the report";
+    EXPECT_THAT(LogNames(), ElementsAre("AfcStartEx:", ResultLine(Result::Success)));
   });
 }
 
@@ -57,11 +57,9 @@ TEST_F(ExtendedAfc, FirstBlockAloneMakesAnEmptyReport) {
   }
   EXPECT_EQ(run[0].report[0], 0xA5A5);
   // Two more tries for a longer one, which does not come.
-  const std::uint32_t before = clock.NowMs();
   ExpectStart().Answer(10, 1, Block(9, 499));
   ExpectStop();
-  EXPECT_EQ(Start(), Result::Success);
-  EXPECT_EQ(clock.NowMs() - before, 6000U);
+  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Start(), Result::Success); }), 6000U);
 }
 
 TEST_F(ExtendedAfc, ShortAnswersAreSkippedAndEndTheReport) {
@@ -75,9 +73,7 @@ TEST_F(ExtendedAfc, ShortAnswersAreSkippedAndEndTheReport) {
 
 TEST_F(ExtendedAfc, FailureEndsTheRunAndLeavesTheRecord) {
   const auto failsWith = [&](Result result, std::uint32_t waitedMs) {
-    const std::uint32_t before = clock.NowMs();
-    EXPECT_EQ(Start(), result);
-    EXPECT_EQ(clock.NowMs() - before, waitedMs);
+    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Start(), result); }), waitedMs);
   };
   ExpectStart().Silent();
   failsWith(Result::NoAnswer, 9000);
@@ -112,14 +108,6 @@ TEST_F(ExtendedAfc, WildBlockCountEndsWhenTheReportIsFull) {
   ExpectStop();
   EXPECT_EQ(Start(), Result::Success);
   EXPECT_EQ(run[0].report_bytes, kReportBytes);
-}
-
-TEST_F(ExtendedAfc, StopsAndRefuses) {
-  ExpectStop();
-  EXPECT_EQ(AfcStartEx(phone, 0, nullptr), Result::Success);
-  ExpectLogged("AfcStopEx:");
-  run[0].count = 17;
-  ExpectRefused(54, CALL(AfcStartEx(phone, 1, nullptr)), CALL(Start()));
 }
 
 }  // namespace
