@@ -196,8 +196,6 @@ STANDARD = "#include <cstddef>\n#include <cstdint>\n#include <memory>\n#include 
 
 def declared_header(api, unit):
     """What other code may call, and what bodies must match."""
-    if unit in api.legacy:
-        return MADE
     kinds = [kind for kind in ("command", "project", "session") if in_unit(api, unit, (kind,))]
     out = [MADE, "#pragma once\n\n", STANDARD]
     if "command" in kinds:
@@ -224,7 +222,7 @@ def declared_header(api, unit):
 
 
 def declared_source(api, unit):
-    if unit in api.legacy or not in_unit(api, unit, ("command", "project")):
+    if not in_unit(api, unit, ("command", "project")):
         return MADE
     out = [MADE, f'#include "declared/{unit}.h"\n\n#include "commands/argument_checks.h"\n'
            if in_unit(api, unit, ("command",)) else f'#include "declared/{unit}.h"\n']
@@ -238,18 +236,8 @@ def declared_source(api, unit):
     return "".join(out)
 
 
-def legacy_call(export):
+def call(export):
     declaration = export.declaration
-    names = [camel(argument.name) for argument in declaration.arguments]
-    call = f"commands::{declaration.name}({', '.join(['phone'] + names)})"
-    frame = "OnPhone(port, " if export.twin else "OnDefaultPhone("
-    return f"library::{frame}[&](auto& phone) {{ return {call}; }})"
-
-
-def call(export, legacy):
-    declaration = export.declaration
-    if declaration.unit in legacy and declaration.kind != "session":
-        return legacy_call(export)
     names = [camel(argument.name) for argument in declaration.arguments]
     if declaration.kind == "session":
         return f"library::{declaration.name}({', '.join(names)})"
@@ -266,13 +254,12 @@ def call(export, legacy):
 
 def exports_source(api):
     out = [MADE, '#define MEROVANE_BUILD\n#include "merovane/merovane.h"\n\n#include "library/export_frame.h"\n']
-    for unit in units(api, ("command", "project", "session")):
-        out += [f'#include "{path}"\n' for path in api.includes[unit]] if unit in api.legacy else [f'#include "declared/{unit}.h"\n']
+    out += [f'#include "declared/{unit}.h"\n' for unit in units(api, ("command", "project", "session"))]
     out.append('\nusing namespace merovane;\n\nextern "C" {\n\n')
     for export in api.exports:
         parameters = ", ".join(argument.cpp_parameter() for argument in export.arguments)
         kind = "void" if export.declaration.returns == "void" else "std::int32_t"
-        out.append(f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n  return {call(export, api.legacy)};\n}}\n\n")
+        out.append(f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n  return {call(export)};\n}}\n\n")
     return "".join(out) + '}  // extern "C"\n'
 
 

@@ -178,7 +178,6 @@ class Api:
     items: list                  # calibration items
     result_codes: list
     includes: dict               # unit: headers that its `runs` and `require` expressions need
-    legacy: set
 
     @property
     def exports(self):

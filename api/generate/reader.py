@@ -121,7 +121,7 @@ def read_statement(text, where):
     return declaration
 
 
-def read_documentation(declaration, lines, codes, where, legacy=False):
+def read_documentation(declaration, lines, codes, where):
     """Text, then @param and @retval paragraphs; every argument and every result of its own has one."""
     target = declaration.brief
     seen = set()
@@ -139,14 +139,10 @@ def read_documentation(declaration, lines, codes, where, legacy=False):
                 fail(where, f"there is no result '{match[1]}'")
             target = [match[2]]
             declaration.results.append((code.internal, target))
-        elif line.startswith("@") and legacy:
-            target = []
         elif line.startswith("@"):
             fail(where, f"cannot read '{line}'")
         else:
             target.append(line.strip())
-    if legacy:
-        return
     if not declaration.brief:
         fail(where, f"{declaration.name} has no documentation")
     for argument in declaration.arguments:
@@ -168,7 +164,7 @@ def read_result_codes(path):
 
 def read_api(exports, result_codes):
     codes = read_result_codes(result_codes)
-    api = Api([], [], codes, {}, set())
+    api = Api([], [], codes, {})
     for path in sorted(exports.glob("*.api")):
         unit = re.sub(r"^\d+_", "", path.stem)
         api.includes[unit] = []
@@ -178,8 +174,6 @@ def read_api(exports, result_codes):
             stripped = line.strip()
             if stripped.startswith("///"):
                 documentation.append(stripped[4:])
-            elif stripped == "legacy":
-                api.legacy.add(unit)
             elif not statement and (match := re.fullmatch(r'include "(.+)"', stripped)):
                 api.includes[unit].append(match[1])
             elif not statement and (match := re.fullmatch(r"group (.+)", stripped)):
@@ -196,7 +190,7 @@ def read_api(exports, result_codes):
                     api.items.append(item)
                 else:
                     declaration = read_statement(text, where)
-                    read_documentation(declaration, documentation, codes, where, unit in api.legacy)
+                    read_documentation(declaration, documentation, codes, where)
                     made = [declaration]
                 for declaration in made:
                     declaration.group, declaration.unit = group, unit
