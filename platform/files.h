@@ -46,7 +46,8 @@ class AppendFile {
 };
 
 // The read-only attribute, every other attribute bit left as it is. False when the attributes
-// cannot be read or set.
+// cannot be read or set. On Linux: nobody may write the file, the superuser included; clearing it
+// gives its owner the right.
 bool SetReadOnly(const std::filesystem::path& path, bool readOnly);
 bool IsReadOnly(const std::filesystem::path& path);
 
