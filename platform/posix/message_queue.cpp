@@ -5,8 +5,6 @@
 #include <threadqueue/threadqueue.h>
 #include <unistd.h>
 
-#include <cerrno>
-
 namespace merovane::platform {
 
 std::uint32_t CurrentThreadId() { return threadqueue_current_thread(); }
@@ -29,7 +27,7 @@ bool MessageReceiver::Post(std::uint32_t id, std::uintptr_t first, std::intptr_t
 }
 
 bool MessageReceiver::IsGone() const {
-  return tgkill(getpid(), static_cast<pid_t>(threadId_), 0) != 0 && errno != EPERM;
+  return tgkill(getpid(), static_cast<pid_t>(threadId_), 0) != 0;
 }
 
 bool TakeMessage(Message& message, std::uint32_t timeLimitMs) {

@@ -80,12 +80,14 @@ TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
 
 TEST_P(CassorindReceiver, CloseEndsPostingToAQueueThatStaysFull) {
   FillQueue();
-  if (PostMessageToThread(self, 1, 0, 0)) GTEST_SKIP() << "no queue is ever full here";
+  if (PostMessageToThread(self, kFillerMessage, 0, 0)) {
+    GTEST_SKIP() << "no queue is ever full here";
+  }
   OpenWithReceiver();
   peer->Send("never taken");
   EXPECT_NE(channel->Close(), 0);
   Message message;
-  while (TakeMessage(message, 0)) EXPECT_EQ(message.id, 1u);
+  while (TakeMessage(message, 0)) EXPECT_EQ(message.id, kFillerMessage);
 }
 
 TEST_P(CassorindReceiver, IsDroppedWhenItsThreadHasEndedAndNothingIsLost) {

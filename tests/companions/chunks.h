@@ -33,11 +33,14 @@ inline void EmptyQueue() {
   }
 }
 
+// One that any thread can be posted.
+inline constexpr std::uint32_t kFillerMessage = 1025;
+
 // Leaves no room in the queue, which holds 10,000 messages. Returns how many were missing.
 inline int FillQueue() {
   const std::uint32_t self = merovane::platform::CurrentThreadId();
   int posted = 0;
-  while (posted < 10000 && PostMessageToThread(self, 1, 0, 0)) ++posted;
+  while (posted < 10000 && PostMessageToThread(self, kFillerMessage, 0, 0)) ++posted;
   return posted;
 }
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <optional>
+#include <utility>
 
 #include "platform/files.h"
 #include "platform/system.h"
@@ -58,6 +60,20 @@ TEST(Module, IsLoadedAndUnloadedWithoutWaitingInVainForItsThreads) {
   tell(&endedInTime);
   module.Free();
   EXPECT_TRUE(endedInTime);
+}
+
+TEST(Module, StaysInMemoryWithAThreadThatItGaveUp) {
+  const merovane::test::TempDirectory elsewhere;
+  const std::filesystem::path probe = test::LibraryFile("PlatformProbe");
+  std::filesystem::copy_file(ExecutableDirectory() / probe, elsewhere.Path() / probe);
+  std::optional<test::LoadedFile> library(std::in_place, elsewhere.Path() / probe);
+  const auto runs = reinterpret_cast<bool (*)()>(library->Find("PlatformProbeRuns"));
+  const auto giveUp = reinterpret_cast<void (*)()>(library->Find("PlatformProbeGiveUp"));
+  ASSERT_TRUE(runs && giveUp);
+  EXPECT_TRUE(runs());
+  giveUp();
+  library.reset();
+  EXPECT_TRUE(runs());
 }
 
 TEST(Module, IsNotLoadedWhenItIsMissingOrNoLibrary) {

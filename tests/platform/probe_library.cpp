@@ -15,6 +15,7 @@
 PROBE_EXPORT bool PlatformProbeRuns();
 PROBE_EXPORT bool PlatformProbeFinds(const char* probe);
 PROBE_EXPORT void PlatformProbeTellTheEnd(bool* endedInTime);
+PROBE_EXPORT void PlatformProbeGiveUp();
 
 namespace {
 
@@ -55,3 +56,5 @@ bool PlatformProbeFinds(const char* probe) {
 }
 
 void PlatformProbeTellTheEnd(bool* endedInTime) { worker.endedInTime = endedInTime; }
+
+void PlatformProbeGiveUp() { worker.thread.Abandon(); }

@@ -1,6 +1,7 @@
 // What only Linux has: modes and links, pipes, descriptors, signals, device nodes.
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/eventfd.h>
 #include <sys/resource.h>
@@ -123,6 +124,16 @@ TEST(PosixFiles, AreNotWaitedForWhenTheyArePipes) {
   ASSERT_EQ(mkfifo(pipe.c_str(), 0666), 0);
   EXPECT_EQ(ProfileFile::Load(pipe).Integer("S", "K", 3), 3U);
   EXPECT_FALSE(ReplaceFile(pipe, kNew));
+}
+
+TEST(PosixEvent, IsAReadableDescriptorForDevicesWhileItIsSet) {
+  Event event(Event::For::Devices);
+  pollfd polled{static_cast<int>(event.Handle()), POLLIN, 0};
+  EXPECT_EQ(poll(&polled, 1, 0), 0);
+  event.Set();
+  EXPECT_EQ(poll(&polled, 1, 0), 1);
+  event.Reset();
+  EXPECT_EQ(poll(&polled, 1, 0), 0);
 }
 
 TEST(PosixCallerEvent, NeverWaitsForAFullOrAnEmptyCounter) {
