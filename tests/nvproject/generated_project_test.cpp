@@ -152,11 +152,14 @@ TEST_P(GeneratedProject, AdcChargingAndVersion) {
   const std::string points = "calibration_param_T.adc.";
   ASSERT_EQ(GetNvValue_Adc_1(&parser, adc.data(), battery.data()), Result::Success);
   EXPECT_THAT(adc, ElementsAre(Value(points + "adc[0]"), Value(points + "adc[1]")));
-  EXPECT_EQ(battery[1], Value(points + "battery[1]"));
+  EXPECT_THAT(battery, ElementsAre(Value(points + "battery[0]"), Value(points + "battery[1]")));
+  std::swap(battery[0], battery[1]);
   const std::array<std::uint32_t, 2> written = {0xFFFFFFFF, 0xabc};
   ASSERT_EQ(SetNvValue_Adc_1(&parser, written.data(), battery.data()), Result::Success);
   EXPECT_EQ(Content(parser, points + "adc[0]"), "0XFFFFFFFF");
   EXPECT_EQ(Content(parser, points + "adc[1]"), "0XABC");
+  EXPECT_EQ(Value(points + "battery[0]"), battery[0]);
+  EXPECT_EQ(Value(points + "battery[1]"), battery[1]);
   ASSERT_EQ(GetNvValue_Adc_1(&parser, adc.data(), battery.data()), Result::Success);
   EXPECT_EQ(adc, written);
 
