@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "link/result.h"
+#include "merovane/log_tool.h"
 #include "merovane/project_tool.h"
 #include "platform/console.h"
 #include "support/program.h"
@@ -18,6 +19,7 @@ struct Choice {
   bool json = false, littleEndian = false;
   tool::ImageOptions image;
   tool::NewOptions create;
+  tool::RenderOptions render;
 };
 
 int PrintResults() {
@@ -102,6 +104,31 @@ void AddWritingCommands(CLI::App& projects, Choice& choice) {
       ->callback([&] { choice.run = [&] { return tool::Save(choice.project, std::cout); }; });
 }
 
+void AddLogCommands(CLI::App& app, Choice& choice) {
+  auto* logs = app.add_subcommand("log", "Writes logs");
+  logs->require_subcommand(1);
+  auto* render = logs->add_subcommand(
+      "render",
+      "Writes a raw recording of received data as a readable log, at the end of what is "
+      "there. Every 1 MiB of it has offsets of its own");
+  tool::RenderOptions& options = choice.render;
+  render->add_option("recording", options.recording, "a file; otherwise standard input");
+  render->add_option("--directory", options.directory, "where the log goes")->capture_default_str();
+  render->add_option("--name", options.name, "the log's name; otherwise the recording's");
+  render->add_option("--bytes-per-line", options.bytesPerLine, "1 to 16")
+      ->check(CLI::Range(1, 16))
+      ->capture_default_str();
+  render->add_flag("--time-stamps", options.timeStamps, "of the rendering");
+  render->add_flag("!--no-offsets", options.offsets, "without the offset of each line");
+  render->add_flag("!--no-characters", options.characters, "without the column of characters");
+  render->add_flag("--console", options.console, "show it as well");
+  render->add_option("--extension", options.extension,
+                     "also copy the bytes to a data file NAME_Rd with this extension");
+  render->add_option("--size-limit", options.sizeLimitMb,
+                     "in MB: a larger file is followed by NAME_1 and so on; 0: none");
+  render->callback([&] { choice.run = [&] { return tool::Render(choice.render, std::cout); }; });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -115,6 +142,7 @@ int main(int argc, char** argv) {
   projects->require_subcommand(1);
   AddReadingCommands(*projects, choice);
   AddWritingCommands(*projects, choice);
+  AddLogCommands(app, choice);
   // At a command line a file that cannot be used ends the command instead of opening a box.
   platform::SetMessageBox(
       [](const std::string& text, const std::string& /*caption*/) { throw tool::Trouble(text); });
