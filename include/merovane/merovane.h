@@ -105,22 +105,22 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetProperty(
 MEROVANE_API int32_t MEROVANE_CALL QV_GetProperty(
     uint32_t property, uintptr_t value1, MEROVANE_OUT_OPT uint32_t *value) MEROVANE_WRITES(3);
 
-/** Chooses how ports that are opened from now on receive. Nothing is reported.
+/** Chooses how ports that are opened from now on receive.
  * @param mode  a QV_RECEIVE_MODE; others count as QV_RECEIVE_MODE_CALLER. While it is
  *   QV_RECEIVE_MODE_THREAD, a command on any port leaves what its device has received before in
  *   place instead of purging it */
 MEROVANE_API void MEROVANE_CALL QV_SetRecvMode(uint32_t mode);
 
 /** Appends all received bytes to a file, as they come and without marks, on ports that are opened
- * from now on. Nothing is reported.
+ * from now on.
  * @param on  not 0: record; 0: end the recording on every port
  * @param path  the file, relative to the process's current directory; null or empty ends the
  *   recording too (may be null) */
 MEROVANE_API void MEROVANE_CALL QV_SaveRecvData(uint32_t on, MEROVANE_IN_TEXT_OPT const char *path);
 
 /** Tells whether the default phone object's handset has reported an assert since the last call:
- * returns 1 if it has, else 0, also without a default phone object. Reports are noticed only while
- * a channel server is connected. Nothing is reported. */
+ * returns 1 if it has, else 0, also without a default phone object. Asserts are noticed only while
+ * a channel server is connected. Nothing is reported to the error-code library. */
 MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
 
 /* ---- Mode processes ------------------------------------------------------------------ */
@@ -128,9 +128,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
 /** Waits, in the background, for a handset to boot and puts it into a mode. A mode process of the
  * same object that still runs is stopped first. The default object's handset is looked for on its
  * open port, in attempts of 1000 ms each, so that the last one may end up to that much after the
- * time limit; what it says to the mode does not count. A device that arrives is opened at 115200
- * baud, told the mode and closed; when it comes back, the handset is caught. QV_GetUsbPort tells
- * its port.
+ * time limit; what it says to the mode does not count. A device arrives when the name of a port
+ * comes to stand for a serial device. It is opened at 115200 baud, told the mode and closed; when
+ * it comes back, the handset is caught. QV_GetUsbPort tells its port.
  * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
  *   arrives, with a phone object of its own
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
@@ -239,7 +239,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess_MT(
     uint32_t time_limit_ms);
 
 /** Returns the port on which the last QV_EnterModeProcess or QV_EnterModeProcessEx with
- * `wait_for_port` found a device; 0 when it found none, or was never called. Nothing is reported. */
+ * `wait_for_port` found a device; 0 when it found none, or was never called. Nothing is reported to
+ * the error-code library. */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetUsbPort(void);
 
 /** Sets what every mode process from now on puts into the sequence field of the first frame that it
@@ -1746,10 +1747,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
 
 /** Runs an extended AFC measurement and collects its report, or stops one. For the default phone
  * object only. The report comes in blocks. For each the handset has up to three times 3000 ms (the
- * first block) or 1000 ms (the others), to which "Inc Recv Timeout" is not added; stopping at the
- * end waits another 1000 ms. A block of 500 bytes or less ends the report and is not part of it, so
- * that the report is empty with PC_ERR_SUCCESS when the first block is that short or announces no
- * other block. A run that fails leaves the handset running: call again with `start` 0.
+ * first block) or 1000 ms (the others), to which "Inc Recv Timeout" is not added; a refusal ends
+ * the run at once. Stopping at the end waits another 1000 ms. A block of 500 bytes or less ends the
+ * report and is not part of it, so that the report is empty with PC_ERR_SUCCESS when the first
+ * block is that short or announces no other block. A run that fails leaves the handset running:
+ * call again with `start` 0.
  * @param start  not 0: run; 0: stop
  * @param run  its values are sent; its report, as 16-bit words, and the report's length are written
  *   on success only (looked at only when `start` is not 0)

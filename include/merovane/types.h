@@ -230,10 +230,9 @@ typedef struct QV_TD_POWER_SWEEP {
   uint16_t words[4];
 } QV_TD_POWER_SWEEP;
 
-/** TD-SCDMA calibration parameters. The caller's memory holds `count` values, which may be fewer
- * than the record declares, or, to read, more: at an address that is a multiple of 4,
- *   QV_TD_PARAMETERS* more = malloc(6 + 2 * count);
- * with the values from `more->values` on. */
+/** TD-SCDMA calibration parameters. The caller's memory holds `count` values: it may be shorter
+ * than the record and, to read more values than the record declares, longer. Memory for them is
+ * that of malloc(6 + 2 * count), and they begin at `values`. */
 typedef struct QV_TD_PARAMETERS {
   uint32_t selector;
   /** 1 to 3073 when they are written; when they are read, as many as an answer can carry, 4600. */

@@ -293,19 +293,13 @@ TEST_F(CalibrationCommands, RefuseArgumentsUnderTheirOperation) {
   refused(53, {AfcStart(phone, 1, nullptr)});
   refused(54, {AfcStartEx(phone, 1, nullptr), AfcStartEx(phone, 1, &run)});
   refused(55, {AgcStart(phone, 1, nullptr, &measured), AgcStart(phone, 1, &kMeasurement, nullptr)});
-  refused(56, {PwrStepFactorSet(phone, nullptr)});
-  refused(57, {ReadIMEI(phone, nullptr)});
-  refused(58, {ReadIMEI_ASCII(phone, nullptr)});
   refused(63, {RampSetting(phone, 0, some, some, 2), RampSetting(phone, 0, null, some, 3),
                RampSetting(phone, 0, some, null, 3)});
-  refused(64, {PASetting(phone, nullptr)});
   refused(65, {AgcStart_MChip(phone, 1, nullptr, &measured),
                AgcStart_MChip(phone, 1, &kMeasurement, nullptr),
                AgcStart_MChip(phone, 0, nullptr, nullptr)});
   refused(66, {AfcStart_MChip(phone, 1, nullptr)});
-  refused(70, {PwrStepFactorSet_MChip(phone, nullptr)});
-  refused(228, {Set_Flash_8PSK_PWR_FACTOR_MChip(phone, nullptr),
-                Set_Flash_8PSK_PWR_FACTOR_MChip(phone, &wrongBand)});
+  refused(228, {Set_Flash_8PSK_PWR_FACTOR_MChip(phone, &wrongBand)});
   refused(229, {Set_Ram_8PSK_PWR_FACTOR_MChip(phone, &wrongBand)});
   refused(240, {Set_Flash_8PSK_PWR_TX_GAIN_MChip(phone, &wrongBand)});
   refused(241, {Set_Ram_8PSK_PWR_TX_GAIN_MChip(phone, &wrongBand)});
@@ -326,11 +320,7 @@ TEST_F(CalibrationCommands, RefuseArgumentsUnderTheirOperation) {
                            static_cast<const char*>(nullptr)}) {
     refused(76, {WriteData_Flash_IMEI(phone, text)});
   }
-  refused(230, {ReadData_Flash_SecIMEI(phone, nullptr)});
   refused(260, {TDTxSweep(phone, &sweep), TDTxSweep(phone, nullptr)});
-  refused(222, {TdStartTx(phone, nullptr)});
-  refused(171, {PwrStepFactorSweepSet_TD(phone, nullptr)});
-  refused(173, {PwrStepFactorSet_TD(phone, nullptr)});
   refused(176, {ReadMode_TD(phone, bytes, 0), ReadMode_TD(phone, nullptr, 4)});
   refused(180, {ReadTDCalParam(phone, nullptr)});
   for (const int count : {0, 3074, 65535}) {
