@@ -136,7 +136,7 @@ TEST_F(Exchanges, CarryASequenceOnceAndTheLargestPayloads) {
   handset.Expect(1, 1).Sequence(0x7E7D0102);
   EXPECT_EQ(phone.link.SendFrame({1, 1}), Result::Success);
   const Bytes payload(70000, 0x7E);
-  handset.Expect(1, 1, payload);
+  handset.ExpectRaw(WireFrame(true, 1, 1, payload));
   EXPECT_EQ(phone.link.SendFrame({1, 1}, payload), Result::Success);
   handset.Expect(1, 1).Answer(1, 1, Bytes(9206, 0x11));
   std::vector<std::uint8_t> large(9216);

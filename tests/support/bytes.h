@@ -7,11 +7,17 @@
 #include <string_view>
 #include <vector>
 
+#include "wire/wire.h"
+
 namespace merovane::test {
 
-using Bytes = std::vector<std::uint8_t>;
+using handset::Bytes;
 
-// "00 05 7E", any spacing; throws std::invalid_argument for anything else.
+inline handset::ByteOrder OrderOf(bool bigEndian) {
+  return bigEndian ? handset::ByteOrder::Big : handset::ByteOrder::Little;
+}
+
+// "00 05 7E", any blanks; throws std::invalid_argument for anything else.
 Bytes Hex(std::string_view text);
 // "00 05 7E", empty for no bytes.
 std::string ToHex(std::span<const std::uint8_t> bytes);
@@ -21,9 +27,12 @@ Bytes Joined(const Bytes& first, const Bytes& second);
 class Fields {
  public:
   explicit Fields(bool bigEndian) : bigEndian_(bigEndian) {}
-  Fields& U8(unsigned value) { return Put(value, 1); }
-  Fields& U16(unsigned value) { return Put(value, 2); }
-  Fields& U32(std::uint32_t value) { return Put(value, 4); }
+  Fields& U8(unsigned value) {
+    bytes_.push_back(static_cast<std::uint8_t>(value));
+    return *this;
+  }
+  Fields& U16(unsigned value);
+  Fields& U32(std::uint32_t value);
   Fields& Raw(const Bytes& bytes) {
     bytes_.insert(bytes_.end(), bytes.begin(), bytes.end());
     return *this;
@@ -36,8 +45,6 @@ class Fields {
   const Bytes& Get() const { return bytes_; }
 
  private:
-  Fields& Put(std::uint32_t value, unsigned width);
-
   bool bigEndian_;
   Bytes bytes_;
 };

@@ -8,18 +8,15 @@
 
 namespace merovane::test {
 
+namespace {
+
+constexpr std::size_t kFramesKept = 100'000;
+
+}  // namespace
+
 Bytes WireFrame(bool bigEndian, std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
                 std::uint32_t sequence) {
-  Fields raw(bigEndian);
-  for (unsigned i = 0; i < 4; ++i) raw.U8(sequence >> (8 * i) & 0xFF);
-  raw.U16(static_cast<unsigned>(payload.size() + 8) & 0xFFFF).U8(type).U8(subtype).Raw(payload);
-  Bytes wire{0x7E};
-  for (const std::uint8_t byte : raw.Get()) {
-    if (byte == 0x7D || byte == 0x7E) wire.push_back(0x7D);
-    wire.push_back(byte == 0x7D ? 0x5D : byte == 0x7E ? 0x5E : byte);
-  }
-  wire.push_back(0x7E);
-  return wire;
+  return handset::EncodeFrame({type, subtype, payload, sequence}, OrderOf(bigEndian));
 }
 
 Exchange& Exchange::Answer(std::uint8_t type, std::uint8_t subtype, const Payload& payload) {
@@ -67,7 +64,9 @@ Exchange& Exchange::Vanish() {
   return *this;
 }
 
-ScriptedHandset::ScriptedHandset(FakeClock& clock) : clock_(clock) { current_ = this; }
+ScriptedHandset::ScriptedHandset(FakeClock& clock) : clock_(clock), heard_(kFramesKept) {
+  current_ = this;
+}
 
 ScriptedHandset::~ScriptedHandset() {
   Verify();
@@ -213,11 +212,11 @@ std::int32_t ScriptedHandset::Write(const void* data, std::uint32_t length, std:
 // False when the channel is to take the bytes only in part.
 bool ScriptedHandset::Hear(const Bytes& written) {
   const bool raw = !script_.empty() && script_.front().raw_;
-  std::optional<HeardFrame> frame;
+  std::optional<handset::Frame> frame;
   if (!raw) {
     frame = Understand(written);
     if (!frame) return true;
-    heard_.push_back(*frame);
+    heard_.Add(*frame);
   }
   if (script_.empty()) {
     ADD_FAILURE() << "unexpected request: " << ToHex(written);
@@ -241,27 +240,17 @@ bool ScriptedHandset::Hear(const Bytes& written) {
   return true;
 }
 
-std::optional<HeardFrame> ScriptedHandset::Understand(const Bytes& written) const {
-  Bytes raw;
-  bool good = written.size() >= 10 && written.front() == 0x7E && written.back() == 0x7E;
-  for (std::size_t i = 1; good && i + 1 < written.size(); ++i) {
-    const bool escaped = written[i] == 0x7D;
-    if (escaped) ++i;
-    const bool wellEscaped = escaped ? written[i] == 0x5D || written[i] == 0x5E
-                                     : written[i] != 0x7D && written[i] != 0x7E;
-    good = wellEscaped && i + 1 < written.size();
-    raw.push_back(escaped ? written[i] ^ 0x20 : written[i]);
-  }
-  if (!good || raw.size() < 8) {
+std::optional<handset::Frame> ScriptedHandset::Understand(const Bytes& written) const {
+  std::optional<handset::Frame> frame;
+  handset::FrameDecoder decoder(
+      OrderOf(bigEndian_), [&](handset::Frame heard) { frame = std::move(heard); },
+      [&](std::string_view reason, const Bytes&) { ADD_FAILURE() << reason; });
+  decoder.Feed(written);
+  // One frame, with nothing before or after it.
+  if (!frame || handset::EncodeFrame(*frame, OrderOf(bigEndian_)) != written) {
     ADD_FAILURE() << "not a frame: " << ToHex(written);
     return std::nullopt;
   }
-  const unsigned first = raw[4];
-  const unsigned second = raw[5];
-  const unsigned length = bigEndian_ ? first << 8 | second : second << 8 | first;
-  EXPECT_EQ(length, raw.size() & 0xFFFF) << "length field of " << ToHex(written);
-  HeardFrame frame{raw[6], raw[7], 0, Bytes(raw.begin() + 8, raw.end())};
-  for (unsigned i = 0; i < 4; ++i) frame.sequence |= std::uint32_t{raw[i]} << (8 * i);
   return frame;
 }
 

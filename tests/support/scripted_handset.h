@@ -1,6 +1,6 @@
 // A handset in this process that follows a script, at the other end of a faked channel:
 //   handset.Expect(13, 2, "00 05 00 04").Answer(13, 0, "00 05 00 04 01 02 03 04");
-// It has its own idea of frames: it shares no code with the library.
+// Its frames are the simulated handset's, which shares no code with the library.
 #pragma once
 
 #include <atomic>
@@ -14,16 +14,9 @@
 #include "link/channel_port.h"
 #include "support/bytes.h"
 #include "support/fake_clock.h"
+#include "wire/journal.h"
 
 namespace merovane::test {
-
-// A frame as the handset saw it.
-struct HeardFrame {
-  std::uint8_t type = 0;
-  std::uint8_t subtype = 0;
-  std::uint32_t sequence = 0;
-  Bytes payload;
-};
 
 // The bytes of a frame on the wire. The length field is taken in 16 bits.
 Bytes WireFrame(bool bigEndian, std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
@@ -97,7 +90,7 @@ class ScriptedHandset final : private CassorindChannel {
            std::uint32_t afterMs = 0);
   void SayRaw(const Payload& bytes, std::uint32_t afterMs = 0);
 
-  const std::vector<HeardFrame>& Heard() const { return heard_; }
+  std::vector<handset::Frame> Heard() const { return heard_.Frames(); }
   // Fails the test when an expected request did not come. The destructor does so too.
   void Verify();
   std::size_t UnreadBytes() const;
@@ -129,7 +122,7 @@ class ScriptedHandset final : private CassorindChannel {
   std::int32_t Write(const void* data, std::uint32_t length, std::uint32_t reserved) override;
 
   bool Hear(const Bytes& written);
-  std::optional<HeardFrame> Understand(const Bytes& written) const;
+  std::optional<handset::Frame> Understand(const Bytes& written) const;
   void Add(Piece piece);
   void PostAll();
 
@@ -141,7 +134,7 @@ class ScriptedHandset final : private CassorindChannel {
   std::deque<Exchange> script_;
   std::deque<Piece> pieces_;
   std::uint32_t lastPieceTakenMs_ = 0;
-  std::vector<HeardFrame> heard_;
+  handset::Journal heard_;
   std::list<Bytes> posted_;  // chunks stay readable
   std::optional<Receiver> receiver_;
   std::optional<CassorindOpenParameters> open_;

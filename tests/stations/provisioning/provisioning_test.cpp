@@ -2,13 +2,13 @@
 #include <cstring>
 #include <filesystem>
 
+#include "support/bytes.h"
 #include "support/station.h"
 #include "support/temp_directory.h"
 
 namespace merovane::test {
 namespace {
 
-using handset::Bytes;
 using ::testing::ElementsAre;
 
 constexpr const char* kImei = "490154203237518";
@@ -20,7 +20,7 @@ class Provisioning : public StationTest, public ::testing::WithParamInterface<bo
   // Another handset, or the same one off and on again when the file stays.
   void Connect(HandsetOptions options = Running()) {
     options.stateFile = (directory_ / "handset.json").string();
-    options.byteOrder = GetParam() ? handset::ByteOrder::Big : handset::ByteOrder::Little;
+    options.byteOrder = OrderOf(GetParam());
     SwitchOn(options);
     ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), PC_ERR_SUCCESS);
   }
