@@ -1,161 +1,127 @@
-// Every calibration item through its exports: RAM and flash apart, saved, and there after a new
-// start of the handset.
-#include <cstring>
-#include <functional>
-#include <type_traits>
+// Every calibration item that is declared, through its exports: RAM and flash apart, saved, and
+// there after a new start of the handset.
+#include <dlfcn.h>
+
+#include <algorithm>
+#include <string>
 #include <vector>
 
+#include "declared/calibration_items.h"
 #include "stations/radio/calibrated_station.h"
 
 namespace merovane::test {
 namespace {
 
-constexpr std::uint32_t kBand = 3;
+using commands::CalibrationItem;
+using commands::ItemData;
+using commands::Storage;
+using Words = std::vector<std::uint16_t>;
+
+constexpr std::uint16_t kBand = 3;
 constexpr std::uint16_t kIndex = 2;
+constexpr std::uint16_t kCountedWords = 5;
 constexpr std::uint32_t kSaveLimitMs = 20000;
 
 using KeptItems = CalibratedStation;
-INSTANTIATE_TEST_SUITE_P(ByteOrders, KeptItems, ::testing::Values(true, false));
 
-// --- one shape for all exports: the item's 16-bit elements
+template <typename... Arguments>
+std::int32_t Call(const std::string& name, Arguments... arguments) {
+  auto* const function = reinterpret_cast<std::int32_t (*)(Arguments...)>(
+      ::dlsym(RTLD_DEFAULT, ("QV_" + name).c_str()));
+  EXPECT_NE(function, nullptr) << name;
+  return function == nullptr ? -1 : function(arguments...);
+}
 
-using Words = std::vector<std::uint16_t>;
-using Function = std::function<std::int32_t(Words&)>;
+// With what tells the place of the data, as far as the item needs it.
+template <typename... Data>
+std::int32_t CallForPlace(const CalibrationItem& item, const std::string& name, Data... data) {
+  if (item.perIndex > 0) return Call(name, kPort, std::uint32_t{kBand}, kIndex, data...);
+  if (item.perBand) return Call(name, kPort, std::uint32_t{kBand}, data...);
+  return Call(name, kPort, data...);
+}
 
-// What an export takes for the data: a pointer to it, or a value.
-template <typename Data>
-Data As(Words& words) {
-  if constexpr (std::is_pointer_v<Data>) {
-    return reinterpret_cast<Data>(words.data());
-  } else {
-    Data value{};
-    std::memcpy(&value, words.data(), sizeof value);
-    return value;
+template <typename Element>
+std::int32_t TransferElements(const CalibrationItem& item, const std::string& name, bool writes,
+                              Words& words) {
+  auto* const elements = reinterpret_cast<Element*>(words.data());
+  if (item.data == ItemData::Value && writes) return CallForPlace(item, name, *elements);
+  if (item.data == ItemData::Counted) {
+    return CallForPlace(item, name, elements, static_cast<std::uint32_t>(words.size()));
   }
+  return CallForPlace(item, name, elements);
 }
 
-template <typename Data>
-Function Call(std::int32_t (*call)(std::int32_t, Data)) {
-  return [call](Words& words) { return call(kPort, As<Data>(words)); };
-}
-template <typename Data>
-Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, Data)) {
-  return [call](Words& words) { return call(kPort, kBand, As<Data>(words)); };
-}
-template <typename Data>
-Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, std::uint16_t, Data)) {
-  return [call](Words& words) { return call(kPort, kBand, kIndex, As<Data>(words)); };
-}
-template <typename Data>
-Function Call(std::int32_t (*call)(std::int32_t, std::uint32_t, Data*, std::uint32_t)) {
-  return [call](Words& words) {
-    return call(kPort, kBand, words.data(), static_cast<std::uint32_t>(words.size()));
-  };
-}
-Function CallDefault(std::int32_t (*call)(std::uint32_t, std::uint32_t, std::uint16_t,
-                                          std::uint16_t*),
-                     std::uint32_t read, std::uint32_t flash) {
-  return [=](Words& words) { return call(read, flash, kBand, words.data()); };
+std::int32_t Transfer(const CalibrationItem& item, Storage storage, bool writes, Words& words) {
+  const std::string name(item.Export(storage, writes).name);
+  if (item.either) {
+    return Call(name, std::uint32_t{!writes}, std::uint32_t{storage == Storage::Flash}, kBand,
+                words.data());
+  }
+  return item.element == commands::Element::U32
+             ? TransferElements<std::uint32_t>(item, name + "_MT", writes, words)
+             : TransferElements<std::uint16_t>(item, name + "_MT", writes, words);
 }
 
-enum Storage { kRam, kFlash };
-
-struct Item {
-  const char* name;
-  std::size_t words;
-  Function write[2], read[2];  // by storage
-};
-
-Item Made(const char* name, std::size_t words, Function writeRam, Function writeFlash,
-          Function readRam, Function readFlash) {
-  return {name, words, {writeRam, writeFlash}, {readRam, readFlash}};
-}
-
-#define DATA(name, words)                                                                      \
-  Made(#name, words, Call(QV_WriteData_Ram_##name##_MT), Call(QV_WriteData_Flash_##name##_MT), \
-       Call(QV_ReadData_Ram_##name##_MT), Call(QV_ReadData_Flash_##name##_MT))
-#define FLASH_DATA(name, words)                                              \
-  Made(#name, words, nullptr, Call(QV_WriteData_Flash_##name##_MT), nullptr, \
-       Call(QV_ReadData_Flash_##name##_MT))
-#define TABLE(name, words)                                                       \
-  Made(#name, words, Call(QV_Set##name##_Ram_MT), Call(QV_Set##name##_Flash_MT), \
-       Call(QV_Read##name##_Ram_MT), Call(QV_Read##name##_Flash_MT))
-#define EITHER(name, words)                                                            \
-  Made(#name, words, CallDefault(QV_RW_##name, 0, 0), CallDefault(QV_RW_##name, 0, 1), \
-       CallDefault(QV_RW_##name, 1, 0), CallDefault(QV_RW_##name, 1, 1))
-
-template <typename... Each>
-std::vector<Item> Listed(Each... each) {
-  return {each...};
-}
-
-const std::vector<Item>& Items() {
-  static const std::vector<Item> items = Listed(
-      FLASH_DATA(ADC_Adc0, 2), FLASH_DATA(ADC_Adc1, 2), FLASH_DATA(ADC_Reserved0, 2),
-      FLASH_DATA(ADC_Reserved1, 2), FLASH_DATA(ADC_Reserved7, 2), DATA(ADC_Battery0, 2),
-      DATA(ADC_Battery1, 2), DATA(AFC_afc_center, 1), DATA(AFC_afc_slope_hz_per_6bits, 1),
-      DATA(AFC_slope_length, 1), DATA(AFC_CDAC, 1), DATA(AFC_CAFC, 1), DATA(AFC_afc_value_arr, 17),
-      DATA(AFC_slope_value_arr, 17), DATA(AFC_slope_value_reciprocal_arr, 17),
-      DATA(APC_RF_ramppwr_step_factor, 80), DATA(APC_RF_ramppwr_step_factor_8Psk, 1),
-      DATA(AGC_max_rf_gain_index, 1), DATA(AGC_RX_compensate_value, 5), DATA(AGC_agc_ctrl_word, 91),
-      TABLE(RampTable, 20), TABLE(RampTableConstUp, 1), TABLE(RampTableConstDown, 1),
-      TABLE(RampUpParamNum, 1), DATA(Delta_Timing, 1), DATA(Duration, 1),
-      DATA(Delta_Timing_8PSK, 1), DATA(Duration_8PSK, 1), EITHER(OSCI_TEMP_COM_IN_DAC, 5),
-      EITHER(TEMPERATURE_GSM_TX_COMPENSATE, 9), EITHER(TEMPERATURE_EDGE_TX_COMPENSATE, 9),
-      EITHER(TEMPERATURE_GSM_TXPOWER_COMPENSATE, 6), EITHER(TEMPERATURE_EDGE_TXPOWER_COMPENSATE, 6),
-      EITHER(TX_COMPENSATE_BOUNDARY_ARFCN_INDEX, 4), EITHER(TEMPERATURE_RX_COMPENSATE_ADC, 4),
-      EITHER(TEMPERATURE_RX_LEVEL_COMPENSATE, 5), EITHER(TEMPERATURE_TX_COMPENSATE_ADC, 4),
-      EITHER(TEMPERATURE_TX_RAMPWR_STEP_FACTOR, 5), EITHER(RF_EDGE_DELTA_TIMING, 1),
-      EITHER(RF_EDGE_POWER_ON_DURATION, 1));
+// Those that keep what is written. Of several that begin at the same place, the first.
+std::vector<const CalibrationItem*> Items() {
+  std::vector<const CalibrationItem*> items;
+  for (const CalibrationItem* item : commands::kCalibrationItems) {
+    const bool words = item->data != ItemData::Imei && item->data != ItemData::Commit;
+    const bool taken = std::ranges::any_of(items, [&](const CalibrationItem* other) {
+      return other->item == item->item && other->offset == item->offset;
+    });
+    if (words && !taken && !item->Export(Storage::Flash, true).name.empty()) items.push_back(item);
+  }
+  EXPECT_GE(items.size(), 40U);
   return items;
 }
 
 // Another one for every item, and bytes that a wrong order would exchange.
-Words Pattern(std::size_t item, unsigned variant) {
-  Words words(Items()[item].words);
+Words Pattern(const CalibrationItem& item, std::size_t number, unsigned variant) {
+  Words words(item.data == ItemData::Counted ? kCountedWords : item.bytes / 2U);
   for (std::size_t i = 0; i < words.size(); ++i) {
-    words[i] = static_cast<std::uint16_t>(std::size_t{0x0100} * (item + 1) +
-                                          std::size_t{0x4000} * variant + i + 1);
+    words[i] = static_cast<std::uint16_t>(0x0100 * (number + 1) + 0x4000 * variant + i + 1);
   }
   return words;
 }
 
 void WriteAll(Storage storage, unsigned variant) {
-  for (std::size_t item = 0; item < Items().size(); ++item) {
-    const Function& write = Items()[item].write[storage];
-    Words words = Pattern(item, variant);
-    if (write) {
-      EXPECT_EQ(write(words), PC_ERR_SUCCESS) << Items()[item].name;
-    }
+  std::size_t number = 0;
+  for (const CalibrationItem* item : Items()) {
+    Words words = Pattern(*item, number++, variant);
+    if (item->Export(storage, true).name.empty()) continue;
+    EXPECT_EQ(Transfer(*item, storage, true, words), PC_ERR_SUCCESS) << item->name;
   }
 }
 
 void ExpectAll(Storage storage, unsigned variant, bool inRamToo = false) {
-  for (std::size_t item = 0; item < Items().size(); ++item) {
-    const auto& [name, count, write, read] = Items()[item];
-    if (!read[storage] || (inRamToo && !read[kRam])) continue;
-    Words words(count);
-    EXPECT_EQ(read[storage](words), PC_ERR_SUCCESS) << name;
-    EXPECT_EQ(words, Pattern(item, variant)) << name;
+  std::size_t number = 0;
+  for (const CalibrationItem* item : Items()) {
+    const Words expected = Pattern(*item, number++, variant);
+    if (item->Export(storage, false).name.empty()) continue;
+    if (inRamToo && item->Export(Storage::Ram, true).name.empty()) continue;
+    Words words(expected.size());
+    EXPECT_EQ(Transfer(*item, storage, false, words), PC_ERR_SUCCESS) << item->name;
+    EXPECT_EQ(words, expected) << item->name;
   }
 }
 
-TEST_P(KeptItems, RamAndFlashAreApartUntilRestartOrSave) {
-  WriteAll(kRam, 1);
-  WriteAll(kFlash, 2);
-  ExpectAll(kRam, 1);
-  ExpectAll(kFlash, 2);
+TEST_F(KeptItems, RamAndFlashAreApartUntilRestartOrSave) {
+  WriteAll(Storage::Ram, 1);
+  WriteAll(Storage::Flash, 2);
+  ExpectAll(Storage::Ram, 1);
+  ExpectAll(Storage::Flash, 2);
   Restart();
-  ExpectAll(kRam, 2);
-  ExpectAll(kFlash, 2);
-  WriteAll(kRam, 3);
+  ExpectAll(Storage::Ram, 2);
+  ExpectAll(Storage::Flash, 2);
+  WriteAll(Storage::Ram, 3);
   ASSERT_EQ(QV_SaveToFlash_MT(kPort, kSaveLimitMs), PC_ERR_SUCCESS);
   Restart();
-  ExpectAll(kRam, 3);
-  ExpectAll(kFlash, 3, true);
+  ExpectAll(Storage::Ram, 3);
+  ExpectAll(Storage::Flash, 3, true);
 }
 
-TEST_P(KeptItems, OtherFormsReachTheSamePlaces) {
+TEST_F(KeptItems, OtherFormsReachTheSamePlaces) {
   // All ramp constants at once, and a pair of multi-chip ramps, which begins with them.
   Words ramp(16), read(16), second(16);
   for (std::size_t i = 0; i < ramp.size(); ++i) ramp[i] = static_cast<std::uint16_t>(0x0A00 + i);
@@ -179,7 +145,7 @@ TEST_P(KeptItems, OtherFormsReachTheSamePlaces) {
   EXPECT_EQ(value, 0x0BCD);
 }
 
-TEST_P(KeptItems, ImeisOutliveASaveAndAreTheHandsetsOwn) {
+TEST_F(KeptItems, ImeisOutliveASaveAndAreTheHandsetsOwn) {
   char text[16] = {};
   ASSERT_EQ(QV_WriteData_Flash_IMEI_MT(kPort, "490154203237518"), PC_ERR_SUCCESS);
   ASSERT_EQ(QV_WriteData_Flash_SecIMEI_MT(kPort, "356938035643809"), PC_ERR_SUCCESS);

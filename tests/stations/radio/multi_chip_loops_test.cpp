@@ -20,9 +20,7 @@ class MultiChipLoops : public CalibratedStation {
   const Band& Gsm900() const { return *truth->Band(0); }
 };
 
-INSTANTIATE_TEST_SUITE_P(ByteOrders, MultiChipLoops, ::testing::Values(true, false));
-
-TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
+TEST_F(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
   QV_AGC_PARAMETERS agc{0, {kChannel, 160, 260, 0}, 0};
   QV_AGC_RESULT measured{};
   EXPECT_EQ(QV_AgcStart_MChip_MT(kPort, 1, &agc, &measured), kInvalidRssi) << "nothing to receive";
@@ -43,7 +41,7 @@ TEST_P(MultiChipLoops, ReceiverIsReadUntilItHasSettled) {
   EXPECT_EQ(phone->Status("radio.receiver"), "off");
 }
 
-TEST_P(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
+TEST_F(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
   struct Trim {
     std::uint32_t mode;
     QV_AFC_PARAMETERS afc;
@@ -63,7 +61,7 @@ TEST_P(MultiChipLoops, CrystalFollowsTheCentreOrBothTrims) {
   EXPECT_EQ(phone->Status("radio.transmitter"), "off");
 }
 
-TEST_P(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
+TEST_F(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
   struct Place {
     std::uint32_t band;
     std::uint32_t group;
@@ -89,7 +87,7 @@ TEST_P(MultiChipLoops, FactorOfEveryGroupAndLevelHasItsPlace) {
   EXPECT_FALSE(Ask("AT+SIMPOWER?"));
 }
 
-TEST_P(MultiChipLoops, DirectCurrentAndNonSignallingMeasure) {
+TEST_F(MultiChipLoops, DirectCurrentAndNonSignallingMeasure) {
   std::uint16_t first = 0, second = 0;
   ASSERT_EQ(QV_CalDirectCurr_MT(kPort, &first, &second), PC_ERR_SUCCESS);
   EXPECT_NEAR(first, truth->directCurrent[0], 6);
