@@ -24,6 +24,11 @@ if(MEROVANE_SANITIZE)
   endif()
 endif()
 
+# clang leaves a sanitizer's functions to be found in the program.
+if(NOT WIN32 AND NOT MEROVANE_SANITIZE)
+  string(APPEND CMAKE_SHARED_LINKER_FLAGS " -Wl,--no-undefined")
+endif()
+
 # A fuzzer is led by what its input reaches, in the libraries too.
 if(MEROVANE_BUILD_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
