@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 #include "merovane_version/version.h"
 #include "support/child_program.h"
 #include "support/exit_codes.h"
@@ -28,6 +30,20 @@ TEST(Programs, NameTheWrongWordAndEndAlike) {
   EXPECT_THAT(run({"merovane-project-generator", "d", "--bogus"}),
               Pair(kTrouble, HasSubstr("\"--bogus\"")));
   EXPECT_THAT(run({"merovane", "--version"}), Pair(kOk, kVersion));
+}
+
+TEST(Programs, ListenShowsTheFramesOfItsKind) {
+  const std::string device = testing::TempDir() + "merovane-listen." + std::to_string(getpid());
+  test::ChildProgram handset({MEROVANE_TOOLS "/merovane-handset", "--link", device, "--mode", "3"});
+  ASSERT_EQ(handset.Line("ready "), "ready " + device);
+  setenv("CASSORIND_COM57", device.c_str(), 1);
+  test::ChildProgram listen({MEROVANE_TOOLS "/merovane", "listen", "57", "--type", "35",
+                             "--subtype", "1", "--seconds", "1"});
+  ASSERT_EQ(listen.Line(), "port 57: listening");
+  handset.Type("frame 35 0 0a\nframe 35 1 0a 0b\nframe 35 1\n");
+  EXPECT_EQ(listen.Line(), "35/1  2 bytes  0a 0b");
+  EXPECT_EQ(listen.Line(), "35/1  0 bytes ");
+  EXPECT_EQ(listen.Wait(), kOk);
 }
 
 }  // namespace

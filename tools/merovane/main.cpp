@@ -3,6 +3,7 @@
 #include <iostream>
 
 #include "link/result.h"
+#include "merovane/listen.h"
 #include "merovane/log_tool.h"
 #include "merovane/project_tool.h"
 #include "platform/console.h"
@@ -20,6 +21,7 @@ struct Choice {
   tool::ImageOptions image;
   tool::NewOptions create;
   tool::RenderOptions render;
+  tool::ListenOptions listen;
 };
 
 int PrintResults() {
@@ -129,6 +131,19 @@ void AddLogCommands(CLI::App& app, Choice& choice) {
   render->callback([&] { choice.run = [&] { return tool::Render(choice.render, std::cout); }; });
 }
 
+void AddListenCommand(CLI::App& app, Choice& choice) {
+  auto* listen = app.add_subcommand("listen", "Shows the frames of one kind that come to a port");
+  tool::ListenOptions& options = choice.listen;
+  listen->add_option("port", options.port, "its number")->required()->check(CLI::PositiveNumber);
+  listen->add_option("--type", options.type, "of the frames")->required()->check(CLI::Range(255));
+  listen->add_option("--subtype", options.subtype, "of the frames")
+      ->check(CLI::Range(255))
+      ->capture_default_str();
+  listen->add_option("--seconds", options.seconds, "how long")->capture_default_str();
+  listen->add_option("--baud", options.baudRate, "bits a second")->capture_default_str();
+  listen->callback([&] { choice.run = [&] { return tool::Listen(choice.listen, std::cout); }; });
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -143,6 +158,7 @@ int main(int argc, char** argv) {
   AddReadingCommands(*projects, choice);
   AddWritingCommands(*projects, choice);
   AddLogCommands(app, choice);
+  AddListenCommand(app, choice);
   // At a command line a file that cannot be used ends the command instead of opening a box.
   platform::SetMessageBox(
       [](const std::string& text, const std::string& /*caption*/) { throw tool::Trouble(text); });
