@@ -37,8 +37,6 @@ def range_text(argument):
 
 def outside_text(argument):
     """Which values are refused."""
-    if argument.one_of:
-        return f"other than {range_text(argument)}"
     if argument.low is not None and argument.high is not None and argument.low > 0:
         return f"outside {range_text(argument)}"
     if argument.high is not None:
@@ -114,6 +112,8 @@ def refused(export):
         outside = outside_text(argument)
         if argument.type == "band":
             reasons.append("another band")
+        elif argument.one_of:
+            reasons.append(f"another `{argument.name}`")
         elif outside:
             condition = f" {condition_text(argument, declaration)}" if argument.when else ""
             reasons.append(f"`{argument.name}` {outside}{condition}")
@@ -181,7 +181,10 @@ def comment(export, api):
     for argument in export.arguments:
         own = facts(argument, declaration)
         text = " ".join(argument.documentation)
-        text = f"{text} ({own})" if text and own else text or own
+        if text and own:
+            # After more than one clause it would not be plain what the brackets speak of.
+            text = f"{own}; {text}" if re.search(r"[.;:] ", text) else f"{text} ({own})"
+        text = text or own
         lines += wrap(f" * @param {argument.name}  ", text, " *   ")
     if not export.twin:
         for code, text in results(export, api):

@@ -39,8 +39,9 @@ extern "C" {
 
 /** Opens a port and makes its phone object the default one, on which the functions without _MT
  * work. A port that cannot be opened leaves its "Open" line and the result in the Useful log.
- * @param port  n stands for COMn on Windows; elsewhere for the device that the environment variable
- *   CASSORIND_COMn names, or else for the n-th of /dev/ttyS0, /dev/ttyS1 and so on (1 and up)
+ * @param port  1 and up; n stands for COMn on Windows; elsewhere for the device that the
+ *   environment variable CASSORIND_COMn names, or else for the n-th of /dev/ttyS0, /dev/ttyS1 and
+ *   so on
  * @param baud_rate  bits per second (1 and up)
  * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
@@ -114,8 +115,8 @@ MEROVANE_API void MEROVANE_CALL QV_SetRecvMode(uint32_t mode);
 /** Appends all received bytes to a file, as they come and without marks, on ports that are opened
  * from now on.
  * @param on  not 0: record; 0: end the recording on every port
- * @param path  the file, relative to the process's current directory; null or empty ends the
- *   recording too (may be null) */
+ * @param path  may be null; the file, relative to the process's current directory; null or empty
+ *   ends the recording too */
 MEROVANE_API void MEROVANE_CALL QV_SaveRecvData(uint32_t on, MEROVANE_IN_TEXT_OPT const char *path);
 
 /** Tells whether the default phone object's handset has reported an assert since the last call:
@@ -135,7 +136,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
  *   arrives, with a phone object of its own
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
  * @param event  reset at the start, set when the handset was caught
- * @param time_limit_ms  0: without end (milliseconds)
+ * @param time_limit_ms  milliseconds; 0: without end
  * @retval PC_ERR_PORT_NOT_OPEN  without a default phone object (`wait_for_port` 0)
  * @retval PC_ERR_INVALID_PARAM  a null `event`
  * @retval PC_ERR_ENTER_MODE_FAILED  the system gives no thread
@@ -150,7 +151,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess(
  * @param wait_for_port  0: on the port, which is open; not 0: on the port once its device arrives
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
  * @param event  reset at the start, set when the handset was caught
- * @param time_limit_ms  0: without end (milliseconds)
+ * @param time_limit_ms  milliseconds; 0: without end
  * @retval PC_ERR_PORT_NOT_OPEN  the port is not open (`wait_for_port` 0)
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; a null `event`
  * @retval PC_ERR_ENTER_MODE_FAILED  the system gives no thread
@@ -163,7 +164,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcess_MT(
  * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
  *   arrives
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
- * @param time_limit_ms  0: without end (milliseconds)
+ * @param time_limit_ms  milliseconds; 0: without end
  * @retval PC_ERR_PORT_NOT_OPEN  without a default phone object (`wait_for_port` 0)
  * @retval PC_ERR_ENTER_MODE_FAILED  the handset was not caught
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -175,7 +176,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx(
  * @param port  the port (1 and up)
  * @param wait_for_port  0: on the port, which is open; not 0: on the port once its device arrives
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
- * @param time_limit_ms  0: without end (milliseconds)
+ * @param time_limit_ms  milliseconds; 0: without end
  * @retval PC_ERR_PORT_NOT_OPEN  the port is not open (`wait_for_port` 0)
  * @retval PC_ERR_INVALID_PARAM  `port` below 1
  * @retval PC_ERR_ENTER_MODE_FAILED  the handset was not caught
@@ -208,8 +209,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
  * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
  *   others restart it plainly
  * @param event  set when done; reset at the start when `through_port` is not 0
- * @param time_limit_ms  through its port: of the wait for the device, 0 without end; otherwise of
- *   the answer (milliseconds)
+ * @param time_limit_ms  milliseconds; through its port: of the wait for the device, 0 without end;
+ *   otherwise of the answer
  * @retval PC_ERR_INVALID_PARAM  a null `event`; `time_limit_ms` is 0 in a plain restart
  * @retval PC_ERR_ENTER_MODE_FAILED  the handset restarts, but the system gives no thread to wait
  *   for its device
@@ -226,8 +227,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(
  * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
  *   others restart it plainly
  * @param event  set when done; reset at the start when `through_port` is not 0
- * @param time_limit_ms  through its port: of the wait for the device, 0 without end; otherwise of
- *   the answer (milliseconds)
+ * @param time_limit_ms  milliseconds; through its port: of the wait for the device, 0 without end;
+ *   otherwise of the answer
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; a null `event`; `time_limit_ms` is 0 in a plain
  *   restart
  * @retval PC_ERR_ENTER_MODE_FAILED  the handset restarts, but the system gives no thread to wait
@@ -256,7 +257,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);
  * @param data  the frame's 8-byte header, as it arrived (`capacity` bytes, counted in `length`)
  * @param capacity  room at `data` (1 to 2147483647)
  * @param length  how many bytes were stored, at most 8; written on success only
- * @param timeout_ms  0: nothing is read (milliseconds)
+ * @param timeout_ms  milliseconds; 0: nothing is read
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time; one in the other byte order does
  *   not count
@@ -270,7 +271,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData(
  * @param data  the frame's 8-byte header, as it arrived (`capacity` bytes, counted in `length`)
  * @param capacity  room at `data` (1 to 2147483647)
  * @param length  how many bytes were stored, at most 8; written on success only
- * @param timeout_ms  0: nothing is read (milliseconds) */
+ * @param timeout_ms  milliseconds; 0: nothing is read */
 MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
     int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data, uint32_t capacity,
     MEROVANE_OUT uint32_t *length, uint32_t timeout_ms) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
@@ -290,7 +291,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_
 /** QV_RecvPhoneStartData, then QV_SetPhoneStartMode. The result is reported under the operation id
  * of the last that ran.
  * @param mode  as QV_SetPhoneStartMode takes it
- * @param timeout_ms  of the wait for the start frame; 0: nothing is read (milliseconds)
+ * @param timeout_ms  milliseconds; of the wait for the start frame; 0: nothing is read
  * @retval PC_ERR_NO_USEFUL_DATA  no start frame arrived in time, and no mode was sent
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -300,7 +301,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx(uint32_t mode, uint32_
  * QV_SetPhoneStartMode. The result is reported under the operation id of the last that ran.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param mode  as QV_SetPhoneStartMode takes it
- * @param timeout_ms  of the wait for the start frame; 0: nothing is read (milliseconds) */
+ * @param timeout_ms  milliseconds; of the wait for the start frame; 0: nothing is read */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartModeEx_MT(
     int32_t port, uint32_t mode, uint32_t timeout_ms);
 
@@ -413,8 +414,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone(uint32_t timeout_ms);
 MEROVANE_API int32_t MEROVANE_CALL QV_RestartPhone_MT(int32_t port, uint32_t timeout_ms);
 
 /** Reads the handset's mode. Waits 1000 ms.
- * @param data  the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is not told. Byte 3
- *   becomes a start mode code, 0x80 to 0x8F, when it arrived (`capacity` bytes)
+ * @param data  `capacity` bytes; the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is
+ *   not told. Byte 3 becomes a start mode code, 0x80 to 0x8F, when it arrived
  * @param capacity  room at `data` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `capacity` outside 1 to 2147483647
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -424,8 +425,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode(
 
 /** QV_ReadMode for the port `port`, with the same results. Reads the handset's mode. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is not told. Byte 3
- *   becomes a start mode code, 0x80 to 0x8F, when it arrived (`capacity` bytes)
+ * @param data  `capacity` bytes; the answer, cut to `capacity` with PC_ERR_SUCCESS; its length is
+ *   not told. Byte 3 becomes a start mode code, 0x80 to 0x8F, when it arrived
  * @param capacity  room at `data` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(
     int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data,
@@ -433,12 +434,12 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_MT(
 
 /** Takes the next whole frame of any type. The setting "Inc Recv Timeout" does not lengthen the
  * wait.
- * @param data  the frame without its flags and escapes: 8 bytes of header, then the payload
- *   (`*length` bytes, counted in `length`)
- * @param length  in: room at `data`; out: how many bytes were stored, 0 without a frame (1 to
- *   2147483647)
- * @param timeout_ms  of the frame; one that has begun to arrive gets up to 500 ms more (above 0,
- *   milliseconds)
+ * @param data  `*length` bytes, counted in `length`; the frame without its flags and escapes: 8
+ *   bytes of header, then the payload
+ * @param length  1 to 2147483647; in: room at `data`; out: how many bytes were stored, 0 without a
+ *   frame
+ * @param timeout_ms  above 0, milliseconds; of the frame; one that has begun to arrive gets up to
+ *   500 ms more
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` outside 1 to 2147483647; `timeout_ms` of 0
  * @retval PC_ERR_BUFFER_TOO_SMALL  the frame was cut to the room that there is
  * @retval PC_ERR_DECODE_FAILED  a frame arrived that holds nothing
@@ -451,12 +452,12 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Read(
 /** QV_Read for the port `port`, with the same results. Takes the next whole frame of any type. The
  * setting "Inc Recv Timeout" does not lengthen the wait.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  the frame without its flags and escapes: 8 bytes of header, then the payload
- *   (`*length` bytes, counted in `length`)
- * @param length  in: room at `data`; out: how many bytes were stored, 0 without a frame (1 to
- *   2147483647)
- * @param timeout_ms  of the frame; one that has begun to arrive gets up to 500 ms more (above 0,
- *   milliseconds) */
+ * @param data  `*length` bytes, counted in `length`; the frame without its flags and escapes: 8
+ *   bytes of header, then the payload
+ * @param length  1 to 2147483647; in: room at `data`; out: how many bytes were stored, 0 without a
+ *   frame
+ * @param timeout_ms  above 0, milliseconds; of the frame; one that has begun to arrive gets up to
+ *   500 ms more */
 MEROVANE_API int32_t MEROVANE_CALL QV_Read_MT(
     int32_t port, MEROVANE_OUT_N(*length) uint8_t *data, MEROVANE_INOUT uint32_t *length,
     uint32_t timeout_ms) MEROVANE_WRITES(2) MEROVANE_UPDATES(3);
@@ -485,10 +486,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Write_MT(
  * @param answer  the answer's text, line ends included, without a terminating zero (`capacity`
  *   bytes, counted in `answer_length`, looked at only when `wait` is not 0)
  * @param capacity  room at `answer` (1 to 2147483647 when `wait` is not 0)
- * @param answer_length  how many characters were stored; 0 when no answer came, not written without
- *   an acknowledgement (looked at only when `wait` is not 0)
- * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
- *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds)
+ * @param answer_length  looked at only when `wait` is not 0; how many characters were stored; 0
+ *   when no answer came, not written without an acknowledgement
+ * @param timeout_ms  above 0, milliseconds; of the whole answer. Each frame of it may take this
+ *   long, so that the call can last twice the limit; the setting "Inc Recv Timeout" is not added
  * @retval PC_ERR_SUCCESS  also when time ran out after part of an answer: look for the "OK" at its
  *   end
  * @retval PC_ERR_INVALID_PARAM  `command` is null; `answer` or `answer_length` is null when `wait`
@@ -513,10 +514,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand(
  * @param answer  the answer's text, line ends included, without a terminating zero (`capacity`
  *   bytes, counted in `answer_length`, looked at only when `wait` is not 0)
  * @param capacity  room at `answer` (1 to 2147483647 when `wait` is not 0)
- * @param answer_length  how many characters were stored; 0 when no answer came, not written without
- *   an acknowledgement (looked at only when `wait` is not 0)
- * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
- *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds) */
+ * @param answer_length  looked at only when `wait` is not 0; how many characters were stored; 0
+ *   when no answer came, not written without an acknowledgement
+ * @param timeout_ms  above 0, milliseconds; of the whole answer. Each frame of it may take this
+ *   long, so that the call can last twice the limit; the setting "Inc Recv Timeout" is not added */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
     int32_t port, MEROVANE_IN_TEXT const char *command, uint32_t command_length, uint32_t wait,
     MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
@@ -527,14 +528,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
  * removed, up to the frame that holds "OK" or the prompt ">". That frame is not delivered.
  * @param command  without an added line end (`length` bytes)
  * @param length  how many bytes (1 to 9216)
- * @param answer  the answer's text without a terminating zero; null: only the acknowledgement is
- *   awaited, 1000 ms (`capacity` bytes, counted in `answer_length`, may be null)
+ * @param answer  `capacity` bytes, counted in `answer_length`, may be null; the answer's text
+ *   without a terminating zero; null: only the acknowledgement is awaited, 1000 ms
  * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
  *   null)
- * @param answer_length  how many characters were stored; 0 when no answer came, not written without
- *   an acknowledgement; null: as for `answer` (may be null)
- * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
- *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds)
+ * @param answer_length  may be null; how many characters were stored; 0 when no answer came, not
+ *   written without an acknowledgement; null: as for `answer`
+ * @param timeout_ms  above 0, milliseconds; of the whole answer. Each frame of it may take this
+ *   long, so that the call can last twice the limit; the setting "Inc Recv Timeout" is not added
  * @retval PC_ERR_INVALID_PARAM  `command` is null; `length` outside 1 to 9216; `capacity` outside 1
  *   to 2147483647 when `answer` and `answer_length` are not null; `timeout_ms` of 0
  * @retval PC_ERR_BUFFER_TOO_SMALL  the answer is longer; `answer` holds the frames that fitted
@@ -551,14 +552,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  without an added line end (`length` bytes)
  * @param length  how many bytes (1 to 9216)
- * @param answer  the answer's text without a terminating zero; null: only the acknowledgement is
- *   awaited, 1000 ms (`capacity` bytes, counted in `answer_length`, may be null)
+ * @param answer  `capacity` bytes, counted in `answer_length`, may be null; the answer's text
+ *   without a terminating zero; null: only the acknowledgement is awaited, 1000 ms
  * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
  *   null)
- * @param answer_length  how many characters were stored; 0 when no answer came, not written without
- *   an acknowledgement; null: as for `answer` (may be null)
- * @param timeout_ms  of the whole answer. Each frame of it may take this long, so that the call can
- *   last twice the limit; the setting "Inc Recv Timeout" is not added (above 0, milliseconds) */
+ * @param answer_length  may be null; how many characters were stored; 0 when no answer came, not
+ *   written without an acknowledgement; null: as for `answer`
+ * @param timeout_ms  above 0, milliseconds; of the whole answer. Each frame of it may take this
+ *   long, so that the call can last twice the limit; the setting "Inc Recv Timeout" is not added */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendAT_MT(
     int32_t port, MEROVANE_IN_N(length) const char *command, uint32_t length,
     MEROVANE_OUT_N_OPT(capacity) char *answer, uint32_t capacity,
@@ -631,7 +632,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlash_MT(
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them (`length` bytes)
  * @param length  how many (1 to 65523)
- * @param timeout_ms  of the acknowledgement; 0: 4000 (milliseconds)
+ * @param timeout_ms  milliseconds; of the acknowledgement; 0: 4000
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` outside 1 to 65523
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -645,7 +646,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash(
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them (`length` bytes)
  * @param length  how many (1 to 65523)
- * @param timeout_ms  of the acknowledgement; 0: 4000 (milliseconds) */
+ * @param timeout_ms  milliseconds; of the acknowledgement; 0: 4000 */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlash_MT(
     int32_t port, uint16_t item, MEROVANE_IN_N(length) const uint8_t *data, uint32_t length,
     uint32_t timeout_ms) MEROVANE_READS_N(3, 4);
@@ -695,7 +696,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNv_MT(
 /** Writes an NV item. Waits 1000 ms.
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them (`length` bytes)
- * @param length  how many; 0 is sent as well (0 to 65525)
+ * @param length  0 to 65525; how many; 0 is sent as well
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `length` above 65525
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -707,7 +708,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param item  the item's id
  * @param data  the item's bytes, as the handset holds them (`length` bytes)
- * @param length  how many; 0 is sent as well (0 to 65525) */
+ * @param length  0 to 65525; how many; 0 is sent as well */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
     int32_t port, uint16_t item, MEROVANE_IN_N(length) const uint8_t *data,
     uint32_t length) MEROVANE_READS_N(3, 4);
@@ -717,8 +718,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteNv_MT(
  * @param item  the item's id
  * @param offset  of the part in the item
  * @param length  of the part; cut to `capacity` with PC_ERR_SUCCESS
- * @param data  the part's bytes, as the handset holds them; bytes after the end of the item read as
- *   0 (`capacity` bytes, counted in `data_length`)
+ * @param data  `capacity` bytes, counted in `data_length`; the part's bytes, as the handset holds
+ *   them; bytes after the end of the item read as 0
  * @param capacity  room at `data` (1 to 2147483647)
  * @param data_length  how many bytes were stored; written on success only
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647; after the
@@ -733,8 +734,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadNvFromHandset(
 /** Reads registers. Waits 1000 ms.
  * @param access_width  a QV_ACCESS_WIDTH; any other value reads 32-bit units
  * @param address  of the first unit
- * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
- *   only (`count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes)
+ * @param data  `count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes; in the
+ *   handset's byte order; units that did not arrive read as 0. Written on success only
  * @param count  of units (above 0)
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `count` of 0; more than 65519 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -748,8 +749,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param access_width  a QV_ACCESS_WIDTH; any other value reads 32-bit units
  * @param address  of the first unit
- * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
- *   only (`count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes)
+ * @param data  `count * (access_width == 0 ? 1 : access_width == 1 ? 2 : 4)` bytes; in the
+ *   handset's byte order; units that did not arrive read as 0. Written on success only
  * @param count  of units (above 0) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRegister_MT(
     int32_t port, uint32_t access_width, uint32_t address,
@@ -814,7 +815,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetChipType_MT(
 
 /** Reads the identification of an LCD's controller. Waits 1000 ms.
  * @param second_lcd  0: of the first LCD, else of the second
- * @param id  as it arrived; no more than 100 bytes of it (`capacity` bytes, counted in `length`)
+ * @param id  `capacity` bytes, counted in `length`; as it arrived; no more than 100 bytes of it
  * @param capacity  room at `id` (1 and up)
  * @param length  of the whole identification, also when it was cut; written when an answer came
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` below 1
@@ -829,7 +830,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID(
  * LCD's controller. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param second_lcd  0: of the first LCD, else of the second
- * @param id  as it arrived; no more than 100 bytes of it (`capacity` bytes, counted in `length`)
+ * @param id  `capacity` bytes, counted in `length`; as it arrived; no more than 100 bytes of it
  * @param capacity  room at `id` (1 and up)
  * @param length  of the whole identification, also when it was cut; written when an answer came */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetLcdIcDriverID_MT(
@@ -853,9 +854,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetFlashInfo_MT(
     int32_t port, MEROVANE_OUT QV_FLASH_INFO *info) MEROVANE_WRITES(2);
 
 /** Reads the software version's text. Waits 1000 ms.
- * @param version  as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends with a zero only
- *   when the handset sends one that fits, and its length is not told: clear the buffer before
- *   (`capacity` bytes)
+ * @param version  `capacity` bytes; as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends
+ *   with a zero only when the handset sends one that fits, and its length is not told: clear the
+ *   buffer before
  * @param capacity  room at `version` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `version` is null; `capacity` outside 1 to 2147483647
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -866,9 +867,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion(
 /** QV_GetMSVersion for the port `port`, with the same results. Reads the software version's text.
  * Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param version  as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends with a zero only
- *   when the handset sends one that fits, and its length is not told: clear the buffer before
- *   (`capacity` bytes)
+ * @param version  `capacity` bytes; as it arrived, cut to `capacity` with PC_ERR_SUCCESS. It ends
+ *   with a zero only when the handset sends one that fits, and its length is not told: clear the
+ *   buffer before
  * @param capacity  room at `version` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
     int32_t port, MEROVANE_OUT_N(capacity) char *version,
@@ -879,7 +880,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetMSVersion_MT(
  * @param words  what is sent (10 values)
  * @param answered_words  an answer of 20 bytes or more fills all, one of 6 or more the first three,
  *   a shorter one none (10 values)
- * @param timeout_ms  of the answer; 0: 1000 (milliseconds)
+ * @param timeout_ms  milliseconds; of the answer; 0: 1000
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -895,7 +896,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand(
  * @param words  what is sent (10 values)
  * @param answered_words  an answer of 20 bytes or more fills all, one of 6 or more the first three,
  *   a shorter one none (10 values)
- * @param timeout_ms  of the answer; 0: 1000 (milliseconds) */
+ * @param timeout_ms  milliseconds; of the answer; 0: 1000 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand_MT(
     int32_t port, uint8_t command, MEROVANE_IN_N(10) const uint16_t *words,
     MEROVANE_OUT_N(10) uint16_t *answered_words,
@@ -905,7 +906,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Send7310KCommand_MT(
  * lengthen the wait.
  * @param command  as in QV_Send7310KCommand
  * @param answered_words  as QV_Send7310KCommand fills them (10 values)
- * @param timeout_ms  of the wait; 0: 1000 (milliseconds)
+ * @param timeout_ms  milliseconds; of the wait; 0: 1000
  * @retval PC_ERR_INVALID_PARAM  `answered_words` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
@@ -918,7 +919,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  as in QV_Send7310KCommand
  * @param answered_words  as QV_Send7310KCommand fills them (10 values)
- * @param timeout_ms  of the wait; 0: 1000 (milliseconds) */
+ * @param timeout_ms  milliseconds; of the wait; 0: 1000 */
 MEROVANE_API int32_t MEROVANE_CALL QV_Recv7310KCommand_MT(
     int32_t port, uint8_t command, MEROVANE_OUT_N(10) uint16_t *answered_words,
     uint32_t timeout_ms) MEROVANE_WRITES(3);
@@ -1000,12 +1001,12 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(
  * when the item begins with the block's magic. Waits 4000 ms for each of two reads, 3000 ms for the
  * block. The reads log and report as QV_ReadFlash and QV_FastReadProduct, and the result is
  * reported under the operation id of the last.
- * @param serial_number  24 bytes, padded with zeros; bytes that did not arrive read as 0. Written
- *   on success, and cut (`capacity` bytes)
+ * @param serial_number  `capacity` bytes; its 24 bytes, padded with zeros and cut to `capacity`;
+ *   bytes that did not arrive read as 0
  * @param capacity  room at `serial_number` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `capacity` outside 1 to 2147483647
- * @retval PC_ERR_BUFFER_TOO_SMALL  cut to `capacity`; or, with nothing stored, the production block
- *   has more than 256 bytes
+ * @retval PC_ERR_BUFFER_TOO_SMALL  it was cut; or, with nothing stored, the production block has
+ *   more than 256 bytes
  * @retval PC_ERR_WRONG_DATA_LENGTH  as QV_ReadFlash and QV_FastReadProduct give it
  * @retval PC_ERR_CHECKSUM_MISMATCH  as QV_FastReadProduct gives it
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1015,8 +1016,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN(
 
 /** QV_ReadSN for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number  24 bytes, padded with zeros; bytes that did not arrive read as 0. Written
- *   on success, and cut (`capacity` bytes)
+ * @param serial_number  `capacity` bytes; its 24 bytes, padded with zeros and cut to `capacity`;
+ *   bytes that did not arrive read as 0
  * @param capacity  room at `serial_number` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN_MT(
     int32_t port, MEROVANE_OUT_N(capacity) uint8_t *serial_number,
@@ -1050,7 +1051,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadSN2_MT(
  * the magic, 8000 ms for the whole item (3000 ms for the block), 3000 ms for the write. The steps
  * log and report as QV_ReadFlash, QV_WriteFlash, QV_FastReadProduct and QV_FastWriteProduct, and
  * the result is reported under the operation id of the last.
- * @param serial_number  what is written; padded with zeros to 24 bytes (`length` bytes)
+ * @param serial_number  `length` bytes; what is written; padded with zeros to 24 bytes
  * @param length  how many bytes (1 to 23)
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `length` outside 1 to 23
  * @retval PC_ERR_BUFFER_TOO_SMALL  the handset holds more than the layout; nothing was written
@@ -1063,7 +1064,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN(
 
 /** QV_WriteSN for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param serial_number  what is written; padded with zeros to 24 bytes (`length` bytes)
+ * @param serial_number  `length` bytes; what is written; padded with zeros to 24 bytes
  * @param length  how many bytes (1 to 23) */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN_MT(
     int32_t port, MEROVANE_IN_N(length) const uint8_t *serial_number,
@@ -1091,8 +1092,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteSN2_MT(
 
 /** Reads the handset's GUID from flash item 0. Waits 4000 ms. The read logs and reports as
  * QV_ReadFlash.
- * @param guid  as the handset holds it; bytes that did not arrive read as 0. Written on success
- *   only (16 bytes)
+ * @param guid  16 bytes; as the handset holds it; bytes that did not arrive read as 0. Written on
+ *   success only
  * @retval PC_ERR_INVALID_PARAM  `guid` is null
  * @retval PC_ERR_BUFFER_TOO_SMALL  the handset sent more than the item's 1752 bytes
  * @retval PC_ERR_WRONG_DATA_LENGTH  the item is empty
@@ -1103,15 +1104,15 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT_N(16) uint8_t *guid)
 /** QV_ReadGuid for the port `port`, with the same results. Reads the handset's GUID from flash item
  * 0. Waits 4000 ms. The read logs and reports as QV_ReadFlash.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param guid  as the handset holds it; bytes that did not arrive read as 0. Written on success
- *   only (16 bytes) */
+ * @param guid  16 bytes; as the handset holds it; bytes that did not arrive read as 0. Written on
+ *   success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid_MT(
     int32_t port, MEROVANE_OUT_N(16) uint8_t *guid) MEROVANE_WRITES(2);
 
 /** Writes the production block and its checksum. Waits 3000 ms.
- * @param block  without a checksum; 256 bytes in handsets that keep their serial numbers there
- *   (`length` bytes)
- * @param length  how many bytes; 0 is sent as well (0 to 65525)
+ * @param block  `length` bytes; without a checksum; 256 bytes in handsets that keep their serial
+ *   numbers there
+ * @param length  0 to 65525; how many bytes; 0 is sent as well
  * @retval PC_ERR_INVALID_PARAM  `block` is null; `length` above 65525
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1121,16 +1122,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct(
 /** QV_FastWriteProduct for the port `port`, with the same results. Writes the production block and
  * its checksum. Waits 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  without a checksum; 256 bytes in handsets that keep their serial numbers there
- *   (`length` bytes)
- * @param length  how many bytes; 0 is sent as well (0 to 65525) */
+ * @param block  `length` bytes; without a checksum; 256 bytes in handsets that keep their serial
+ *   numbers there
+ * @param length  0 to 65525; how many bytes; 0 is sent as well */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteProduct_MT(
     int32_t port, MEROVANE_IN_N(length) const uint8_t *block,
     uint32_t length) MEROVANE_READS_N(2, 3);
 
 /** Reads the production block. Waits 3000 ms.
- * @param block  as the handset holds it, without its checksum; must be writable over the whole
- *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param block  `capacity` bytes, counted in `length`; as the handset holds it, without its
+ *   checksum; must be writable over the whole `capacity`
  * @param capacity  room at `block` (1 to 2147483647)
  * @param length  of the whole block, also when it was cut; 0 with other failures, but for
  *   PC_ERR_INVALID_PARAM
@@ -1148,8 +1149,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct(
 /** QV_FastReadProduct for the port `port`, with the same results. Reads the production block. Waits
  * 3000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  as the handset holds it, without its checksum; must be writable over the whole
- *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param block  `capacity` bytes, counted in `length`; as the handset holds it, without its
+ *   checksum; must be writable over the whole `capacity`
  * @param capacity  room at `block` (1 to 2147483647)
  * @param length  of the whole block, also when it was cut; 0 with other failures, but for
  *   PC_ERR_INVALID_PARAM */
@@ -1158,8 +1159,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadProduct_MT(
     MEROVANE_OUT uint32_t *length) MEROVANE_WRITES_N(2, 3) MEROVANE_WRITES(4);
 
 /** Reads the version block. Waits 3000 ms. It logs the name of QV_FastReadProduct.
- * @param block  as the handset holds it, without its checksum; must be writable over the whole
- *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param block  `capacity` bytes, counted in `length`; as the handset holds it, without its
+ *   checksum; must be writable over the whole `capacity`
  * @param capacity  room at `block` (1 to 2147483647)
  * @param length  as QV_FastReadProduct stores it
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647; a block that
@@ -1176,8 +1177,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion(
 /** QV_FastReadVerSion for the port `port`, with the same results. Reads the version block. Waits
  * 3000 ms. It logs the name of QV_FastReadProduct.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  as the handset holds it, without its checksum; must be writable over the whole
- *   `capacity` (`capacity` bytes, counted in `length`)
+ * @param block  `capacity` bytes, counted in `length`; as the handset holds it, without its
+ *   checksum; must be writable over the whole `capacity`
  * @param capacity  room at `block` (1 to 2147483647)
  * @param length  as QV_FastReadProduct stores it */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadVerSion_MT(
@@ -1257,8 +1258,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
 
 /** Measures an ADC channel.
  * @param channel  as the handset numbers its channels
- * @param value  most significant byte first, whatever the handset's byte order; written on success
- *   only (2 bytes)
+ * @param value  2 bytes; most significant byte first, whatever the handset's byte order; written on
+ *   success only
  * @param timeout_ms  of the answer (above 0, milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `value` is null; `timeout_ms` of 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1269,8 +1270,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
 /** QV_ADCCalibration for the port `port`, with the same results. Measures an ADC channel.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param channel  as the handset numbers its channels
- * @param value  most significant byte first, whatever the handset's byte order; written on success
- *   only (2 bytes)
+ * @param value  2 bytes; most significant byte first, whatever the handset's byte order; written on
+ *   success only
  * @param timeout_ms  of the answer (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
     int32_t port, uint8_t channel, MEROVANE_OUT_N(2) uint8_t *value,
@@ -1281,7 +1282,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
  * @param value  written on success only, as are the next two
  * @param third_byte  of the answer (may be null)
  * @param fourth_byte  of the answer (may be null)
- * @param timeout_ms  of the answer; 0: 1000 (milliseconds)
+ * @param timeout_ms  milliseconds; of the answer; 0: 1000
  * @retval PC_ERR_INVALID_PARAM  `value` is null
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1296,7 +1297,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
  * @param value  written on success only, as are the next two
  * @param third_byte  of the answer (may be null)
  * @param fourth_byte  of the answer (may be null)
- * @param timeout_ms  of the answer; 0: 1000 (milliseconds) */
+ * @param timeout_ms  milliseconds; of the answer; 0: 1000 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue_MT(
     int32_t port, uint8_t channel, MEROVANE_OUT uint16_t *value,
     MEROVANE_OUT_OPT uint8_t *third_byte, MEROVANE_OUT_OPT uint8_t *fourth_byte,
@@ -1331,16 +1332,16 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PressKeyboard_MT(int32_t port, uint32_t ke
 
 /* ---- GPS ----------------------------------------------------------------------------- */
 
-/** Opens or closes the receiver. Waits 1000 ms.
+/** Opens or closes the GPS receiver. Waits 1000 ms.
  * @param open  0: close
- * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command; one below 264 bytes is not
- *   looked at
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command. One below 264 bytes is not
+ *   checked and counts as success
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen(uint32_t open);
 
-/** QV_GpsOpen for the port `port`, with the same results. Opens or closes the receiver. Waits 1000
- * ms.
+/** QV_GpsOpen for the port `port`, with the same results. Opens or closes the GPS receiver. Waits
+ * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param open  0: close */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
@@ -1349,8 +1350,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsOpen_MT(int32_t port, uint32_t open);
  * @param block  as the handset holds them, but for the 32-bit word at offset 24, which is in this
  *   machine's byte order (44 bytes)
  * @retval PC_ERR_INVALID_PARAM  `block` is null
- * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length; one below 264
- *   bytes is not looked at
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length. One below 264
+ *   bytes is not checked and counts as success
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv(
@@ -1365,11 +1366,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsWriteNv_MT(
     int32_t port, MEROVANE_IN_N(44) const uint8_t *block) MEROVANE_READS(2);
 
 /** Reads the GPS settings. Waits 1000 ms.
- * @param block  as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written with
- *   PC_ERR_GPS_FAILED too (44 bytes)
+ * @param block  44 bytes; as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written
+ *   with PC_ERR_GPS_FAILED too
  * @retval PC_ERR_INVALID_PARAM  `block` is null
- * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length; one below 264
- *   bytes is not looked at
+ * @retval PC_ERR_GPS_FAILED  the answer does not repeat the command and the length. One below 264
+ *   bytes is not checked and counts as success
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(
@@ -1377,8 +1378,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv(
 
 /** QV_GpsReadNv for the port `port`, with the same results. Reads the GPS settings. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param block  as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written with
- *   PC_ERR_GPS_FAILED too (44 bytes) */
+ * @param block  44 bytes; as QV_GpsWriteNv takes it; bytes that did not arrive read as 0. Written
+ *   with PC_ERR_GPS_FAILED too */
 MEROVANE_API int32_t MEROVANE_CALL QV_GpsReadNv_MT(
     int32_t port, MEROVANE_OUT_N(44) uint8_t *block) MEROVANE_WRITES(2);
 
@@ -1412,7 +1413,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveBTAddr_MT(
     int32_t port, MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(2);
 
 /** Reads the Bluetooth address. Waits 1000 ms.
- * @param address  most significant byte first; written on success only (6 bytes)
+ * @param address  6 bytes; most significant byte first; written on success only
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @retval PC_ERR_BLUETOOTH_FAILED  the answer has fewer than 6 bytes, or the exchange failed for
  *   whatever reason; not logged
@@ -1423,14 +1424,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr(
 /** QV_LoadBTAddr for the port `port`, with the same results. Reads the Bluetooth address. Waits
  * 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param address  most significant byte first; written on success only (6 bytes) */
+ * @param address  6 bytes; most significant byte first; written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(
     int32_t port, MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(2);
 
 /** Starts or stops a radio test. Waits 3000 ms to start, 1000 ms to stop.
  * @param start  0: stop
- * @param words  the second is the channel, 0 to 78; the others are the handset's (4 values, looked
- *   at only when `start` is not 0)
+ * @param words  4 values, looked at only when `start` is not 0; the second is the channel, 0 to 78;
+ *   the others are the handset's
  * @retval PC_ERR_INVALID_PARAM  `words` is null when `start` is not 0; a channel above 78
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1441,8 +1442,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(
  * Waits 3000 ms to start, 1000 ms to stop.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  0: stop
- * @param words  the second is the channel, 0 to 78; the others are the handset's (4 values, looked
- *   at only when `start` is not 0) */
+ * @param words  4 values, looked at only when `start` is not 0; the second is the channel, 0 to 78;
+ *   the others are the handset's */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
     int32_t port, uint32_t start, MEROVANE_IN_N_OPT(4) const uint32_t *words) MEROVANE_READS(3);
 
@@ -1514,8 +1515,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
 
 /** Stores the WiFi address. Waits 3000 ms.
- * @param address  reaches the handset reversed, and QV_WIFI_LoadAddr does not turn it back: what is
- *   saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01 (6 bytes)
+ * @param address  6 bytes; reaches the handset reversed, and QV_WIFI_LoadAddr does not turn it
+ *   back: what is saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1524,7 +1525,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
     MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(1);
 
 /** Reads the WiFi address. Waits 1000 ms.
- * @param address  as the handset holds it; written on success only (6 bytes)
+ * @param address  6 bytes; as the handset holds it; written on success only
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure or sent fewer than 6 bytes; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1542,8 +1543,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
 /** Chooses the data rate. Waits 3000 ms.
  * @param rate  Mbit/s, rounded down (1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52,
  *   54, 58 or 65)
- * @retval PC_ERR_INVALID_PARAM  `rate` other than 1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36,
- *   39, 48, 52, 54, 58 or 65
+ * @retval PC_ERR_INVALID_PARAM  another `rate`
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1626,10 +1626,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_ResetRFparam(void);
  * @param unused  not looked at
  * @param width  bytes of a unit (1, 2 or 4)
  * @param address  of the first unit
- * @param data  in the handset's byte order; units that did not arrive read as 0. Written on success
- *   only (`count * width` bytes)
+ * @param data  `count * width` bytes; in the handset's byte order; units that did not arrive read
+ *   as 0. Written on success only
  * @param count  of units (above 0)
- * @retval PC_ERR_INVALID_PARAM  `data` is null; `width` other than 1, 2 or 4; `count` of 0
+ * @retval PC_ERR_INVALID_PARAM  `data` is null; another `width`; `count` of 0
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1643,7 +1643,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_RdRegMemo(
  * @param width  bytes of the unit (1, 2 or 4)
  * @param address  of the unit
  * @param value  what is written
- * @retval PC_ERR_INVALID_PARAM  `width` other than 1, 2 or 4
+ * @retval PC_ERR_INVALID_PARAM  another `width`
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1753,8 +1753,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MT(
  * block is that short or announces no other block. A run that fails leaves the handset running:
  * call again with `start` 0.
  * @param start  not 0: run; 0: stop
- * @param run  its values are sent; its report, as 16-bit words, and the report's length are written
- *   on success only (looked at only when `start` is not 0)
+ * @param run  looked at only when `start` is not 0; its values are sent; its report, as 16-bit
+ *   words, and the report's length are written on success only
  * @retval PC_ERR_INVALID_PARAM  `run` is null when `start` is not 0; `run->count` above 16
  * @retval PC_ERR_MESSAGE_TOO_LONG  the report would not fit into the record
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1767,9 +1767,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStartEx(
  * Timeout" is not added, for the report.
  * @param start  not 0: measure; 0: stop
  * @param parameters  what to measure, sent as it stands (looked at only when `start` is not 0)
- * @param measured  what the handset reports. Fields that the report is too short for read 0; an
- *   empty report zeroes it; without a report it stays as it was (looked at only when `start` is not
- *   0)
+ * @param measured  looked at only when `start` is not 0; what the handset reports. Fields that the
+ *   report is too short for read 0; an empty report zeroes it; without a report it stays as it was
  * @retval PC_ERR_INVALID_PARAM  `parameters` or `measured` is null when `start` is not 0
  * @retval PC_ERR_NO_DATA  acknowledged, but no report came
  * @retval PC_ERR_DECODE_FAILED  a report came that does not decode
@@ -1785,9 +1784,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  not 0: measure; 0: stop
  * @param parameters  what to measure, sent as it stands (looked at only when `start` is not 0)
- * @param measured  what the handset reports. Fields that the report is too short for read 0; an
- *   empty report zeroes it; without a report it stays as it was (looked at only when `start` is not
- *   0) */
+ * @param measured  looked at only when `start` is not 0; what the handset reports. Fields that the
+ *   report is too short for read 0; an empty report zeroes it; without a report it stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MT(
     int32_t port, uint32_t start, MEROVANE_IN_OPT const QV_AGC_PARAMETERS *parameters,
     MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
@@ -1894,7 +1892,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
 /* ---- Calibration: IMEI --------------------------------------------------------------- */
 
 /** Reads the IMEI from the handset's NV item 5. Waits 1000 ms.
- * @param imei  two digits in a byte, as the handset keeps them; written on success only (8 bytes)
+ * @param imei  8 bytes; two digits in a byte, as the handset keeps them; written on success only
  * @retval PC_ERR_INVALID_PARAM  `imei` is null
  * @retval PC_ERR_PARSE_FAILED  the answer is that of another item or has fewer than 8 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1904,14 +1902,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI(MEROVANE_OUT_N(8) uint8_t *imei) 
 /** QV_ReadIMEI for the port `port`, with the same results. Reads the IMEI from the handset's NV
  * item 5. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param imei  two digits in a byte, as the handset keeps them; written on success only (8 bytes) */
+ * @param imei  8 bytes; two digits in a byte, as the handset keeps them; written on success only */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_MT(
     int32_t port, MEROVANE_OUT_N(8) uint8_t *imei) MEROVANE_WRITES(2);
 
 /** Reads the IMEI from the handset's NV item 5 as text. Waits 1000 ms.
- * @param text  15 decimal digits and a zero, written on success only. A damaged digit shows as its
- *   value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI reads as
- *   151515151515151 with PC_ERR_SUCCESS (16 bytes)
+ * @param text  16 bytes; 15 decimal digits and a zero, written on success only. A damaged digit
+ *   shows as its value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI
+ *   reads as 151515151515151 with PC_ERR_SUCCESS
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_PARSE_FAILED  the answer is that of another item or has fewer than 8 bytes
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1922,9 +1920,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII(
 /** QV_ReadIMEI_ASCII for the port `port`, with the same results. Reads the IMEI from the handset's
  * NV item 5 as text. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param text  15 decimal digits and a zero, written on success only. A damaged digit shows as its
- *   value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI reads as
- *   151515151515151 with PC_ERR_SUCCESS (16 bytes) */
+ * @param text  16 bytes; 15 decimal digits and a zero, written on success only. A damaged digit
+ *   shows as its value, 10 to 15, and the text is cut to 15 characters, so that an erased IMEI
+ *   reads as 151515151515151 with PC_ERR_SUCCESS */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadIMEI_ASCII_MT(
     int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
@@ -2508,7 +2506,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC(uint16_t value);
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_CAFC_MT(int32_t port, uint16_t value);
 
 /** Reads the AFC values from RAM: 17 values (item 14). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2519,7 +2517,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr(
 /** QV_ReadData_Ram_AFC_afc_value_arr for the port `port`, with the same results. Reads the AFC
  * values from RAM: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2539,7 +2537,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
 /** Reads the AFC values from flash: 17 values (item 14). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2550,7 +2548,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr(
 /** QV_ReadData_Flash_AFC_afc_value_arr for the port `port`, with the same results. Reads the AFC
  * values from flash: 17 values (item 14). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2570,7 +2568,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_afc_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
 /** Reads the AFC slopes from RAM: 17 values (item 4). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2581,7 +2579,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr(
 /** QV_ReadData_Ram_AFC_slope_value_arr for the port `port`, with the same results. Reads the AFC
  * slopes from RAM: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2601,7 +2599,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
 /** Reads the AFC slopes from flash: 17 values (item 4). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2612,7 +2610,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr(
 /** QV_ReadData_Flash_AFC_slope_value_arr for the port `port`, with the same results. Reads the AFC
  * slopes from flash: 17 values (item 4). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2632,7 +2630,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_arr_MT(
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
 /** Reads the reciprocals of the AFC slopes from RAM: 17 values (item 15). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2643,7 +2641,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_ar
 /** QV_ReadData_Ram_AFC_slope_value_reciprocal_arr for the port `port`, with the same results. Reads
  * the reciprocals of the AFC slopes from RAM: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2663,7 +2661,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AFC_slope_value_reciprocal_a
     int32_t port, MEROVANE_IN_N(17) const uint16_t *values) MEROVANE_READS(2);
 
 /** Reads the reciprocals of the AFC slopes from flash: 17 values (item 15). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (17 values)
+ * @param values  17 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2674,7 +2672,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_
 /** QV_ReadData_Flash_AFC_slope_value_reciprocal_arr for the port `port`, with the same results.
  * Reads the reciprocals of the AFC slopes from flash: 17 values (item 15). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (17 values) */
+ * @param values  17 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AFC_slope_value_reciprocal_arr_MT(
     int32_t port, MEROVANE_OUT_N(17) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -2697,7 +2695,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AFC_slope_value_reciprocal
 
 /** Reads the power step factors of a band from RAM: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (80 values)
+ * @param values  80 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2709,7 +2707,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor(
  * power step factors of a band from RAM: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (80 values) */
+ * @param values  80 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -2732,7 +2730,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_APC_RF_ramppwr_step_factor_M
 
 /** Reads the power step factors of a band from flash: 80 values (item 21). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (80 values)
+ * @param values  80 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -2744,7 +2742,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor(
  * the power step factors of a band from flash: 80 values (item 21). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (80 values) */
+ * @param values  80 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_APC_RF_ramppwr_step_factor_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(80) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -2909,7 +2907,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_max_rf_gain_index_MT(
 
 /** Reads the receive compensations of a band from RAM: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (`count` values)
+ * @param values  `count` values; what was read; what the answer lacks stays as it was
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
@@ -2922,7 +2920,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value(
  * receive compensations of a band from RAM: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (`count` values)
+ * @param values  `count` values; what was read; what the answer lacks stays as it was
  * @param count  of values (1 to 32758) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_RX_compensate_value_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(count) uint16_t *values,
@@ -2951,7 +2949,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_RX_compensate_value_MT(
 
 /** Reads the receive compensations of a band from flash: `count` values (item 18). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (`count` values)
+ * @param values  `count` values; what was read; what the answer lacks stays as it was
  * @param count  of values (1 to 32758)
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `count` outside 1 to 32758
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
@@ -2964,7 +2962,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value(
  * receive compensations of a band from flash: `count` values (item 18). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (`count` values)
+ * @param values  `count` values; what was read; what the answer lacks stays as it was
  * @param count  of values (1 to 32758) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_RX_compensate_value_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(count) uint16_t *values,
@@ -2993,7 +2991,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_RX_compensate_value_MT
 
 /** Reads the AGC control words of a band from RAM: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (91 values)
+ * @param values  91 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3005,7 +3003,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word(
  * control words of a band from RAM: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (91 values) */
+ * @param values  91 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Ram_AGC_agc_ctrl_word_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -3028,7 +3026,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Ram_AGC_agc_ctrl_word_MT(
 
 /** Reads the AGC control words of a band from flash: 91 values (item 23). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (91 values)
+ * @param values  91 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3040,7 +3038,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word(
  * control words of a band from flash: 91 values (item 23). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (91 values) */
+ * @param values  91 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_AGC_agc_ctrl_word_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(91) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -3066,7 +3064,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_AGC_agc_ctrl_word_MT(
 /** Reads a ramp table of a band from RAM: 20 values (item 8 at offset 20 x `index`). Waits 1000 ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what was read; what the answer lacks stays as it was (20 values)
+ * @param values  20 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3079,7 +3077,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what was read; what the answer lacks stays as it was (20 values) */
+ * @param values  20 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Ram_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(4);
@@ -3108,7 +3106,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTable_Ram_MT(
  * ms.
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what was read; what the answer lacks stays as it was (20 values)
+ * @param values  20 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band; `index` above 3276
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3121,7 +3119,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
  * @param index  of the table (0 to 3276)
- * @param values  what was read; what the answer lacks stays as it was (20 values) */
+ * @param values  20 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTable_Flash_MT(
     int32_t port, uint32_t band, uint16_t index,
     MEROVANE_OUT_N(20) uint16_t *values) MEROVANE_WRITES(4);
@@ -3376,7 +3374,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampUpParamNum_Flash_MT(
 
 /** Reads all constants of the ramps up of a band from flash: 16 values (item 9). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (16 values)
+ * @param values  16 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3388,7 +3386,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash(
  * of the ramps up of a band from flash: 16 values (item 9). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (16 values) */
+ * @param values  16 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstUp_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -3411,7 +3409,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetRampTableAllConstUp_Flash_MT(
 
 /** Reads all constants of the ramps down of a band from flash: 16 values (item 10). Waits 1000 ms.
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (16 values)
+ * @param values  16 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3423,7 +3421,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash(
  * constants of the ramps down of a band from flash: 16 values (item 10). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param band  a QV_BAND
- * @param values  what was read; what the answer lacks stays as it was (16 values) */
+ * @param values  16 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRampTableAllConstDown_Flash_MT(
     int32_t port, uint32_t band, MEROVANE_OUT_N(16) uint16_t *values) MEROVANE_WRITES(3);
 
@@ -3814,9 +3812,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_TxGain_8PSK_MT(
 /* ---- Calibration data: IMEIs in flash ------------------------------------------------ */
 
 /** Reads the first IMEI from flash (item 30). Waits 1000 ms.
- * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
- *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes)
+ * @param text  16 bytes; 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3827,9 +3825,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI(
 /** QV_ReadData_Flash_IMEI for the port `port`, with the same results. Reads the first IMEI from
  * flash (item 30). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
- *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes) */
+ * @param text  16 bytes; 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_IMEI_MT(
     int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
@@ -3848,9 +3846,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_IMEI_MT(
     int32_t port, MEROVANE_IN_TEXT const char *text);
 
 /** Reads the second IMEI from flash (item 35). Waits 1000 ms.
- * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
- *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes)
+ * @param text  16 bytes; 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0
  * @retval PC_ERR_INVALID_PARAM  `text` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3861,9 +3859,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI(
 /** QV_ReadData_Flash_SecIMEI for the port `port`, with the same results. Reads the second IMEI from
  * flash (item 35). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param text  15 decimal digits and a zero. A damaged digit shows as its value, 10 to 15, and the
- *   text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
- *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 (16 bytes) */
+ * @param text  16 bytes; 15 decimal digits and a zero. A damaged digit shows as its value, 10 to
+ *   15, and the text is cut to 15 characters, so that an erased IMEI reads as 151515151515151 with
+ *   PC_ERR_SUCCESS; a digit that the answer lacks shows as 0 */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadData_Flash_SecIMEI_MT(
     int32_t port, MEROVANE_OUT_N(16) char *text) MEROVANE_WRITES(2);
 
@@ -3884,7 +3882,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteData_Flash_SecIMEI_MT(
 /* ---- Calibration data: saving, RF scheme --------------------------------------------- */
 
 /** Saves all items in RAM to flash (item 32).
- * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds)
+ * @param timeout_ms  milliseconds; of the acknowledgement; saving can take many seconds
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
@@ -3892,11 +3890,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash(uint32_t timeout_ms);
 /** QV_SaveToFlash for the port `port`, with the same results. Saves all items in RAM to flash (item
  * 32).
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param timeout_ms  of the acknowledgement; saving can take many seconds (milliseconds) */
+ * @param timeout_ms  milliseconds; of the acknowledgement; saving can take many seconds */
 MEROVANE_API int32_t MEROVANE_CALL QV_SaveToFlash_MT(int32_t port, uint32_t timeout_ms);
 
 /** Reads the RF scheme from RAM: 6 values (item 33). Waits 1000 ms.
- * @param values  what was read; what the answer lacks stays as it was (6 values)
+ * @param values  6 values; what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3907,7 +3905,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme(
 /** QV_GetRfScheme for the port `port`, with the same results. Reads the RF scheme from RAM: 6
  * values (item 33). Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param values  what was read; what the answer lacks stays as it was (6 values) */
+ * @param values  6 values; what was read; what the answer lacks stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(
     int32_t port, MEROVANE_OUT_N(6) uint16_t *values) MEROVANE_WRITES(2);
 
@@ -3919,8 +3917,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetRfScheme_MT(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (5
- *   values)
+ * @param values  5 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3935,8 +3932,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_OSCI_TEMP_COM_IN_DAC(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (9
- *   values)
+ * @param values  9 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3951,8 +3947,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TX_COMPENSATE(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (9
- *   values)
+ * @param values  9 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3967,8 +3962,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TX_COMPENSATE(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (6
- *   values)
+ * @param values  6 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3983,8 +3977,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_GSM_TXPOWER_COMPENSATE(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (6
- *   values)
+ * @param values  6 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -3999,8 +3992,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_EDGE_TXPOWER_COMPENSATE(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (4
- *   values)
+ * @param values  4 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4015,8 +4007,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TX_COMPENSATE_BOUNDARY_ARFCN_INDEX(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (4
- *   values)
+ * @param values  4 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4031,8 +4022,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_COMPENSATE_ADC(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (5
- *   values)
+ * @param values  5 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4047,8 +4037,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_RX_LEVEL_COMPENSATE(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (4
- *   values)
+ * @param values  4 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4063,8 +4052,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_COMPENSATE_ADC(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (5
- *   values)
+ * @param values  5 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4079,8 +4067,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (1
- *   values)
+ * @param values  1 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4095,8 +4082,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  what is written, or what was read; what the answer lacks stays as it was (1
- *   values)
+ * @param values  1 values; what is written, or what was read; what the answer lacks stays as it was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4180,8 +4166,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_TxOn_MChip_MT(
  * one that fails ends the command. Channel and trims are sent only when they differ from those that
  * were sent last, as in QV_TxOn_MChip.
  * @param start  not 0: on; 0: off
- * @param parameters  [1] is the channel and [2] the power control level; QV_SetPhoneAfcMode says
- *   whether [0] is the CAFC centre, or CDAC with [3] as CAFC (looked at only when `start` is not 0)
+ * @param parameters  looked at only when `start` is not 0; [1] is the channel and [2] the power
+ *   control level; QV_SetPhoneAfcMode says whether [0] is the CAFC centre, or CDAC with [3] as CAFC
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null when `start` is not 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -4191,8 +4177,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip(
 /** QV_AfcStart_MChip for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  not 0: on; 0: off
- * @param parameters  [1] is the channel and [2] the power control level; QV_SetPhoneAfcMode says
- *   whether [0] is the CAFC centre, or CDAC with [3] as CAFC (looked at only when `start` is not 0) */
+ * @param parameters  looked at only when `start` is not 0; [1] is the channel and [2] the power
+ *   control level; QV_SetPhoneAfcMode says whether [0] is the CAFC centre, or CDAC with [3] as CAFC */
 MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
     int32_t port, uint32_t start,
     MEROVANE_IN_OPT const QV_AFC_PARAMETERS *parameters) MEROVANE_READS(3);
@@ -4205,8 +4191,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AfcStart_MChip_MT(
  * @param start  not 0: measure; 0: switch off
  * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
  *   off needs too, and [3] is the power control level
- * @param measured  RSSI is there even when reading RxLevel fails; `value` stays as it was (looked
- *   at only when `start` is not 0)
+ * @param measured  looked at only when `start` is not 0; RSSI is there even when reading RxLevel
+ *   fails; `value` stays as it was
  * @retval PC_ERR_INVALID_PARAM  `parameters` is null; `measured` is null when `start` is not 0
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
  * @retval PC_ERR_INVALID_RSSI  RSSI was 0 in all reads; `measured->rssi` is 0
@@ -4221,8 +4207,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip(
  * @param start  not 0: measure; 0: switch off
  * @param parameters  words[0] is the channel, [1] and [2] are receive parameters, which switching
  *   off needs too, and [3] is the power control level
- * @param measured  RSSI is there even when reading RxLevel fails; `value` stays as it was (looked
- *   at only when `start` is not 0) */
+ * @param measured  looked at only when `start` is not 0; RSSI is there even when reading RxLevel
+ *   fails; `value` stays as it was */
 MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
     int32_t port, uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
     MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
@@ -4251,8 +4237,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CalDirectCurr_MT(
 
 /** Sends a non-signalling command.
  * @param command  what is sent
- * @param answer  command 6 fills it, even when the handset reports a failure; other commands do not
- *   use it (may be null)
+ * @param answer  may be null; command 6 fills it, even when the handset reports a failure; other
+ *   commands do not use it
  * @param timeout_ms  of the answer (milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `command` is null; `answer` is null for command 6
  * @retval PC_ERR_NON_SIGNAL_FAILED  the handset reports a failure, or its answer has fewer than 8
@@ -4266,8 +4252,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd(
 /** QV_SendNonSignalCmd for the port `port`, with the same results. Sends a non-signalling command.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  what is sent
- * @param answer  command 6 fills it, even when the handset reports a failure; other commands do not
- *   use it (may be null)
+ * @param answer  may be null; command 6 fills it, even when the handset reports a failure; other
+ *   commands do not use it
  * @param timeout_ms  of the answer (milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SendNonSignalCmd_MT(
     int32_t port, MEROVANE_IN const QV_NON_SIGNAL_COMMAND *command,
@@ -4395,10 +4381,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Ram_MChip_MT(
 /** Reads two ramp tables from RAM. Waits 1000 ms for each; when the first fails, the second is not
  * read.
  * @param flag  not 0: items 9 and 11; 0: items 8 and 10
- * @param first  the points of the first item; those that an answer lacks stay as they were. They
- *   are there even when reading the second item fails (16 values)
- * @param second  the points of the second item; those that an answer lacks stay as they were (16
- *   values)
+ * @param first  16 values; the points of the first item; those that an answer lacks stay as they
+ *   were. They are there even when reading the second item fails
+ * @param second  16 values; the points of the second item; those that an answer lacks stay as they
+ *   were
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
@@ -4412,10 +4398,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip(
  * RAM. Waits 1000 ms for each; when the first fails, the second is not read.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  not 0: items 9 and 11; 0: items 8 and 10
- * @param first  the points of the first item; those that an answer lacks stay as they were. They
- *   are there even when reading the second item fails (16 values)
- * @param second  the points of the second item; those that an answer lacks stay as they were (16
- *   values)
+ * @param first  16 values; the points of the first item; those that an answer lacks stay as they
+ *   were. They are there even when reading the second item fails
+ * @param second  16 values; the points of the second item; those that an answer lacks stay as they
+ *   were
  * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Ram_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first,
@@ -4448,10 +4434,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RampSetting_Flash_MChip_MT(
 /** Reads two ramp tables from flash. Waits 1000 ms for each; when the first fails, the second is
  * not read.
  * @param flag  not 0: items 9 and 11; 0: items 8 and 10
- * @param first  the points of the first item; those that an answer lacks stay as they were. They
- *   are there even when reading the second item fails (16 values)
- * @param second  the points of the second item; those that an answer lacks stay as they were (16
- *   values)
+ * @param first  16 values; the points of the first item; those that an answer lacks stay as they
+ *   were. They are there even when reading the second item fails
+ * @param second  16 values; the points of the second item; those that an answer lacks stay as they
+ *   were
  * @param band  a QV_BAND
  * @retval PC_ERR_INVALID_PARAM  a null pointer; another band
  * @retval PC_ERR_WRONG_DATA_LENGTH  an answer has no data
@@ -4465,10 +4451,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip(
  * flash. Waits 1000 ms for each; when the first fails, the second is not read.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param flag  not 0: items 9 and 11; 0: items 8 and 10
- * @param first  the points of the first item; those that an answer lacks stay as they were. They
- *   are there even when reading the second item fails (16 values)
- * @param second  the points of the second item; those that an answer lacks stay as they were (16
- *   values)
+ * @param first  16 values; the points of the first item; those that an answer lacks stay as they
+ *   were. They are there even when reading the second item fails
+ * @param second  16 values; the points of the second item; those that an answer lacks stay as they
+ *   were
  * @param band  a QV_BAND */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadRamp_Flash_MChip_MT(
     int32_t port, uint32_t flag, MEROVANE_OUT_N(16) uint16_t *first,
@@ -4548,8 +4534,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode_MT(int32_t port, uint32_t mode);
 
 /** Reads the mode that the handset is in. Waits 1000 ms.
- * @param data  what the handset says, cut to the capacity; what it does not fill stays as it was.
- *   How many bytes came is not told (`capacity` bytes)
+ * @param data  `capacity` bytes; what the handset says, cut to the capacity; what it does not fill
+ *   stays as it was. How many bytes came is not told
  * @param capacity  of `data` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `data` is null; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_BUFFER_TOO_SMALL  the handset said more; the first `capacity` bytes are there
@@ -4561,8 +4547,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD(
 /** QV_ReadMode_TD for the port `port`, with the same results. Reads the mode that the handset is
  * in. Waits 1000 ms.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param data  what the handset says, cut to the capacity; what it does not fill stays as it was.
- *   How many bytes came is not told (`capacity` bytes)
+ * @param data  `capacity` bytes; what the handset says, cut to the capacity; what it does not fill
+ *   stays as it was. How many bytes came is not told
  * @param capacity  of `data` (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
     int32_t port, MEROVANE_OUT_N(capacity) uint8_t *data,
@@ -4655,9 +4641,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
 /** Reads an item's content as text.
  * @param module  not used: the first item of that path in load order answers
  * @param path  full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
- * @param text  all of the room is written: the content, cut to fit, then zeros. A content that
- *   fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS (`capacity` bytes)
- * @param capacity  room at `text`; 256 hold every content (1 to 2147483647)
+ * @param text  `capacity` bytes; all of the room is written: the content, cut to fit, then zeros. A
+ *   content that fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS
+ * @param capacity  1 to 2147483647; room at `text`; 256 hold every content
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
@@ -4670,9 +4656,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param module  not used: the first item of that path in load order answers
  * @param path  full dotted path, letter case ignored, such as "calibration_param_T.adc.battery[0]"
- * @param text  all of the room is written: the content, cut to fit, then zeros. A content that
- *   fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS (`capacity` bytes)
- * @param capacity  room at `text`; 256 hold every content (1 to 2147483647) */
+ * @param text  `capacity` bytes; all of the room is written: the content, cut to fit, then zeros. A
+ *   content that fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS
+ * @param capacity  1 to 2147483647; room at `text`; 256 hold every content */
 MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_MT(
     int32_t port, uint32_t module, MEROVANE_IN_TEXT const char *path,
     MEROVANE_OUT_N(capacity) char *text, uint32_t capacity) MEROVANE_WRITES_N(4, 5);
@@ -4700,7 +4686,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
     MEROVANE_IN_TEXT const char *text);
 
 /** Builds the NV image: a time stamp, then every top-level item with its id, length and data.
- * @param buffer  takes the image; what follows it becomes zero (65536 bytes)
+ * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_BUFFER_TOO_SMALL  the image would be larger: nothing is written
@@ -4713,7 +4699,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory(
 /** QV_GenerateNvBianryDataBlockInMemory for the port `port`, with the same results. Builds the NV
  * image: a time stamp, then every top-level item with its id, length and data.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param buffer  takes the image; what follows it becomes zero (65536 bytes)
+ * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes */
 MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
     int32_t port, MEROVANE_OUT_N(65536) void *buffer,
@@ -4835,8 +4821,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc_MT(
  * tables come in each other's place.
  * @param ramp_up_stage0  ramp table (16 values)
  * @param ramp_up_stage1  ramp table (16 values)
- * @param ramp_down_stage0  ramp table; for GSM that of stage 1 (16 values)
- * @param ramp_down_stage1  ramp table; for GSM that of stage 0 (16 values)
+ * @param ramp_down_stage0  16 values; ramp table; for GSM that of stage 1
+ * @param ramp_down_stage1  16 values; ramp table; for GSM that of stage 0
  * @param tx_boundary  channel numbers (4 values)
  * @param step_factor  as the items have them (80 values)
  * @param band  a QV_NV_BAND (0 to 3)
@@ -4853,8 +4839,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param ramp_up_stage0  ramp table (16 values)
  * @param ramp_up_stage1  ramp table (16 values)
- * @param ramp_down_stage0  ramp table; for GSM that of stage 1 (16 values)
- * @param ramp_down_stage1  ramp table; for GSM that of stage 0 (16 values)
+ * @param ramp_down_stage0  16 values; ramp table; for GSM that of stage 1
+ * @param ramp_down_stage1  16 values; ramp table; for GSM that of stage 0
  * @param tx_boundary  channel numbers (4 values)
  * @param step_factor  as the items have them (80 values)
  * @param band  a QV_NV_BAND (0 to 3) */
