@@ -1,11 +1,8 @@
 // Answers that are longer or shorter than asked for, or tell of a failure.
-#include <functional>
-
 #include "commands/crc16.h"
 #include "declared/identity.h"
 #include "declared/memory.h"
 #include "declared/peripherals.h"
-#include "declared/short_range_radio.h"
 #include "support/command_fixture.h"
 
 namespace merovane::test {
@@ -189,15 +186,6 @@ TEST_F(HandsetAnswers, WithTheImeiCountAreAwaitedForTheIncrementOnly) {
   });
 }
 
-TEST_F(HandsetAnswers, ThatFailLeaveZeros) {
-  std::uint32_t values[] = {3700, 5, 5};
-  handset.Expect(30, 0).Refuse();
-  EXPECT_EQ(ReadPhoneVolt(phone, &values[0]), Result::Refused);
-  handset.Expect(54, 9).Silent();
-  EXPECT_EQ(WIFI_ReadRxValue(phone, &values[1], &values[2]), Result::NoAnswer);
-  EXPECT_THAT(values, ElementsAre(0, 0, 0));
-}
-
 TEST_F(HandsetAnswers, OfGpsMustRepeatTheRequest) {
   InBothByteOrders([&] {
     const auto answered = [&](std::uint32_t first, std::uint32_t second) {
@@ -218,33 +206,6 @@ TEST_F(HandsetAnswers, OfGpsMustRepeatTheRequest) {
     Answered(35, 0, 0, "00 00 00 63 00 00 00 2C 01");
     EXPECT_EQ(GpsReadNv(phone, read.Data()), Result::Success) << "too short to be looked at";
     EXPECT_EQ(read.Hex(3), "01 00 00");
-  });
-}
-
-TEST_F(HandsetAnswers, WithAStatusFailUnloggedFromWifiAndLoggedFromTheDsp) {
-  InBothByteOrders([&] {
-    const Fields failed = handset.Message().U32(1).U32(2).U32(3).U32(4);
-    GuardedBuffer<std::uint32_t> words(3);
-    const auto fails = [&](std::uint8_t subtype, const std::function<Result()>& run) {
-      Answered(54, subtype, subtype, failed);
-      EXPECT_EQ(run(), Result::WifiFailed) << int{subtype};
-      EXPECT_EQ(LogText().size(), 2u) << int{subtype};
-    };
-    QV_WIFI_FACTOR factor{8, 2, 9};
-    fails(0, [&] { return WIFI_EnterEUTMode(phone, 1); });
-    fails(2, [&] { return WIFI_LoadAddr(phone, out.Data()); });
-    fails(5, [&] { return WIFI_SetMode(phone, 1); });
-    fails(9, [&] { return WIFI_ReadRxValue(phone, words.Data(), words.Data() + 1); });
-    fails(10, [&] { return WIFI_OperFactor(phone, 0, &factor); });
-    fails(12, [&] { return WIFI_OperFactor(phone, 2, &factor); });
-    EXPECT_TRUE(words.Untouched());
-    EXPECT_EQ(factor.status, 8u);
-    EXPECT_EQ(factor.value, 9u);
-
-    Answered(50, 1, 1, "00 00 01 00 AA BB");
-    EXPECT_EQ(DspDebug_RdRegMemo(phone, 0, 1, 0, out.Data(), 2), Result::DspDebugFailed);
-    EXPECT_THAT(LogText(), Contains(ResultLine(Result::DspDebugFailed)));
-    EXPECT_TRUE(out.Untouched());
   });
 }
 

@@ -19,6 +19,7 @@ namespace {
 
 using namespace commands;
 using ::testing::Contains;
+using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
 
 // What a run gives: its code and, in hexadecimal, the caller's buffer, "A5" where untouched.
@@ -51,6 +52,8 @@ struct Row {
   std::vector<Result> shortResults = {};
   // A failure that is not the link's own, and not logged.
   Result silence = Result::NoAnswer;
+  // Stored when the exchange fails; otherwise nothing is.
+  std::string failureStores = {};
 };
 
 constexpr std::uint32_t kOperationBefore = 99;
@@ -199,7 +202,8 @@ std::vector<Row> Rows(const Fields& message) {
        })},
       {"ReadAdcValue:", 17, 80, {15, 0, {}}, {0, u16(0x0102).Raw("03 04").Get()}, "02 01",
        Gets<std::uint16_t>(1, [](Phone& p, auto* out) { return ReadAdcValue(p, 0, out, nullptr, nullptr, 80); })},
-      {"ReadPhoneVolt:", 18, 1000, {30, 0, {}}, {0, word}, gotWord, Gets<std::uint32_t>(1, ReadPhoneVolt)},
+      {"ReadPhoneVolt:", 18, 1000, {30, 0, {}}, {0, word}, gotWord, Gets<std::uint32_t>(1, ReadPhoneVolt),
+       {}, Result::NoAnswer, "00 00 00 00"},
       {"PressKeyboard:", 39, 1000, {1, 0, u16(0xA001, 8).U32(0x01020304).Get()}, {0, {}}, "",
        Does(PressKeyboard, 0x01020304)},
       // GPS.
@@ -240,7 +244,8 @@ std::vector<Row> Rows(const Fields& message) {
       {"EnableWifiRx:", 269, 1000, {54, 8, u32(1)}, {8, ok}, "", Does(WIFI_SetRxStatus, 1)},
       {"ClearWifiRxValue:", 269, 1000, {54, 8, u32(2)}, {8, ok}, "", Does(WIFI_SetRxStatus, 77)},
       {"ReadRecPackage:", 270, 1000, {54, 9, {}}, {9, u32(0, 1, 2)}, "01 00 00 00 02 00 00 00",
-       Gets<std::uint32_t>(2, [](Phone& p, auto* out) { return WIFI_ReadRxValue(p, out, out ? out + 1 : out); })},
+       Gets<std::uint32_t>(2, [](Phone& p, auto* out) { return WIFI_ReadRxValue(p, out, out ? out + 1 : out); }),
+       {}, Result::NoAnswer, "00 00 00 00 00 00 00 00"},
       {"ReadWifiFactor:", 271, 1000, {54, 10, {}}, {10, u32(0, 4, 1)}, "00 00 00 00 04 00 00 00 01 00 00 00",
        Gets<QV_WIFI_FACTOR>(1, [](Phone& p, auto* factor) { return WIFI_OperFactor(p, 0, factor); })},
       {"WriteWifiFactor:", 271, 8000, {54, 11, Hex("00 00 00 00 00 00 00 05 01 02 03 04")}, {11, ok}, "",
@@ -307,6 +312,8 @@ TEST_F(HandsetCommands, WaitAsLongAsTheirLimitAndTheSettingSay) {
     const Outcome outcome = row.command.run(phone);
     EXPECT_EQ(clock.NowMs() - before, row.timeoutMs + 30);
     EXPECT_EQ(outcome.result, row.silence);
+    const std::string untouched = ToHex(Bytes((outcome.delivered.size() + 1) / 3, 0xA5));
+    EXPECT_EQ(outcome.delivered, row.failureStores.empty() ? untouched : row.failureStores);
     ExpectLog(row, outcome.result, row.silence == Result::NoAnswer);
   });
 }
@@ -324,6 +331,18 @@ TEST_F(HandsetCommands, PassTheLinksCodesOn) {
     if (row.answer.subtype == 2) return;  // a refusal is the answer
     Expect(row).Answer(row.request.type, 2, "00 00 00 00");
     gives(Result::Refused);
+  });
+}
+
+TEST_F(HandsetCommands, FailUnloggedWithAWifiStatusAndLoggedWithOneOfTheDsp) {
+  ForEachRow([&](const Row& row) {
+    const bool wifi = row.request.type == 54;
+    if (!wifi && row.request.type != 50) return;
+    Expect(row).Answer(row.request.type, row.answer.subtype, handset.Message().U32(0x100).U32(2));
+    const Outcome outcome = row.command.run(phone);
+    EXPECT_EQ(outcome.result, wifi ? Result::WifiFailed : Result::DspDebugFailed);
+    ExpectLog(row, outcome.result, !wifi);
+    EXPECT_EQ(outcome.delivered, ToHex(Bytes((outcome.delivered.size() + 1) / 3, 0xA5)));
   });
 }
 
@@ -455,28 +474,36 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
 }
 
 TEST_F(HandsetCommands, SwitchWithoutAwaitingAnAnswer) {
+  const auto sleep = [](Phone& p, std::uint32_t) { return EnterDeepSleepMode(p); };
+  const struct {
+    const char* logName;
+    std::uint32_t operation;
+    std::uint8_t type, subtype;
+    Result (*command)(Phone&, std::uint32_t);
+    std::uint32_t on;
+  } rows[] = {{"EnableArmLog:", 8, 2, 4, EnableArmLog, 7},
+              {"DisableArmLog:", 8, 2, 5, EnableArmLog, 0},
+              {"LedOn:", 19, 17, 3, LedOn, 1},
+              {"LedOff:", 19, 17, 0, LedOn, 0},
+              {"VibrationOn:", 20, 17, 4, VibrationOn, 2},
+              {"VibrationOff:", 20, 17, 0, VibrationOn, 0},
+              {"EnterDeepSleepMode:", 21, 17, 2, sleep, 0},
+              {"LcdOn:", 44, 17, 3, LcdOn, 1},
+              {"LcdOff:", 44, 17, 8, LcdOn, 0},
+              {"keyLightOn:", 45, 17, 16, keyLightOn, 1},
+              {"keyLightOff:", 45, 17, 17, keyLightOn, 0},
+              {"CameraOn:", 46, 17, 18, CameraOn, 1},
+              {"CameraOff:", 46, 17, 19, CameraOn, 0}};
   const std::uint32_t before = clock.NowMs();
-  const auto sends = [&](std::uint8_t type, std::uint8_t subtype, const char* logName,
-                         Result (*command)(Phone&, std::uint32_t), std::uint32_t on) {
-    handset.Expect(type, subtype);
-    EXPECT_EQ(command(phone, on), Result::Success);
-    EXPECT_THAT(LogText(), ElementsAreArray(
-                               {logName, "Clear Port Buffer", "Error Code = 0 (PC_ERR_SUCCESS)"}));
-    handset.Expect(type, subtype).WriteFails();
-    EXPECT_EQ(command(phone, on), Result::WriteFailed);
-    static_cast<void>(Log());
-  };
-  sends(17, 3, "LedOn:", LedOn, 1);
-  sends(17, 0, "LedOff:", LedOn, 0);
-  sends(17, 19, "CameraOff:", CameraOn, 0);
-  EXPECT_EQ(OperationOf(Result::Success), 46u);
-  sends(2, 4, "EnableArmLog:", EnableArmLog, 1);
-  sends(2, 5, "DisableArmLog:", EnableArmLog, 0);
-  EXPECT_EQ(OperationOf(Result::Success), 8u);
-  sends(
-      17, 2, "EnterDeepSleepMode:", [](Phone& p, std::uint32_t) { return EnterDeepSleepMode(p); },
-      1);
-  EXPECT_EQ(OperationOf(Result::Success), 21u);
+  for (const auto& row : rows) {
+    for (const Result result : {Result::Success, Result::WriteFailed}) {
+      Exchange& sent = handset.Expect(row.type, row.subtype);
+      if (!Succeeded(result)) sent.WriteFails();
+      EXPECT_EQ(row.command(phone, row.on), result) << row.logName;
+      EXPECT_EQ(OperationOf(result), row.operation);
+      EXPECT_THAT(LogText(), ElementsAre(row.logName, "Clear Port Buffer", ResultLine(result)));
+    }
+  }
   EXPECT_EQ(clock.NowMs(), before);
 }
 
