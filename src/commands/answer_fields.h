@@ -1,4 +1,5 @@
-// Fields of answers that may be shorter than they should be: what did not arrive reads as zero.
+// What answers hold, into callers' buffers. Answers may be shorter than they should be: what did
+// not arrive reads as zero.
 #pragma once
 
 #include <algorithm>
@@ -10,6 +11,13 @@
 #include "link/frame.h"
 
 namespace merovane::commands {
+
+// As many of the bytes as there is room for; how many that is.
+inline std::uint32_t CopyCut(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> room) {
+  const std::size_t copied = std::min(bytes.size(), room.size());
+  if (copied > 0) std::memcpy(room.data(), bytes.data(), copied);
+  return static_cast<std::uint32_t>(copied);
+}
 
 // The payload's bytes from `offset` on into the whole of `out`.
 inline void CopyZeroFilled(std::span<const std::uint8_t> payload, std::size_t offset,

@@ -1,7 +1,6 @@
 // Items of the production flash area and NV items.
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <vector>
 
 #include "commands/answer_fields.h"
@@ -51,11 +50,8 @@ Result body::ReadFlash(Operation& operation, std::uint16_t item, std::span<std::
     return operation.Finish(Result::WrongDataLength);
   }
   const auto arrived = payload.subspan(kFlashHeaderBytes);
-  const auto delivered = arrived.first(std::min(arrived.size(), data.size()));
-  std::memcpy(data.data(), delivered.data(), delivered.size());
-  dataLength = static_cast<std::uint32_t>(delivered.size());
-  return operation.Finish(delivered.size() < arrived.size() ? Result::BufferTooSmall
-                                                            : Result::Success);
+  dataLength = CopyCut(arrived, data);
+  return operation.Finish(dataLength < arrived.size() ? Result::BufferTooSmall : Result::Success);
 }
 
 Result body::WriteFlash(Operation& operation, std::uint16_t item,

@@ -41,11 +41,6 @@ void Take7310KWords(const Answer& answer, std::span<std::uint16_t, k7310KWords> 
   for (std::size_t at = 0; at < count; ++at) words[at] = answer.U16(2 * at);
 }
 
-// As much as there is room for.
-void Deliver(std::span<const std::uint8_t> bytes, void* out, std::size_t room) {
-  if (!bytes.empty()) std::memcpy(out, bytes.data(), std::min(bytes.size(), room));
-}
-
 }  // namespace
 
 Result ReadIdentificationWord(Operation& operation, FrameId id, std::uint32_t& word) {
@@ -59,10 +54,10 @@ Result body::GetLcdIcDriverID(Operation& operation, bool secondLcd, std::span<st
   const Answer answer =
       operation.link.SendAndWaitSame(secondLcd ? kSecondLcd : kFirstLcd, {}, kTimeoutMs);
   if (!answer) return operation.Finish(answer.Why());
-  const std::size_t room = std::min(id.size(), kMaxLcdIdBytes);
-  Deliver(answer.Payload(), id.data(), room);
+  const auto room = id.first(std::min(id.size(), kMaxLcdIdBytes));
+  const std::uint32_t delivered = CopyCut(answer.Payload(), room);
   length = static_cast<std::uint32_t>(answer.Payload().size());
-  return operation.Finish(length > room ? Result::BufferTooSmall : Result::Success);
+  return operation.Finish(delivered < length ? Result::BufferTooSmall : Result::Success);
 }
 
 Result body::GetFlashInfo(Operation& operation, QV_FLASH_INFO& info) {
@@ -81,7 +76,7 @@ Result body::GetFlashInfo(Operation& operation, QV_FLASH_INFO& info) {
 
 Result body::GetMSVersion(Operation& operation, std::span<char> version) {
   const Answer answer = operation.link.SendAndWaitSame(kVersion, {}, kTimeoutMs);
-  Deliver(answer.Payload(), version.data(), version.size());
+  CopyCut(answer.Payload(), {reinterpret_cast<std::uint8_t*>(version.data()), version.size()});
   return operation.Finish(answer.Why());
 }
 

@@ -1,10 +1,10 @@
 // The handset's start into test mode, its modes, its trace output, and the link as it is.
 #include "declared/phone_mode.h"
 
-#include <algorithm>
 #include <array>
-#include <cstring>
 #include <span>
+
+#include "commands/answer_fields.h"
 
 namespace merovane::commands {
 namespace {
@@ -28,20 +28,13 @@ std::uint32_t CampWord(std::uint32_t first, std::uint32_t second) {
   return low | (second & 0xFF) << 8;
 }
 
-// As much of the bytes as there is room for.
-std::uint32_t Deliver(std::span<const std::uint8_t> bytes, std::span<std::uint8_t> room) {
-  const std::size_t delivered = std::min(bytes.size(), room.size());
-  if (delivered > 0) std::memcpy(room.data(), bytes.data(), delivered);
-  return static_cast<std::uint32_t>(delivered);
-}
-
 }  // namespace
 
 Result body::RecvPhoneStartData(Operation& operation, std::span<std::uint8_t> data,
                                 std::uint32_t& length, std::uint32_t timeoutMs) {
   std::array<std::uint8_t, kHeaderBytes> header;
   const Result result = operation.link.ReceiveStartFrame(header, timeoutMs);
-  if (Succeeded(result)) length = Deliver(header, data);
+  if (Succeeded(result)) length = CopyCut(header, data);
   return operation.Finish(result);
 }
 
@@ -106,7 +99,7 @@ Result body::ReadMode(Operation& operation, std::span<std::uint8_t> data) {
   constexpr std::size_t kModeByte = 3;
   const Answer answer = operation.link.SendAndWaitSame(kReadMode, {}, kQuickMs);
   // The mode reads as a start mode code.
-  if (Deliver(answer.Payload(), data) > kModeByte) {
+  if (CopyCut(answer.Payload(), data) > kModeByte) {
     data[kModeByte] = static_cast<std::uint8_t>((data[kModeByte] & 0x0F) | kStartModeBase);
   }
   return operation.Finish(answer.Why());
@@ -119,7 +112,7 @@ Result body::EnterDeepSleepMode(Operation& operation) {
 Result body::Read(Operation& operation, std::span<std::uint8_t> data, std::uint32_t& length,
                   std::uint32_t timeoutMs) {
   const Frame frame = operation.link.ReceiveFrame(timeoutMs);
-  length = Deliver(frame.Bytes(), data);
+  length = CopyCut(frame.Bytes(), data);
   if (length < frame.Bytes().size()) return operation.Finish(Result::BufferTooSmall);
   // When nothing at all arrived, no whole frame did.
   const Result result = frame.Why() == Result::NoData ? Result::NoFrame : frame.Why();

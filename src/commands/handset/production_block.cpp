@@ -30,10 +30,8 @@ Result ReadBlock(Operation& operation, std::uint8_t type, std::span<std::uint8_t
   if (!ChecksumMatches(operation.link.Order(), payload)) return Result::ChecksumMismatch;
   const auto arrived = payload.first(payload.size() - kChecksumBytes);
   length = static_cast<std::uint32_t>(arrived.size());
-  const auto delivered = arrived.first(std::min(arrived.size(), block.size()));
-  std::ranges::copy(delivered, block.begin());
-  return operation.Finish(delivered.size() < arrived.size() ? Result::BufferTooSmall
-                                                            : Result::Success);
+  const std::uint32_t delivered = CopyCut(arrived, block);
+  return operation.Finish(delivered < length ? Result::BufferTooSmall : Result::Success);
 }
 
 Result body::FastWriteProduct(Operation& operation, std::span<const std::uint8_t> block) {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 
+#include "commands/answer_fields.h"
 #include "declared/identity.h"
 #include "declared/memory.h"
 
@@ -55,9 +56,8 @@ Result ReadProductionBlock(Phone& phone, std::array<std::uint8_t, kBlockBytes>& 
 
 Result Deliver(std::span<const std::uint8_t> storage, std::size_t offset,
                std::span<std::uint8_t> serialNumber) {
-  const std::size_t bytes = std::min(kFieldBytes, serialNumber.size());
-  std::ranges::copy(storage.subspan(offset, bytes), serialNumber.begin());
-  return bytes < kFieldBytes ? Result::BufferTooSmall : Result::Success;
+  const std::uint32_t delivered = CopyCut(storage.subspan(offset, kFieldBytes), serialNumber);
+  return delivered < kFieldBytes ? Result::BufferTooSmall : Result::Success;
 }
 
 void Put(std::span<std::uint8_t> storage, const Magic& magic, std::size_t offset,
