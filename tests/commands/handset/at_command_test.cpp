@@ -30,34 +30,6 @@ struct AtCommand : CommandFixture {
   std::uint32_t length = 77;
 };
 
-TEST_F(AtCommand, RefusesArgumentsWithNothingSentOrLogged) {
-  using commands::SendAT;
-  using commands::SendAtCommand;
-  char* const out = answer.Data();
-  std::vector<char> longText(9216, 'A');
-  longText.back() = '\0';
-  for (const Result result : {SendAtCommand(phone, nullptr, 0, 1, out, 64, &length, 10),
-                              SendAtCommand(phone, "AT", 2, 1, nullptr, 64, &length, 10),
-                              SendAtCommand(phone, "AT", 2, 1, out, 0, &length, 10),
-                              SendAtCommand(phone, "AT", 2, 1, out, 64, nullptr, 10),
-                              SendAtCommand(phone, "AT", 2, 1, out, 64, &length, 0),
-                              SendAtCommand(phone, longText.data(), 2, 0, out, 64, &length, 10)}) {
-    EXPECT_EQ(result, Result::InvalidParam);
-    EXPECT_EQ(OperationOf(result), 15u);
-  }
-  for (const Result result :
-       {SendAT(phone, nullptr, 2, out, 64, &length, 10),
-        SendAT(phone, "AT", 0, out, 64, &length, 10),
-        SendAT(phone, "AT", 9217, out, 64, &length, 10),
-        SendAT(phone, "AT", 2, out, 0, &length, 10), SendAT(phone, "AT", 2, out, 64, &length, 0)}) {
-    EXPECT_EQ(result, Result::InvalidParam);
-    EXPECT_EQ(OperationOf(result), 219u);
-  }
-  EXPECT_EQ(commands::GetCurrCellInfo(phone, nullptr), Result::InvalidParam);
-  EXPECT_EQ(OperationOf(Result::InvalidParam), 16u);
-  EXPECT_THAT(Log(), ElementsAre());
-}
-
 TEST_F(AtCommand, CollectsFramesUntilTheFinalOk) {
   ExpectAt("AT+X\r\n")
       .Answer(156, 0, Text("\r\n+X: OK\r\n1\r\n"))

@@ -409,6 +409,18 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
   refused(14, Write(phone, nullptr, 1));
   refused(14, Write(phone, b, 0));
   refused(14, Write(phone, b, -1));
+  refused(15, SendAtCommand(phone, nullptr, 0, 1, text, 4, &n, 10));
+  refused(15, SendAtCommand(phone, "AT", 2, 1, nullptr, 4, &n, 10));
+  refused(15, SendAtCommand(phone, "AT", 2, 1, text, 0, &n, 10));
+  refused(15, SendAtCommand(phone, "AT", 2, 1, text, 4, nullptr, 10));
+  refused(15, SendAtCommand(phone, "AT", 2, 1, text, 4, &n, 0));
+  refused(15, SendAtCommand(phone, std::string(9215, 'A').c_str(), 2, 0, text, 4, &n, 10));
+  refused(219, SendAT(phone, nullptr, 2, text, 4, &n, 10));
+  refused(219, SendAT(phone, "AT", 0, text, 4, &n, 10));
+  refused(219, SendAT(phone, "AT", 9217, text, 4, &n, 10));
+  refused(219, SendAT(phone, "AT", 2, text, 0, &n, 10));
+  refused(219, SendAT(phone, "AT", 2, text, 4, &n, 0));
+  refused(16, GetCurrCellInfo(phone, nullptr));
   refused(23, ReadFlash(phone, 1, b, 0, &n, 10));
   refused(23, ReadFlash(phone, 1, b, -1, &n, 10));
   refused(23, ReadFlash(phone, 1, b, 65536, &n, 10));
