@@ -528,8 +528,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAtCommand_MT(
  * removed, up to the frame that holds "OK" or the prompt ">". That frame is not delivered.
  * @param command  without an added line end (`length` bytes)
  * @param length  how many bytes (1 to 9216)
- * @param answer  `capacity` bytes, counted in `answer_length`, may be null; the answer's text
- *   without a terminating zero; null: only the acknowledgement is awaited, 1000 ms
+ * @param answer  `capacity` bytes, counted in `answer_length`, may be null; of each frame the text
+ *   up to its first zero, and no zero at its end; null: only the acknowledgement is awaited, 1000
+ *   ms
  * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
  *   null)
  * @param answer_length  may be null; how many characters were stored; 0 when no answer came, not
@@ -552,8 +553,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendAT(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param command  without an added line end (`length` bytes)
  * @param length  how many bytes (1 to 9216)
- * @param answer  `capacity` bytes, counted in `answer_length`, may be null; the answer's text
- *   without a terminating zero; null: only the acknowledgement is awaited, 1000 ms
+ * @param answer  `capacity` bytes, counted in `answer_length`, may be null; of each frame the text
+ *   up to its first zero, and no zero at its end; null: only the acknowledgement is awaited, 1000
+ *   ms
  * @param capacity  room at `answer` (1 to 2147483647 when `answer` and `answer_length` are not
  *   null)
  * @param answer_length  may be null; how many characters were stored; 0 when no answer came, not
@@ -977,7 +979,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastWriteNvInfo_MT(
 /** Reads all fields. Waits 3000 ms.
  * @param info  its flags stay as they are. When the exchange failed it is filled as from an empty
  *   block, with IMEIs and addresses of zeros; with PC_ERR_NO_DATA and PC_ERR_CHECKSUM_MISMATCH it
- *   stays as it was. A damaged digit of an IMEI reads as a letter a to f
+ *   stays as it was. Texts are padded with zeros; a damaged digit of an IMEI reads as a letter a to
+ *   f
  * @retval PC_ERR_INVALID_PARAM  `info` is null
  * @retval PC_ERR_BUFFER_TOO_SMALL  the block has more than 108 bytes; it was read all the same
  * @retval PC_ERR_NO_DATA  the block is empty; not logged
@@ -991,7 +994,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo(
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param info  its flags stay as they are. When the exchange failed it is filled as from an empty
  *   block, with IMEIs and addresses of zeros; with PC_ERR_NO_DATA and PC_ERR_CHECKSUM_MISMATCH it
- *   stays as it was. A damaged digit of an IMEI reads as a letter a to f */
+ *   stays as it was. Texts are padded with zeros; a damaged digit of an IMEI reads as a letter a to
+ *   f */
 MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(
     int32_t port, MEROVANE_INOUT QV_FIXED_NV_INFO *info) MEROVANE_UPDATES(2);
 
@@ -1258,8 +1262,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_CameraOn_MT(int32_t port, uint32_t on);
 
 /** Measures an ADC channel.
  * @param channel  as the handset numbers its channels
- * @param value  2 bytes; most significant byte first, whatever the handset's byte order; written on
- *   success only
+ * @param value  2 bytes; most significant byte first, whatever the handset's byte order; bytes that
+ *   did not arrive read as 0. Written on success only
  * @param timeout_ms  of the answer (above 0, milliseconds)
  * @retval PC_ERR_INVALID_PARAM  `value` is null; `timeout_ms` of 0
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1270,8 +1274,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration(
 /** QV_ADCCalibration for the port `port`, with the same results. Measures an ADC channel.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param channel  as the handset numbers its channels
- * @param value  2 bytes; most significant byte first, whatever the handset's byte order; written on
- *   success only
+ * @param value  2 bytes; most significant byte first, whatever the handset's byte order; bytes that
+ *   did not arrive read as 0. Written on success only
  * @param timeout_ms  of the answer (above 0, milliseconds) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
     int32_t port, uint8_t channel, MEROVANE_OUT_N(2) uint8_t *value,
@@ -1279,7 +1283,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ADCCalibration_MT(
 
 /** Measures an ADC channel.
  * @param channel  as the handset numbers its channels
- * @param value  written on success only, as are the next two
+ * @param value  written on success only, as are the next two; bytes that did not arrive read as 0
  * @param third_byte  of the answer (may be null)
  * @param fourth_byte  of the answer (may be null)
  * @param timeout_ms  milliseconds; of the answer; 0: 1000
@@ -1294,7 +1298,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadAdcValue(
 /** QV_ReadAdcValue for the port `port`, with the same results. Measures an ADC channel.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param channel  as the handset numbers its channels
- * @param value  written on success only, as are the next two
+ * @param value  written on success only, as are the next two; bytes that did not arrive read as 0
  * @param third_byte  of the answer (may be null)
  * @param fourth_byte  of the answer (may be null)
  * @param timeout_ms  milliseconds; of the answer; 0: 1000 */
