@@ -58,6 +58,11 @@ struct CalibrationFixture : CommandFixture {
     return lines;
   }
 
+  void ExpectLogged(std::vector<std::string> lines, Result result = Result::Success) {
+    lines.push_back(ResultLine(result));
+    EXPECT_EQ(LogNames(), lines);
+  }
+
   std::uint32_t ElapsedMs(const std::function<void()>& body) {
     const std::uint32_t before = clock.NowMs();
     body();

@@ -74,26 +74,20 @@ TEST_F(MultiChip, TransmitterTakesItsParametersAsTheyWereSet) {
     ExpectStep(3, 2, 1);
     ExpectWrite(TransmitterRequest(3, 1));
     EXPECT_EQ(AfcStart_MChip(phone, 1, &trim), Result::Success);
-    EXPECT_THAT(LogNames(), ElementsAre("AfcStart_MChip:", "SetTch:", "SetPcl:", "SetCAFC_CENTER:",
-                                        "TxOn:", ResultLine(Result::Success)));
+    ExpectLogged({"AfcStart_MChip:", "SetTch:", "SetPcl:", "SetCAFC_CENTER:", "TxOn:"});
     EXPECT_EQ(SetPhoneAfcMode(phone, 0x100), Result::Success);
-    EXPECT_THAT(LogNames(), ElementsAre(ResultLine(Result::Success)));
+    ExpectLogged({});
     ExpectStep(3, 20, 3);
     ExpectStep(3, 6, 1);
     ExpectStep(3, 7, 4);
     ExpectWrite(TransmitterRequest(3, 1));
     EXPECT_EQ(AfcStart_MChip(phone, 1, &trim), Result::Success);
-    EXPECT_THAT(LogNames(), ElementsAre("AfcStart_MChip:", "SetPcl:", "SetCDAC:", "SetCAFC:",
-                                        "TxOn:", ResultLine(Result::Success)));
+    ExpectLogged({"AfcStart_MChip:", "SetPcl:", "SetCDAC:", "SetCAFC:", "TxOn:"});
     ExpectWrite(TransmitterRequest(3, 0));
     EXPECT_EQ(TxOn_MChip(phone, 0, 1, 1), Result::Success);
     EXPECT_FALSE(phone.calibration.transmitterOn);
     static_cast<void>(Log());
   });
-  // Whose bytes, once: 01020304 from offset 4, the flag at 10, the others from 12.
-  EXPECT_EQ(ToHex(handset.Heard().back().payload),
-            "00 00 03 00 1C 00 00 00 14 00 00 00 00 00 04 03 02 01 00 00 00 00 06 05 08 07 0A 09 "
-            "00 00");
 }
 
 TEST_F(MultiChip, FirstFailingStepEndsACommand) {
@@ -136,9 +130,8 @@ TEST_F(MultiChip, AgcMeasuresUntilRssiSettles) {
     EXPECT_EQ(measured[0].rssi, 0x40);
     EXPECT_EQ(measured[0].rx_level, 300);
     EXPECT_EQ(measured[0].value, 0xA5A5A5A5);
-    EXPECT_THAT(LogNames(), ElementsAre("AgcStart_MChip:", "SetTch:", "SetPcl:", "RxOn:",
-                                        "GetRssi:", "GetRxLevel:", "RSSI = 0X40, RxLevel = 300",
-                                        ResultLine(Result::Success)));
+    ExpectLogged({"AgcStart_MChip:", "SetTch:", "SetPcl:", "RxOn:", "GetRssi:", "GetRxLevel:",
+                  "RSSI = 0X40, RxLevel = 300"});
   });
 }
 
@@ -180,8 +173,7 @@ TEST_F(MultiChip, DirectCurrentEndsWithTheReceiverOffWhateverFailed) {
   EXPECT_EQ(first, 0x3344);
   EXPECT_EQ(second, 0x1122);
   EXPECT_EQ(OperationOf(Result::Success), 258U);
-  EXPECT_THAT(LogNames(), ElementsAre("GetDirectCurr:", "RxOn:", "GetDirectCurr:", "RxOff:",
-                                      ResultLine(Result::Success)));
+  ExpectLogged({"GetDirectCurr:", "RxOn:", "GetDirectCurr:", "RxOff:"});
 }
 
 TEST_F(MultiChip, NonSignallingCommandSixReturnsValues) {
@@ -248,7 +240,7 @@ TEST_F(MultiChipData, RampsAreWrittenInPairs) {
     ExpectWrite(Header({storage, 4, secondItem, 0, 32}).U16(0x0304).U16(4).Zeros(28));
     EXPECT_EQ(command(phone, flag, up.data(), down.data(), 4), Result::Success);
     EXPECT_EQ(OperationOf(Result::Success), operation);
-    EXPECT_THAT(LogNames(), ElementsAre(name, ResultLine(Result::Success)));
+    ExpectLogged({name});
   };
   InBothByteOrders([&] {
     written(RampSetting_Ram_MChip, "RampSetting_Ram_MChip:", 137, 0, 0, 8, 10);
@@ -268,7 +260,7 @@ TEST_F(MultiChipData, RampsAreReadInPairs) {
     ExpectRead(Header({storage, 3, secondItem, 0, 32}), ReadAnswer().U16(0x5678));
     EXPECT_EQ(command(phone, flag, first.Data(), second.Data(), 3), Result::Success);
     EXPECT_EQ(OperationOf(Result::Success), operation);
-    EXPECT_THAT(LogNames(), ElementsAre(name, ResultLine(Result::Success)));
+    ExpectLogged({name});
     EXPECT_THAT((std::array{first[0], first[15], second[0]}), ElementsAre(0x1234, 0, 0x5678));
     EXPECT_TRUE(second.UntouchedFrom(1));
   };
