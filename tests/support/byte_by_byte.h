@@ -6,10 +6,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <random>
-
-#include "support/bytes.h"
+#include <span>
+#include <vector>
 
 namespace merovane::test {
+
+using Bytes = std::vector<std::uint8_t>;
 
 // `output` is large enough; returns the bytes written.
 inline std::size_t EncodeByteByByte(std::span<const std::uint8_t> raw, std::uint8_t* output) {
