@@ -23,7 +23,7 @@ constexpr int kRounds = 50;
 std::vector<std::uint8_t> Frame(std::size_t wireBytes) {
   const std::vector<std::uint8_t> payload(wireBytes - 10, 0x41);
   std::vector<std::uint8_t> raw(payload.size() + 8);
-  merovane::BuildHeader({9, 1}, 0, payload, raw);
+  merovane::BuildHeader({9, 1}, 0, merovane::ByteOrder::Big(), payload, raw);
   std::vector<std::uint8_t> encoded(merovane::MaxEncodedBytes(raw.size()));
   encoded.resize(merovane::EncodeFrame(raw, encoded));
   if (encoded.size() != wireBytes) throw std::logic_error("the frame was to have no escapes");
@@ -46,19 +46,17 @@ void Exchange(benchmark::State& state, How how) {
   ::setenv("CASSORIND_COM5", linkEnd.DeviceName().c_str(), 1);
 
   const merovane::test::TempDirectory directory;
-  merovane::LinkSettings settings(directory.Path());
+  merovane::LinkEnvironment environment(directory.Path());
+  merovane::LinkSettings& settings = environment.settings;
   settings.usefulLog = settings.allLog = how.logs;
   settings.receiveMode = how.receiveThread ? 1 : 0;
-  merovane::PhoneLink link(settings);
+  merovane::PhoneLink link(environment);
   if (link.Open(kPort, 115200) != Result::Success) throw std::runtime_error("cannot open");
   const int bare = bareEnd.OpenBare();
 
   const std::vector<std::uint8_t> payload(22, 0x41);
-  std::vector<std::uint8_t> received(9216);
   const auto exchange = [&] {
-    std::uint32_t length = 0;
-    if (link.SendAndWait({9, 1}, {9, 1}, payload, received, &length, 10'000) != Result::Success ||
-        length != answer.size() - 10) {
+    if (link.SendAndWaitSame({9, 1}, payload, 10'000).Payload().size() != answer.size() - 10) {
       throw std::runtime_error("no answer");
     }
   };

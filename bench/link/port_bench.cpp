@@ -22,10 +22,10 @@ void OpenAndClose(benchmark::State& state, ChannelKind kind, std::uint32_t recei
   bench::FarEnd farEnd(kind, 32, {0x7E});
   ::setenv("CASSORIND_COM5", farEnd.DeviceName().c_str(), 1);
   const merovane::test::TempDirectory directory;
-  merovane::LinkSettings settings(directory.Path());
-  settings.receiveMode = receiveMode;
+  merovane::LinkEnvironment environment(directory.Path());
+  environment.settings.receiveMode = receiveMode;
   const auto open = [&] {
-    auto link = std::make_unique<merovane::PhoneLink>(settings);
+    auto link = std::make_unique<merovane::PhoneLink>(environment);
     if (link->Open(5, 115200) != merovane::Result::Success) throw std::runtime_error("cannot open");
     return link;
   };

@@ -2,7 +2,7 @@
 //
 // The bytes arrive in pieces whose sizes the input chooses. Every frame that is found must be the
 // one that a walk over the ring finds, and must decode as byte by byte, never outside its buffers.
-// Behind the input comes silence, noise without a flag, and a whole frame: that must be found.
+// After the input comes silence, noise without a flag, and a whole frame: that must be found.
 #pragma once
 
 #include <array>
@@ -49,11 +49,12 @@ class Line {
     walked_.Append(piece);
     std::size_t frameBytes = 0;
     for (;;) {
-      const FrameSearch::Outcome outcome = search_.Extract(output_);
+      test::Bytes found;
+      const FrameSearch::Outcome outcome = search_.Extract(
+          [&](std::span<const std::uint8_t> whole) { found.assign(whole.begin(), whole.end()); });
       bool flagSeen = false;
       const test::Bytes expected = walked_.Extract(flagSeen);
-      Require(outcome.flagSeen == flagSeen && outcome.frameBytes == expected.size());
-      Require(std::equal(expected.begin(), expected.end(), output_.begin()));
+      Require(outcome.flagSeen == flagSeen && found == expected);
       Require(ring_.Count() == walked_.Held().size());
       if (expected.empty()) return std::span<const std::uint8_t>(frame_).first(frameBytes);
       frameBytes = expected.size();
@@ -70,7 +71,6 @@ class Line {
   ByteRing ring_;
   FrameSearch search_{ring_};
   test::WalkedRing walked_;
-  std::array<std::uint8_t, kMaxFrameBytes> output_{};
   std::array<std::uint8_t, kMaxFrameBytes> frame_{};
 };
 

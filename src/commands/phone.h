@@ -2,23 +2,21 @@
 #pragma once
 
 #include "commands/calibration/calibration_state.h"
-#include "commands/handset/mode_process.h"
 #include "commands/serial_number_layout.h"
+#include "link/link_environment.h"
 #include "link/phone_link.h"
-#include "link/settings.h"
 
 namespace merovane {
 
 struct Phone {
-  explicit Phone(LinkSettings& settings, platform::Clock& clock = platform::SystemClock(),
+  explicit Phone(LinkEnvironment& environment, platform::Clock& clock = platform::SystemClock(),
                  ChannelLibrary library = {})
-      : link(settings, clock, library),
-        newSerialNumberLayout(LayoutNamed(settings.serialNumberMagic)) {}
+      : link(environment, clock, library),
+        newSerialNumberLayout(LayoutNamed(environment.settings.SerialNumberMagic())) {}
   Phone(const Phone&) = delete;
   Phone& operator=(const Phone&) = delete;
 
   PhoneLink link;
-  ModeProcess modeProcess;
   commands::CalibrationState calibration;
   // What a handset without serial numbers gets.
   SerialNumberLayout newSerialNumberLayout;

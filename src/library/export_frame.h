@@ -1,12 +1,11 @@
-// The frame of every exported command: the object that it works on, the report of its result, and
-// no exception.
+// The frame of every exported command: the object that it works on, its turn there, the report of
+// its result, and no exception.
 #pragma once
 
 #include <cstdint>
 #include <utility>
 
 #include "library/library.h"
-#include "link/byte_order.h"
 #include "link/result.h"
 #include "nvproject/nv_image.h"
 #include "platform/clock.h"
@@ -24,50 +23,68 @@ Result Guarded(Command&& command) noexcept {
 }
 
 inline std::int32_t Reported(Result result) {
-  return static_cast<std::int32_t>(TheLibrary().settings.errors.Report(result));
+  return static_cast<std::int32_t>(TheLibrary().environment.errors.Report(result));
 }
 
 // No command ran: the result is reported under no operation.
 inline std::int32_t ReportedUnreached(Result result) {
-  TheLibrary().settings.errors.ClearReport();
+  TheLibrary().environment.errors.ClearReport();
   return Reported(result);
 }
 
 template <typename Command>
-std::int32_t OnDefaultPhone(Command&& command) noexcept {
+std::int32_t RunCommand(PhoneObject& phone, Command&& command) noexcept {
+  const Turn turn(phone.commandTurns);
+  if (!turn) return ReportedUnreached(Result::PortNotOpen);
+  const Result result = Guarded([&] { return command(phone); });
+  // A command may make something else of it, or nothing.
+  return Reported(phone.link.WasCutShort() ? Result::PortNotOpen : result);
+}
+
+template <typename Operation>
+std::int32_t RunProject(PhoneObject& phone, std::uint32_t id, Operation&& operation) noexcept {
+  const Turn turn(phone.projectTurns);
+  if (!turn) return ReportedUnreached(Result::PortNotOpen);
+  TheLibrary().environment.errors.BeginOperation(id);
+  return Reported(Guarded([&] { return operation(phone.project); }));
+}
+
+template <typename Run>
+std::int32_t OnDefaultObject(Run&& run) noexcept {
   const auto phone = TheLibrary().registry.Default();
-  if (!phone) return ReportedUnreached(Result::PortNotOpen);
-  return Reported(Guarded([&] { return command(*phone); }));
+  return phone ? run(*phone) : ReportedUnreached(Result::PortNotOpen);
+}
+
+template <typename Run>
+std::int32_t OnObjectOf(std::int32_t port, Run&& run) noexcept {
+  Result failure = Result::Success;
+  const auto phone = TheLibrary().registry.Find(port, failure);
+  return phone ? run(*phone) : ReportedUnreached(failure);
+}
+
+template <typename Command>
+std::int32_t OnDefaultPhone(Command&& command) noexcept {
+  return OnDefaultObject([&](PhoneObject& phone) { return RunCommand(phone, command); });
 }
 
 template <typename Command>
 std::int32_t OnPhone(std::int32_t port, Command&& command) noexcept {
-  Result failure = Result::Success;
-  const auto phone = TheLibrary().registry.Find(port, failure);
-  if (!phone) return ReportedUnreached(failure);
-  return Reported(Guarded([&] { return command(*phone); }));
+  return OnObjectOf(port, [&](PhoneObject& phone) { return RunCommand(phone, command); });
 }
 
-// Commands on the phone object's NV project, which get what holds it; their results are reported
-// under the operation's id.
-template <typename Command>
-std::int32_t OnProjectOf(std::int32_t port, std::uint32_t operation, Command&& command) noexcept {
-  return OnPhone(port, [&](PhoneObject& phone) {
-    TheLibrary().settings.errors.BeginOperation(operation);
-    return command(phone.project);
-  });
+// `operation` gets what holds the object's NV project.
+template <typename Operation>
+std::int32_t OnDefaultProject(std::uint32_t id, Operation&& operation) noexcept {
+  return OnDefaultObject([&](PhoneObject& phone) { return RunProject(phone, id, operation); });
 }
 
-template <typename Command>
-std::int32_t OnDefaultProject(std::uint32_t operation, Command&& command) noexcept {
-  return OnDefaultPhone([&](PhoneObject& phone) {
-    TheLibrary().settings.errors.BeginOperation(operation);
-    return command(phone.project);
-  });
+template <typename Operation>
+std::int32_t OnProjectOf(std::int32_t port, std::uint32_t id, Operation&& operation) noexcept {
+  return OnObjectOf(port, [&](PhoneObject& phone) { return RunProject(phone, id, operation); });
 }
 
 inline nvproject::ImageContext ImageContextNow() {
-  return {CurrentByteOrder(), platform::SystemClock().NowMs()};
+  return {TheLibrary().environment.settings.Order(), platform::SystemClock().NowMs()};
 }
 
 }  // namespace merovane::library

@@ -5,7 +5,7 @@
 
 namespace merovane::library {
 
-Library::Library() : settings(platform::ExecutableDirectory()) {}
+Library::Library() : environment(platform::ExecutableDirectory()) {}
 
 Library::~Library() { CloseAll(*this); }
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "library/session_registry.h"
-#include "link/settings.h"
+#include "link/link_environment.h"
 
 namespace merovane::library {
 
@@ -10,7 +10,7 @@ struct Library {
   Library();
   ~Library();
 
-  LinkSettings settings;
+  LinkEnvironment environment;
   SessionRegistry registry;
 };
 

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "library/export_frame.h"
-#include "link/byte_order.h"
 #include "platform/device_monitor.h"
 #include "platform/event.h"
 #include "platform/files.h"
@@ -23,7 +22,10 @@ enum Property : std::uint32_t {
   kBigEndian = 4,
 };
 
-PhonePointer MakePhone() { return std::make_shared<PhoneObject>(TheLibrary().settings); }
+// How long the end of a port waits for a command that does not return although its link has ended.
+constexpr std::uint32_t kEndLimitMs = 3300;
+
+PhonePointer MakePhone() { return std::make_shared<PhoneObject>(TheLibrary().environment); }
 
 // Runs a session export that makes objects; out of memory gives 2, as where a port is opened.
 template <typename Export>
@@ -37,22 +39,33 @@ std::int32_t Session(Export&& run) noexcept {
 
 std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
   Library& library = TheLibrary();
-  library.settings.errors.BeginOperation(1);
+  library.environment.errors.BeginOperation(1);
   return Session([&] {
     if (port < 1 || baudRate < 1) return Reported(Result::InvalidParam);
-    Result lookup = Result::Success;
-    if (library.registry.Find(port, lookup)) return Reported(Result::PortAlreadyOpened);
     const PhonePointer phone = MakePhone();
+    const Turn turn(phone->commandTurns);
+    // Before it is opened: another thread may begin the same port now.
+    if (!library.registry.Enter(port, phone)) return Reported(Result::PortAlreadyOpened);
     const Result opened = phone->link.Open(port, baudRate);
-    if (!Succeeded(opened)) return Reported(opened);
-    library.registry.Enter(port, phone);
+    if (!Succeeded(opened)) {
+      library.registry.Remove(port, phone);
+      // Whoever waits for this turn finds no port.
+      static_cast<void>(phone->commandTurns.End(0));
+      return Reported(opened);
+    }
     if (asDefault) library.registry.MakeDefault(port);
     return Reported(Result::Success);
   });
 }
 
+// Ends what other threads do with the phone, which is in the registry no more, then closes it.
 Result Close(PhoneObject& phone) {
-  phone.modeProcess.Stop();
+  phone.link.End();
+  const bool commandsLeft = phone.commandTurns.End(kEndLimitMs);
+  const bool projectLeft = phone.projectTurns.End(kEndLimitMs);
+  phone.modeProcess.End();
+  // Whoever is still inside owns the phone, too, and closes it by letting go of it.
+  if (!commandsLeft || !projectLeft) return Result::CannotCloseAllPorts;
   return phone.link.Close();
 }
 
@@ -86,7 +99,7 @@ Result StartMode(const PhonePointer& phone, const ModeStart& start,
 std::int32_t EnterMode(const ModeStart& start) {
   Library& library = TheLibrary();
   const bool waits = start.waitForPort != 0;
-  library.settings.errors.BeginOperation(3);
+  library.environment.errors.BeginOperation(3);
   const PhonePointer phone =
       waits ? library.registry.PortWaiting(MakePhone) : library.registry.Default();
   if (!phone) return ReportedUnreached(Result::PortNotOpen);
@@ -101,18 +114,16 @@ std::int32_t EnterMode(std::int32_t port, const ModeStart& start) {
   if (lookup == Result::InvalidParam) return ReportedUnreached(lookup);
   if (start.waitForPort == 0) {
     if (!phone) return ReportedUnreached(lookup);
-    library.settings.errors.BeginOperation(3);
+    library.environment.errors.BeginOperation(3);
     return Reported(StartMode(phone, start, std::nullopt));
   }
-  library.settings.errors.BeginOperation(3);
+  library.environment.errors.BeginOperation(3);
   if (start.event && start.event->IsNull()) return Reported(Result::InvalidParam);
   // A fresh object: the old one's link is of no use once its device goes.
-  if (phone) {
-    static_cast<void>(Close(*phone));
-    library.registry.Remove(port);
-  }
   phone = MakePhone();
-  library.registry.Enter(port, phone);
+  while (!library.registry.Enter(port, phone)) {
+    if (const PhonePointer old = library.registry.Remove(port)) static_cast<void>(Close(*old));
+  }
   return Reported(StartMode(phone, start, port));
 }
 
@@ -137,7 +148,7 @@ bool CloseAll(Library& library) {
 
 std::int32_t EndPhoneTest() {
   Library& library = TheLibrary();
-  library.settings.errors.BeginOperation(2);
+  library.environment.errors.BeginOperation(2);
   return Reported(
       Guarded([&] { return CloseAll(library) ? Result::Success : Result::CannotCloseAllPorts; }));
 }
@@ -146,7 +157,7 @@ std::int32_t EndPhoneTest_MT(std::int32_t port) {
   Library& library = TheLibrary();
   Result lookup = Result::Success;
   if (!library.registry.Find(port, lookup)) return ReportedUnreached(lookup);
-  library.settings.errors.BeginOperation(2);
+  library.environment.errors.BeginOperation(2);
   return Reported(Guarded([&] {
     if (const PhonePointer phone = library.registry.Remove(port)) static_cast<void>(Close(*phone));
     return Result::Success;
@@ -154,8 +165,8 @@ std::int32_t EndPhoneTest_MT(std::int32_t port) {
 }
 
 std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uintptr_t value2) {
-  LinkSettings& settings = TheLibrary().settings;
-  settings.errors.ClearReport();
+  LinkEnvironment& environment = TheLibrary().environment;
+  LinkSettings& settings = environment.settings;
   return Reported(Guarded([&] {
     switch (property) {
       case kUsefulLog:
@@ -166,13 +177,13 @@ std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uin
         SaveRecvData(static_cast<std::uint32_t>(value1), reinterpret_cast<const char*>(value2));
         break;
       case kChannelServer:
-        settings.UseChannelServer(value2 != 0);
+        environment.server.Use(value2 != 0);
         break;
       case kReceiveMode:
         SetRecvMode(static_cast<std::uint32_t>(value2));
         break;
       case kBigEndian:
-        SetBigEndian(value2 != 0);
+        settings.SetOrder(value2 != 0 ? ByteOrder::Big() : ByteOrder::Little());
         break;
       default:
         break;
@@ -182,18 +193,18 @@ std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uin
 }
 
 std::int32_t GetProperty(std::uint32_t property, std::uintptr_t, std::uint32_t* value) {
-  TheLibrary().settings.errors.ClearReport();
+  if (property != kBigEndian) return Reported(Result::Success);
   if (!value) return Reported(Result::InvalidParam);
-  if (property == kBigEndian) *value = BigEndian() ? 1 : 0;
+  *value = TheLibrary().environment.settings.Order().IsBig() ? 1 : 0;
   return Reported(Result::Success);
 }
 
-void SetRecvMode(std::uint32_t mode) { TheLibrary().settings.receiveMode = mode; }
+void SetRecvMode(std::uint32_t mode) { TheLibrary().environment.settings.receiveMode = mode; }
 
 void SaveRecvData(std::uint32_t on, const char* path) {
   static_cast<void>(Guarded([&] {
     const bool records = on != 0 && path && *path;
-    TheLibrary().settings.SaveReceivedData(
+    TheLibrary().environment.settings.SaveReceivedData(
         records, records ? platform::PathFromText(path) : std::filesystem::path());
     return Result::Success;
   }));
@@ -234,7 +245,7 @@ std::int32_t StopModeProcess() {
   const PhonePointer phone =
       registry.lastWaitedForPort ? registry.PortWaiting() : registry.Default();
   if (!phone) return ReportedUnreached(Result::PortNotOpen);
-  TheLibrary().settings.errors.BeginOperation(4);
+  TheLibrary().environment.errors.BeginOperation(4);
   phone->modeProcess.Stop();
   return Reported(Result::Success);
 }
@@ -243,7 +254,7 @@ std::int32_t StopModeProcess_MT(std::int32_t port) {
   Result lookup = Result::Success;
   const PhonePointer phone = TheLibrary().registry.Find(port, lookup);
   if (!phone) return ReportedUnreached(lookup);
-  TheLibrary().settings.errors.BeginOperation(4);
+  TheLibrary().environment.errors.BeginOperation(4);
   phone->modeProcess.Stop();
   return Reported(Result::Success);
 }
@@ -282,7 +293,7 @@ std::int32_t ResetModeProcess_MT(std::int32_t port, std::uint32_t throughPort,
 }
 
 std::int32_t SetCampParam(std::uint32_t campParameter) {
-  TheLibrary().settings.errors.ClearReport();
+  TheLibrary().environment.errors.ClearReport();
   TheLibrary().registry.nextSequence = campParameter;
   return Reported(Result::Success);
 }

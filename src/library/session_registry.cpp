@@ -9,29 +9,29 @@ SessionRegistry::PhonePointer SessionRegistry::Find(std::int32_t port, Result& f
     failure = Result::InvalidParam;
     return nullptr;
   }
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   const auto found = phones_.find(port);
   failure = found == phones_.end() ? Result::PortNotOpen : Result::Success;
   return found == phones_.end() ? nullptr : found->second;
 }
 
 SessionRegistry::PhonePointer SessionRegistry::Default() const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return default_;
 }
 
-void SessionRegistry::Enter(std::int32_t port, PhonePointer phone) {
-  const std::lock_guard lock(mutex_);
-  phones_[port] = std::move(phone);
+bool SessionRegistry::Enter(std::int32_t port, const PhonePointer& phone) {
+  const platform::MutexLock lock(mutex_);
+  return phones_.emplace(port, phone).second;
 }
 
 void SessionRegistry::MakeDefault(std::int32_t port) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   if (const auto found = phones_.find(port); found != phones_.end()) default_ = found->second;
 }
 
 SessionRegistry::PhonePointer SessionRegistry::Remove(std::int32_t port) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   const auto found = phones_.find(port);
   if (found == phones_.end()) return nullptr;
   PhonePointer phone = std::move(found->second);
@@ -40,8 +40,14 @@ SessionRegistry::PhonePointer SessionRegistry::Remove(std::int32_t port) {
   return phone;
 }
 
+void SessionRegistry::Remove(std::int32_t port, const PhonePointer& phone) {
+  const platform::MutexLock lock(mutex_);
+  const auto found = phones_.find(port);
+  if (found != phones_.end() && found->second == phone) phones_.erase(found);
+}
+
 std::vector<SessionRegistry::PhonePointer> SessionRegistry::RemoveAll() {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   std::vector<PhonePointer> phones;
   for (auto& entry : phones_) phones.push_back(std::move(entry.second));
   phones_.clear();
@@ -50,7 +56,7 @@ std::vector<SessionRegistry::PhonePointer> SessionRegistry::RemoveAll() {
 }
 
 SessionRegistry::PhonePointer SessionRegistry::PortWaiting() const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return portWaiting_;
 }
 

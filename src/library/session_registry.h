@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <mutex>
 #include <vector>
 
 #include "library/phone_object.h"
 #include "link/result.h"
+#include "platform/mutex.h"
 
 namespace merovane::library {
 
@@ -21,18 +21,21 @@ class SessionRegistry {
   PhonePointer Find(std::int32_t port, Result& failure) const;
   PhonePointer Default() const;
 
-  void Enter(std::int32_t port, PhonePointer phone);
+  // False when the port has an object already.
+  bool Enter(std::int32_t port, const PhonePointer& phone);
   // The object of this port, if there is one, becomes the default one.
   void MakeDefault(std::int32_t port);
   // Takes the object out; it is null when there is none. A default object ends with its port.
   PhonePointer Remove(std::int32_t port);
+  // Takes this one out, unless another has taken its place.
+  void Remove(std::int32_t port, const PhonePointer& phone);
   // Takes all out, and forgets the default object.
   std::vector<PhonePointer> RemoveAll();
 
   // The object that waits for a new port; its own, made when first asked for.
   template <typename Make>
   PhonePointer PortWaiting(Make&& make) {
-    const std::lock_guard lock(mutex_);
+    const platform::MutexLock lock(mutex_);
     if (!portWaiting_) portWaiting_ = make();
     return portWaiting_;
   }
@@ -44,10 +47,10 @@ class SessionRegistry {
   std::atomic<bool> lastWaitedForPort = false;
 
  private:
-  mutable std::mutex mutex_;
-  std::map<std::int32_t, PhonePointer> phones_;
-  PhonePointer default_;
-  PhonePointer portWaiting_;
+  mutable platform::Mutex mutex_;
+  std::map<std::int32_t, PhonePointer> phones_ MEROVANE_GUARDED_BY(mutex_);
+  PhonePointer default_ MEROVANE_GUARDED_BY(mutex_);
+  PhonePointer portWaiting_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 }  // namespace merovane::library

@@ -1,7 +1,6 @@
 #include "link/byte_order.h"
 
 #include <algorithm>
-#include <atomic>
 #include <bit>
 #include <cstring>
 
@@ -9,8 +8,6 @@ namespace merovane {
 namespace {
 
 static_assert(std::endian::native == std::endian::little, "stations are little-endian machines");
-
-std::atomic<bool> bigEndianHandset{true};
 
 template <typename T>
 void Store(std::span<std::uint8_t> data, std::size_t offset, T value) {
@@ -59,9 +56,5 @@ void ByteOrder::SwapArray32(std::span<std::uint8_t> data) const {
 void PutU32BigEndian(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
   ByteOrder::Big().PutU32(payload, offset, value);
 }
-
-void SetBigEndian(bool bigEndian) { bigEndianHandset.store(bigEndian, std::memory_order_relaxed); }
-
-bool BigEndian() { return bigEndianHandset.load(std::memory_order_relaxed); }
 
 }  // namespace merovane

@@ -41,25 +41,4 @@ class ByteOrder {
 // A field that is most significant byte first whatever the handset's order.
 void PutU32BigEndian(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value);
 
-// For callers that do not hold the order yet: one switch for the process.
-void SetBigEndian(bool bigEndian);
-bool BigEndian();
-inline ByteOrder CurrentByteOrder() { return BigEndian() ? ByteOrder::Big() : ByteOrder::Little(); }
-inline std::uint16_t Swap16(std::uint16_t value) { return CurrentByteOrder().Swap16(value); }
-inline std::uint32_t Swap32(std::uint32_t value) { return CurrentByteOrder().Swap32(value); }
-inline void PutU16(std::span<std::uint8_t> payload, std::size_t offset, std::uint16_t value) {
-  CurrentByteOrder().PutU16(payload, offset, value);
-}
-inline void PutU32(std::span<std::uint8_t> payload, std::size_t offset, std::uint32_t value) {
-  CurrentByteOrder().PutU32(payload, offset, value);
-}
-inline std::uint16_t GetU16(std::span<const std::uint8_t> payload, std::size_t offset) {
-  return CurrentByteOrder().GetU16(payload, offset);
-}
-inline std::uint32_t GetU32(std::span<const std::uint8_t> payload, std::size_t offset) {
-  return CurrentByteOrder().GetU32(payload, offset);
-}
-inline void SwapArray16(std::span<std::uint8_t> data) { CurrentByteOrder().SwapArray16(data); }
-inline void SwapArray32(std::span<std::uint8_t> data) { CurrentByteOrder().SwapArray32(data); }
-
 }  // namespace merovane

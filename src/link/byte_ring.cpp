@@ -8,7 +8,7 @@ namespace merovane {
 
 void ByteRing::Append(std::span<const std::uint8_t> data) {
   if (data.empty()) return;
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   if (data.size() > kRingCapacity) {
     Drop(count_);
     removed_ += data.size() - kRingCapacity;
@@ -22,11 +22,11 @@ void ByteRing::Append(std::span<const std::uint8_t> data) {
   }
   std::memcpy(storage_.data() + count_, data.data(), data.size());
   count_ += data.size();
-  if (waited_) filled_.notify_all();
+  if (waited_) filled_.NotifyAll();
 }
 
 std::size_t ByteRing::Peek(std::span<std::uint8_t> destination) const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   const std::size_t taken = std::min(destination.size(), count_);
   if (taken > 0) std::memcpy(destination.data(), storage_.data() + readOffset_, taken);
   return taken;
@@ -43,22 +43,23 @@ std::size_t ByteRing::Consume(std::span<std::uint8_t> destination) {
 }
 
 std::size_t ByteRing::Count() const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return count_;
 }
 
 void ByteRing::Clear() {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   Drop(count_);
 }
 
 bool ByteRing::WaitNotEmpty(std::uint32_t timeLimitMs) const {
-  std::unique_lock lock(mutex_);
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(timeLimitMs);
+  const platform::MutexLock lock(mutex_);
   waited_ = true;
-  const bool filled =
-      filled_.wait_for(lock, std::chrono::milliseconds(timeLimitMs), [this] { return count_ > 0; });
+  while (count_ == 0 && filled_.WaitUntil(mutex_, end)) {
+  }
   waited_ = false;
-  return filled;
+  return count_ > 0;
 }
 
 void ByteRing::Drop(std::size_t count) {

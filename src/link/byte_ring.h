@@ -2,11 +2,11 @@
 #pragma once
 
 #include <array>
-#include <condition_variable>
 #include <cstddef>
 #include <cstdint>
-#include <mutex>
 #include <span>
+
+#include "platform/mutex.h"
 
 namespace merovane {
 
@@ -26,23 +26,23 @@ class ByteRing {
 
   // Runs `visit(held bytes, position of the first of them)` under the lock and removes as many
   // of the oldest bytes as it returns. The position counts the bytes ever removed or dropped: where
-  // it stands as before, so do the bytes behind it.
+  // it stands as before, so do the bytes after it.
   template <typename Visitor>
   void Visit(Visitor&& visit) {
-    const std::lock_guard lock(mutex_);
+    const platform::MutexLock lock(mutex_);
     Drop(visit(std::span<const std::uint8_t>(storage_).subspan(readOffset_, count_), removed_));
   }
 
  private:
-  void Drop(std::size_t count);
+  void Drop(std::size_t count) MEROVANE_REQUIRES(mutex_);
 
-  mutable std::mutex mutex_;
-  mutable std::condition_variable filled_;
-  mutable bool waited_ = false;
-  std::array<std::uint8_t, kRingCapacity> storage_{};
-  std::size_t count_ = 0;
-  std::size_t readOffset_ = 0;
-  std::uint64_t removed_ = 0;
+  mutable platform::Mutex mutex_;
+  mutable platform::ConditionVariable filled_;
+  mutable bool waited_ MEROVANE_GUARDED_BY(mutex_) = false;
+  std::array<std::uint8_t, kRingCapacity> storage_ MEROVANE_GUARDED_BY(mutex_){};
+  std::size_t count_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::size_t readOffset_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint64_t removed_ MEROVANE_GUARDED_BY(mutex_) = 0;
 };
 
 }  // namespace merovane

@@ -1,33 +1,77 @@
 #include "link/channel_server.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace merovane {
 
-std::shared_ptr<ChannelServer> ChannelServer::Connect(std::uint32_t port) {
-  std::shared_ptr<ChannelServer> connection(new ChannelServer);
-  if (!connection->library_.Load("Tollvane")) return nullptr;
+TollvaneServer* LoadServer(platform::Module& library) {
   using InitFunction = TollvaneServer*(COMPANION_CALL*)();
-  const auto init = reinterpret_cast<InitFunction>(connection->library_.Find("InitDll"));
-  if (!init) return nullptr;
-  connection->server_ = init();
+  if (!library.Load("Tollvane")) return nullptr;
+  const auto init = reinterpret_cast<InitFunction>(library.Find("InitDll"));
+  return init ? init() : nullptr;
+}
+
+std::shared_ptr<ServerConnection> ServerConnection::Make(std::uint32_t port, MakeServer make) {
+  const std::shared_ptr<ServerConnection> connection(new ServerConnection);
+  const platform::MutexLock lock(connection->mutex_);
+  connection->server_ = make(connection->library_);
   if (!connection->server_) return nullptr;
   const TollvaneConnectParameters parameters{port, {0, 0}};
   // Only 0 keeps the interface.
-  if (connection->server_->Connect(&parameters) != 0) return nullptr;
-  return connection;
+  return connection->server_->Connect(&parameters) == 0 ? connection : nullptr;
 }
 
-ChannelServer::~ChannelServer() {
+ServerConnection::~ServerConnection() {
+  const platform::MutexLock lock(mutex_);
   if (server_) server_->Release();
 }
 
-void ChannelServer::RegisterReceiver(std::uint32_t threadId, bool enabled) {
-  server_->RegisterReceiver(kServerDataMessage, enabled ? 1 : 0, threadId);
+void ServerConnection::RegisterReceiver(std::uint32_t threadId) {
+  const platform::MutexLock lock(mutex_);
+  if (server_) server_->RegisterReceiver(kServerDataMessage, 1, threadId);
 }
 
-void ChannelServer::Forward(std::span<const std::uint8_t> chunk) {
+bool ServerConnection::Forward(std::span<const std::uint8_t> chunk) {
+  const platform::MutexLock lock(mutex_);
+  if (!server_) return false;
   server_->Forward(chunk.data(), static_cast<std::uint32_t>(chunk.size()));
+  return true;
 }
 
-void ChannelServer::Disconnect() { server_->Disconnect(); }
+std::size_t ServerConnection::Take(std::span<const std::uint8_t> posted,
+                                   std::span<std::uint8_t> into) {
+  const platform::MutexLock lock(mutex_);
+  if (!server_) return 0;
+  const std::size_t bytes = std::min(posted.size(), into.size());
+  std::memcpy(into.data(), posted.data(), bytes);
+  return bytes;
+}
+
+void ServerConnection::End() {
+  const platform::MutexLock lock(mutex_);
+  if (!server_) return;
+  server_->Disconnect();
+  server_->Release();
+  server_ = nullptr;
+  library_.Free();
+}
+
+void ChannelServer::Use(bool on) {
+  const platform::MutexLock lock(mutex_);
+  if (!on) {
+    connected_ = false;
+    if (connection_) connection_->End();
+    connection_.reset();
+  } else if (!connection_) {
+    connection_ = ServerConnection::Make(port_, make_);
+    connected_ = connection_ != nullptr;
+  }
+}
+
+std::shared_ptr<ServerConnection> ChannelServer::Connection() const {
+  const platform::MutexLock lock(mutex_);
+  return connection_;
+}
 
 }  // namespace merovane

@@ -23,8 +23,6 @@ class Frame {
   explicit operator bool() const { return Succeeded(why_); }
   // Success when there is a frame.
   Result Why() const { return why_; }
-  // For bodies that still ask for the result alone; it goes with the last of them.
-  operator Result() const { return why_; }  // NOLINT(google-explicit-constructor)
 
   // Header and payload; empty when there is no frame.
   std::span<const std::uint8_t> Bytes() const { return {storage_.data(), bytes_}; }

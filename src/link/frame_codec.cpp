@@ -4,8 +4,6 @@
 #include <bit>
 #include <cstring>
 
-#include "link/byte_order.h"
-
 #if defined(__SSE2__)
 #include <emmintrin.h>
 #endif
@@ -87,10 +85,10 @@ void UnescapeOneByOne(const std::uint8_t*& in, const std::uint8_t* end, std::uin
 
 }  // namespace
 
-void BuildHeader(FrameId id, std::uint32_t sequence, std::span<const std::uint8_t> payload,
-                 std::span<std::uint8_t> output) {
+void BuildHeader(FrameId id, std::uint32_t sequence, ByteOrder order,
+                 std::span<const std::uint8_t> payload, std::span<std::uint8_t> output) {
   std::memcpy(output.data(), &sequence, sizeof sequence);
-  PutU16(output, 4, static_cast<std::uint16_t>(payload.size() + kHeaderBytes));
+  order.PutU16(output, 4, static_cast<std::uint16_t>(payload.size() + kHeaderBytes));
   output[6] = id.type;
   output[7] = id.subtype;
   if (!payload.empty()) std::memcpy(&output[kHeaderBytes], payload.data(), payload.size());

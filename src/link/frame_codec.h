@@ -11,6 +11,8 @@
 #include <cstdint>
 #include <span>
 
+#include "link/byte_order.h"
+
 namespace merovane {
 
 inline constexpr std::uint8_t kFlag = 0x7E;
@@ -34,8 +36,8 @@ constexpr std::size_t MaxEncodedBytes(std::size_t rawBytes) { return 2 * rawByte
 
 // Writes header and payload to `output`, which holds payload.size() + 8 bytes.
 // The length field is taken in 16 bits.
-void BuildHeader(FrameId id, std::uint32_t sequence, std::span<const std::uint8_t> payload,
-                 std::span<std::uint8_t> output);
+void BuildHeader(FrameId id, std::uint32_t sequence, ByteOrder order,
+                 std::span<const std::uint8_t> payload, std::span<std::uint8_t> output);
 
 // Escapes and flags; `output` holds MaxEncodedBytes(raw.size()). Returns the bytes written.
 std::size_t EncodeFrame(std::span<const std::uint8_t> raw, std::span<std::uint8_t> output);

@@ -1,9 +1,9 @@
 #include "link/phone_link.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
-#include <new>
 #include <utility>
 
 namespace merovane {
@@ -11,6 +11,8 @@ namespace {
 
 // A frame is extracted as soon as its closing flag is there, not after a full buffer.
 constexpr std::size_t kReadBytes = 64;
+// How often a wait looks whether it is to end.
+constexpr std::uint32_t kCancelPollMs = 20;
 // What a frame whose start arrived just before the limit gets to finish.
 constexpr std::uint32_t kStartedFrameExtensionMs = 500;
 constexpr std::uint8_t kRefusalSubtype = 2;
@@ -22,10 +24,10 @@ std::size_t CopyCut(std::span<const std::uint8_t> from, std::span<std::uint8_t> 
 }
 
 // What a handset sends while it boots: a whole frame without payload.
-std::array<std::uint8_t, kMinFrameBytes> StartFrame() {
+std::array<std::uint8_t, kMinFrameBytes> StartFrame(ByteOrder order) {
   std::array<std::uint8_t, kMinFrameBytes> frame{};
   frame.front() = frame.back() = kFlag;
-  BuildHeader({0xFE, 1}, 0, {}, std::span(frame).subspan(1, kHeaderBytes));
+  BuildHeader({0xFE, 1}, 0, order, {}, std::span(frame).subspan(1, kHeaderBytes));
   return frame;
 }
 
@@ -46,11 +48,12 @@ std::size_t SearchStartFrame(std::span<const std::uint8_t> held,
 
 }  // namespace
 
-PhoneLink::PhoneLink(LinkSettings& settings, platform::Clock& clock, ChannelLibrary library)
-    : settings_(settings), clock_(clock), channel_(settings, clock, library) {}
+PhoneLink::PhoneLink(LinkEnvironment& environment, platform::Clock& clock, ChannelLibrary library)
+    : environment_(environment), clock_(clock), channel_(environment, clock, library) {}
 
 Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
-  if (settings_.usefulLog && port >= 1 && baudRate >= 1 && !IsOpen()) {
+  if (ended_) return OrEnded(Result::Success);
+  if (environment_.settings.usefulLog && port >= 1 && baudRate >= 1 && !IsOpen()) {
     std::array<char, 64> text;
     std::snprintf(text.data(), text.size(), "Com%d_UsefulLog.txt", static_cast<int>(port));
     usefulLog_ = std::make_unique<PortLog>();
@@ -78,28 +81,30 @@ Result PhoneLink::Close() {
   return result;
 }
 
-Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
-  const std::size_t rawBytes = payload.size() + kHeaderBytes;
-  const std::size_t encodedCapacity = MaxEncodedBytes(rawBytes);
-  if (encodedCapacity < payload.size()) return Result::EncodeFailed;
-  std::unique_ptr<std::uint8_t[]> encoded(new (std::nothrow) std::uint8_t[encodedCapacity]);
-  std::size_t encodedBytes = 0;
-  {
-    const std::unique_ptr<std::uint8_t[]> raw(new (std::nothrow) std::uint8_t[rawBytes]);
-    if (!raw || !encoded) return Result::EncodeFailed;
-    const std::span<std::uint8_t> rawFrame(raw.get(), rawBytes);
-    BuildHeader(id, std::exchange(nextSequence_, 0), payload, rawFrame);
-    encodedBytes = EncodeFrame(rawFrame, {encoded.get(), encodedCapacity});
-  }
+Result PhoneLink::OrEnded(Result result) {
+  if (!ended_) return result;
+  cutShort_ = true;
+  return Result::PortNotOpen;
+}
 
-  if (!settings_.ReceivesThroughThread()) {
-    static_cast<void>(channel_.Clear());
+Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
+  if (ended_) return OrEnded(Result::Success);
+  const std::size_t rawBytes = payload.size() + kHeaderBytes;
+  const std::size_t neededBytes = rawBytes + MaxEncodedBytes(rawBytes);
+  if (neededBytes < payload.size()) return Result::EncodeFailed;
+  if (sendBuffer_.size() < neededBytes) sendBuffer_.resize(neededBytes);
+  const std::span<std::uint8_t> raw = std::span(sendBuffer_).first(rawBytes);
+  const std::span<std::uint8_t> encoded = std::span(sendBuffer_).subspan(rawBytes);
+  BuildHeader(id, nextSequence_.exchange(0), Order(), payload, raw);
+  const std::span<const std::uint8_t> frame = encoded.first(EncodeFrame(raw, encoded));
+
+  if (!environment_.ReceivesThroughThread()) {
+    channel_.DropHeld();
     LogLine("Clear Port Buffer");
   }
-  channel_.ClearThreadRing();
+  channel_.DropFetched();
   ring_.Clear();
 
-  const std::span<const std::uint8_t> frame(encoded.get(), encodedBytes);
   const Result result = channel_.Write(frame);
   if (Succeeded(result)) {
     if (PortLog* log = UsefulLog()) log->Data(frame, true);
@@ -107,13 +112,42 @@ Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
   return result;
 }
 
-Result PhoneLink::WriteRaw(std::span<const std::uint8_t> data) { return channel_.Write(data); }
+Result PhoneLink::WriteRaw(std::span<const std::uint8_t> data) {
+  return ended_ ? OrEnded(Result::Success) : channel_.Write(data);
+}
+
+void PhoneLink::Sleep(std::uint32_t ms) {
+  const platform::Deadline deadline(clock_, ms);
+  // At least so long: a tick of the clock may have begun before this sleep.
+  for (std::uint32_t slept = 0; slept < ms;) {
+    if (MustEnd()) {
+      cutShort_ = cutShort_ || ended_;
+      return;
+    }
+    const std::uint32_t stepMs = std::min(ms - slept, kCancelPollMs);
+    clock_.SleepMs(stepMs);
+    const std::uint32_t elapsedMs = deadline.ElapsedMs();
+    slept = std::max(slept + stepMs, elapsedMs > 0 ? elapsedMs - 1 : 0);
+  }
+}
+
+Result PhoneLink::Read(std::span<std::uint8_t> into, std::uint32_t timeLimitMs, std::size_t& got) {
+  const platform::Deadline deadline(clock_, timeLimitMs);
+  got = 0;
+  for (;;) {
+    if (MustEnd()) return OrEnded(Result::NoData);
+    const Result result = channel_.Read(into, std::min(deadline.RemainingMs(), kCancelPollMs), got);
+    if (result != Result::NoData || deadline.Passed()) return result;
+  }
+}
 
 Answer PhoneLink::SendAndWait(FrameId request, FrameId awaited,
                               std::span<const std::uint8_t> payload, std::uint32_t timeoutMs) {
   return Answer(Order(), [&](Answer& answer) {
     const Result sent = SendFrame(request, payload);
-    return Succeeded(sent) ? Receive(answer, awaited, WithIncrement(timeoutMs)) : sent;
+    return Succeeded(sent)
+               ? Receive(answer, awaited, environment_.settings.WithIncrement(timeoutMs))
+               : sent;
   });
 }
 
@@ -127,7 +161,7 @@ Answer PhoneLink::WaitForAnswer(FrameId awaited, std::uint32_t timeoutMs) {
 }
 
 Answer PhoneLink::WaitForIncrement(FrameId awaited) {
-  return WaitForAnswer(awaited, WithIncrement(0));
+  return WaitForAnswer(awaited, environment_.settings.WithIncrement(0));
 }
 
 Frame PhoneLink::ReceiveFrame(std::uint32_t timeoutMs) {
@@ -141,16 +175,9 @@ Frame PhoneLink::ReceiveTyped(std::uint32_t timeoutMs) {
   });
 }
 
-// A settings file may take time away as well.
-std::uint32_t PhoneLink::WithIncrement(std::uint32_t timeoutMs) const {
-  const auto incrementMs = static_cast<std::int32_t>(settings_.receiveIncrementMs.load());
-  return static_cast<std::uint32_t>(
-      std::clamp<std::int64_t>(std::int64_t{timeoutMs} + incrementMs, 0, UINT32_MAX));
-}
-
 Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs) {
-  const platform::Deadline deadline(clock_, timeoutMs);
-  while (!deadline.Passed() && !channel_.Cancelled()) {
+  const Deadline deadline = StartDeadline(timeoutMs);
+  while (!deadline.Passed()) {
     if (!Succeeded(Receive(frame, deadline.RemainingMs())) || frame.bytes_ < kHeaderBytes) continue;
     if (frame.Id() == awaited) {
       LogReceived(frame.Bytes());
@@ -158,50 +185,47 @@ Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs
     }
     if (frame.Id() == FrameId{awaited.type, kRefusalSubtype}) return Result::Refused;
   }
-  return Result::NoAnswer;
+  return OrEnded(Result::NoAnswer);
 }
 
-Result PhoneLink::Receive(Frame& received, std::uint32_t timeoutMs) {
-  received.bytes_ = 0;
+Result PhoneLink::Receive(Frame& frame, std::uint32_t timeoutMs) {
+  frame.bytes_ = 0;
   platform::Deadline deadline(clock_, timeoutMs);
   bool extended = false;
   bool readFirst = ring_.Count() < kMinFrameBytes;
-  AnswerBuffer frame;
-  std::size_t frameBytes = 0;
   for (bool timeLeft = true; timeLeft;) {
     if (readFirst) {
       const std::uint32_t remainingMs = deadline.RemainingMs();
       if (remainingMs == 0) break;
       std::array<std::uint8_t, kReadBytes> chunk;
       std::size_t got = 0;
-      const Result read = channel_.Read(chunk, remainingMs, got);
+      const Result read = Read(chunk, remainingMs, got);
       if (!Succeeded(read)) return read;
       ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     }
     readFirst = true;
-    const FrameSearch::Outcome outcome = search_.Extract(frame);
-    frameBytes = outcome.frameBytes;
-    if (frameBytes > 0) break;
+    const FrameSearch::Outcome outcome =
+        search_.Extract([&](std::span<const std::uint8_t> encoded) {
+          frame.bytes_ = DecodeFrame(encoded, frame.storage_);
+        });
+    if (outcome.found) return frame.bytes_ == 0 ? Result::DecodeFailed : Result::Success;
     timeLeft = !deadline.Passed();
     if (!timeLeft && outcome.flagSeen && !extended) {
       deadline.ExtendFromNow(kStartedFrameExtensionMs);
       timeLeft = extended = true;
     }
   }
-  if (frameBytes == 0) return Result::NoFrame;
-  received.bytes_ =
-      DecodeFrame(std::span<const std::uint8_t>(frame).first(frameBytes), received.storage_);
-  return received.bytes_ == 0 ? Result::DecodeFailed : Result::Success;
+  return OrEnded(Result::NoFrame);
 }
 
 Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header,
                                     std::uint32_t timeoutMs) {
-  const auto pattern = StartFrame();
-  const platform::Deadline deadline(clock_, timeoutMs);
-  AnswerBuffer chunk;
-  while (!deadline.Passed() && !channel_.Cancelled()) {
+  const auto pattern = StartFrame(Order());
+  const Deadline deadline = StartDeadline(timeoutMs);
+  std::array<std::uint8_t, kMaxFrameBytes> chunk;
+  while (!deadline.Passed()) {
     std::size_t got = 0;
-    if (!Succeeded(channel_.Read(chunk, deadline.RemainingMs(), got))) continue;
+    if (!Succeeded(Read(chunk, deadline.RemainingMs(), got))) continue;
     ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     bool found = false;
     ring_.Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {
@@ -213,72 +237,31 @@ Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header
     ring_.Clear();
     return Result::Success;
   }
-  return Result::NoUsefulData;
-}
-
-Result PhoneLink::SendAndWait(FrameId request, FrameId awaited,
-                              std::span<const std::uint8_t> payload, std::span<std::uint8_t> answer,
-                              std::uint32_t* answerLength, std::uint32_t timeoutMs) {
-  if (answer.empty() || !answerLength) return Result::InvalidParam;
-  const Answer received = SendAndWait(request, awaited, payload, timeoutMs);
-  if (!received) return received.Why();
-  CopyCut(received.Payload(), answer);
-  *answerLength = static_cast<std::uint32_t>(received.Payload().size());
-  return Result::Success;
-}
-
-Result PhoneLink::WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer,
-                                std::uint32_t* answerLength, std::uint32_t timeoutMs) {
-  const Answer received = WaitForAnswer(awaited, timeoutMs);
-  if (!received) return received.Why();
-  CopyCut(received.Payload(), answer);
-  *answerLength = static_cast<std::uint32_t>(received.Payload().size());
-  return Result::Success;
-}
-
-Result PhoneLink::ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
-                               std::uint32_t timeoutMs) {
-  const Frame frame = ReceiveFrame(timeoutMs);
-  length = static_cast<std::uint32_t>(CopyCut(frame.Bytes(), output));
-  return frame.Bytes().size() > output.size() ? Result::BufferTooSmall : frame.Why();
-}
-
-Result PhoneLink::ReceiveTyped(FrameId& id, std::span<std::uint8_t> output, std::uint32_t& length,
-                               std::uint32_t timeoutMs) {
-  const Result result = ReceiveFrame(output, length, timeoutMs);
-  if (!Succeeded(result)) return result;
-  if (length < kHeaderBytes) return Result::NoAnswer;
-  id = IdOf(output);
-  return Result::Success;
+  return OrEnded(Result::NoUsefulData);
 }
 
 Result PhoneLink::ReceiveMulti(FrameId id, std::uint8_t* const* buffers, std::uint32_t maxCount,
                                std::uint32_t bufferBytes, std::uint32_t* count,
                                std::uint32_t* lengths, std::uint32_t timeoutMs) {
-  // The byte behind the first pointer is tested, so a zero-filled first buffer is refused.
+  // The first buffer's first byte is tested: a zero-filled one is refused.
   if (!buffers || !buffers[0] || buffers[0][0] == 0 || !count || !lengths) {
     return Result::InvalidParam;
   }
-  const platform::Deadline deadline(clock_, timeoutMs);
-  AnswerBuffer frame;
+  const Deadline deadline = StartDeadline(timeoutMs);
   std::uint32_t received = 0;
-  while (!deadline.Passed() && !channel_.Cancelled()) {
-    FrameId receivedId{};
-    std::uint32_t length = 0;
-    if (!Succeeded(ReceiveTyped(receivedId, frame, length, deadline.RemainingMs())) ||
-        receivedId != id) {
-      continue;
-    }
+  while (!deadline.Passed()) {
+    const Frame frame = ReceiveTyped(deadline.RemainingMs());
+    if (!frame || frame.Id() != id) continue;
     // Taken as established: index maxCount is still filled, so callers hold one entry more.
+    const auto length = static_cast<std::uint32_t>(frame.Bytes().size());
     if (received > maxCount || length > bufferBytes) return Result::BufferTooSmall;
-    const auto whole = std::span<const std::uint8_t>(frame).first(length);
-    CopyCut(whole, {buffers[received], bufferBytes});
+    CopyCut(frame.Bytes(), {buffers[received], bufferBytes});
     lengths[received] = length;
     ++received;
-    LogReceived(whole);
+    LogReceived(frame.Bytes());
   }
   *count = received;
-  return received < 1 ? Result::NoData : Result::Success;
+  return OrEnded(received < 1 ? Result::NoData : Result::Success);
 }
 
 void PhoneLink::LogLine(std::string_view text) {

@@ -1,11 +1,12 @@
 // One connection to one handset: the exchanges on which every command is built.
 #pragma once
 
-#include <array>
+#include <atomic>
 #include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "link/byte_order.h"
 #include "link/byte_ring.h"
@@ -13,24 +14,43 @@
 #include "link/frame.h"
 #include "link/frame_codec.h"
 #include "link/frame_search.h"
+#include "link/link_environment.h"
 #include "link/port_log.h"
 #include "link/result.h"
-#include "link/settings.h"
 #include "platform/clock.h"
+#include "platform/event.h"
 
 namespace merovane {
 
-// Large enough for any frame's payload.
-using AnswerBuffer = std::array<std::uint8_t, kMaxFrameBytes>;
-
+// For one thread at a time, but for what says otherwise.
 class PhoneLink {
  public:
-  explicit PhoneLink(LinkSettings& settings, platform::Clock& clock = platform::SystemClock(),
+  explicit PhoneLink(LinkEnvironment& environment, platform::Clock& clock = platform::SystemClock(),
                      ChannelLibrary library = {});
 
   Result Open(std::int32_t port, std::int32_t baudRate);
   Result Close();
   bool IsOpen() const { return channel_.IsOpen(); }
+
+  // For good: whatever waits on this link returns at once, and so does all that is begun
+  // afterwards, with 1. For any thread; the link is closed as always.
+  void End() { ended_ = true; }
+  // Whether something was cut short, or not begun, because of that.
+  bool WasCutShort() const { return cutShort_; }
+
+  // While one of these stands, waits end at once when its event is set.
+  class CancelScope {
+   public:
+    CancelScope(PhoneLink& link, const platform::Event& cancel) : link_(link) {
+      link_.cancel_ = &cancel;
+    }
+    ~CancelScope() { link_.cancel_ = nullptr; }
+    CancelScope(const CancelScope&) = delete;
+    CancelScope& operator=(const CancelScope&) = delete;
+
+   private:
+    PhoneLink& link_;
+  };
 
   // Frames the payload and writes it. What arrived before is dropped first, so that an answer is
   // looked for only in bytes that came after its request.
@@ -67,55 +87,68 @@ class PhoneLink {
                       std::uint32_t bufferBytes, std::uint32_t* count, std::uint32_t* lengths,
                       std::uint32_t timeoutMs);
 
-  // Goes into the sequence field of the next frame only.
+  // Goes into the sequence field of the next frame only. For any thread.
   void SetNextSequence(std::uint32_t value) { nextSequence_ = value; }
 
   // The handset's, for fields of payloads.
-  ByteOrder Order() const { return CurrentByteOrder(); }
-  void Sleep(std::uint32_t ms) { clock_.SleepMs(ms); }
-  platform::Deadline StartDeadline(std::uint32_t limitMs) const { return {clock_, limitMs}; }
+  ByteOrder Order() const { return environment_.settings.Order(); }
+
+  // Ends at once when waits are to end.
+  void Sleep(std::uint32_t ms);
+  // A limit that has passed, too, when waits are to end.
+  class Deadline {
+   public:
+    bool Passed() const { return link_.MustEnd() || limit_.Passed(); }
+    std::uint32_t RemainingMs() const { return link_.MustEnd() ? 0 : limit_.RemainingMs(); }
+    void ExtendFromNow(std::uint32_t extraMs) { limit_.ExtendFromNow(extraMs); }
+
+   private:
+    friend class PhoneLink;
+    Deadline(const PhoneLink& link, std::uint32_t limitMs)
+        : link_(link), limit_(link.clock_, limitMs) {}
+    const PhoneLink& link_;
+    platform::Deadline limit_;
+  };
+  Deadline StartDeadline(std::uint32_t limitMs) const { return {*this, limitMs}; }
 
   // Results are reported under this id from now on.
-  void BeginOperation(std::uint32_t id) { settings_.errors.BeginOperation(id); }
+  void BeginOperation(std::uint32_t id) { environment_.errors.BeginOperation(id); }
 
-  // True once after the handset reported an assert.
+  // True once after the handset reported an assert. For any thread.
   bool IsAssert() { return channel_.TakeAssert(); }
-
-  // What follows until LogLine goes when nothing uses it any more: link insides, and exchanges that
-  // copy what they receive to a caller's buffer.
-  Result SendAndWait(FrameId request, FrameId awaited, std::span<const std::uint8_t> payload,
-                     std::span<std::uint8_t> answer, std::uint32_t* answerLength,
-                     std::uint32_t timeoutMs);
-  Result WaitForAnswer(FrameId awaited, std::span<std::uint8_t> answer, std::uint32_t* answerLength,
-                       std::uint32_t timeoutMs);
-  Result ReceiveFrame(std::span<std::uint8_t> output, std::uint32_t& length,
-                      std::uint32_t timeoutMs);
-  Result ReceiveTyped(FrameId& id, std::span<std::uint8_t> output, std::uint32_t& length,
-                      std::uint32_t timeoutMs);
-  ChannelPort& Channel() { return channel_; }
-  // Bytes received and not yet taken as frames.
-  ByteRing& FrameRing() { return ring_; }
-  LinkSettings& Settings() { return settings_; }
-  platform::Clock& Clock() { return clock_; }
 
   // The Useful log, silent when it is off.
   void LogLine(std::string_view text);
   void LogResult(Result result);
-  void LogReceived(std::span<const std::uint8_t> decodedFrame);
 
  private:
+  bool MustEnd() const {
+    const platform::Event* const cancel = cancel_;
+    return ended_ || (cancel && cancel->IsSet());
+  }
+  // The result, unless the link has ended.
+  Result OrEnded(Result result);
+  Result Read(std::span<std::uint8_t> into, std::uint32_t timeLimitMs, std::size_t& got);
   Result Receive(Frame& frame, std::uint32_t timeoutMs);
   Result Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs);
-  std::uint32_t WithIncrement(std::uint32_t timeoutMs) const;
-  PortLog* UsefulLog() const { return settings_.usefulLog ? usefulLog_.get() : nullptr; }
+  void LogReceived(std::span<const std::uint8_t> decodedFrame);
+  PortLog* UsefulLog() const {
+    return environment_.settings.usefulLog ? usefulLog_.get() : nullptr;
+  }
 
-  LinkSettings& settings_;
+  LinkEnvironment& environment_;
   platform::Clock& clock_;
   ChannelPort channel_;
+  // Bytes received and not yet taken as frames.
   ByteRing ring_;
   FrameSearch search_{ring_};
   std::unique_ptr<PortLog> usefulLog_;
-  std::uint32_t nextSequence_ = 0;
+  std::atomic<std::uint32_t> nextSequence_{0};
+  // Where requests are framed; kept, to spare allocations.
+  std::vector<std::uint8_t> sendBuffer_;
+  std::atomic<bool> ended_{false};
+  bool cutShort_ = false;
+  std::atomic<const platform::Event*> cancel_{nullptr};
 };
 
 }  // namespace merovane

@@ -1,50 +1,43 @@
 #include "link/settings.h"
 
+#include <algorithm>
 #include <utility>
 
-#include "link/byte_order.h"
 #include "platform/profile_file.h"
 
 namespace merovane {
 
-LinkSettings::LinkSettings(const std::filesystem::path& directory) {
-  const auto file = platform::ProfileFile::Load(directory / "Merovane.ini");
+LinkSettings::LinkSettings(const std::filesystem::path& directory)
+    : file_(directory / "Merovane.ini") {
+  const auto file = platform::ProfileFile::Load(file_);
   receiveIncrementMs = file.Integer("Inc Recv Timeout", "Timeout", 0);
   usefulLog = file.Integer("Record Comm Log", "Record Useful Log", 0) != 0;
   allLog = file.Integer("Record Comm Log", "Record All Log", 0) != 0;
-  SetBigEndian(file.Integer("Endian Control", "Big Endian", 1) != 0);
-  serialNumberMagic = file.Text("WRITESN_DEFAULT_MAGIC", "MAGIC_NUMBER", "QV05");
-  serverPort_ = file.Integer("Socket", "Port", 36667);
-  if (file.Integer("Socket", "Connect ChannelServer", 0) != 0) UseChannelServer(true);
+  SetOrder(file.Integer("Endian Control", "Big Endian", 1) != 0 ? ByteOrder::Big()
+                                                                : ByteOrder::Little());
+  connectServer = file.Integer("Socket", "Connect ChannelServer", 0) != 0;
+  serverPort = file.Integer("Socket", "Port", 36667);
 }
 
-LinkSettings::~LinkSettings() = default;
+std::uint32_t LinkSettings::WithIncrement(std::uint32_t timeoutMs) const {
+  const auto incrementMs = static_cast<std::int32_t>(receiveIncrementMs.load());
+  return static_cast<std::uint32_t>(
+      std::clamp<std::int64_t>(std::int64_t{timeoutMs} + incrementMs, 0, UINT32_MAX));
+}
 
 void LinkSettings::SaveReceivedData(bool on, std::filesystem::path path) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   receivedDataPath_ = std::move(path);
   saveReceivedData_ = on;
 }
 
 std::filesystem::path LinkSettings::ReceivedDataPath() const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return receivedDataPath_;
 }
 
-void LinkSettings::UseChannelServer(bool on) {
-  const std::lock_guard lock(mutex_);
-  if (!on) {
-    if (server_) server_->Disconnect();
-    server_.reset();
-  } else if (!server_) {
-    server_ = ChannelServer::Connect(serverPort_);
-  }
-  serverConnected_ = server_ != nullptr;
-}
-
-std::shared_ptr<ChannelServer> LinkSettings::Server() const {
-  const std::lock_guard lock(mutex_);
-  return server_;
+std::string LinkSettings::SerialNumberMagic() const {
+  return platform::ProfileFile::Load(file_).Text("WRITESN_DEFAULT_MAGIC", "MAGIC_NUMBER", "QV05");
 }
 
 }  // namespace merovane

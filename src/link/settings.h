@@ -1,24 +1,20 @@
-// The process-wide settings: what the settings file says, and what is switched while running.
+// What a station sets: the values of its settings file, and what it switches while running.
 #pragma once
 
 #include <atomic>
 #include <cstdint>
 #include <filesystem>
-#include <memory>
-#include <mutex>
 #include <string>
 
-#include "link/channel_server.h"
-#include "link/error_reporter.h"
+#include "link/byte_order.h"
+#include "platform/mutex.h"
 
 namespace merovane {
 
 class LinkSettings {
  public:
-  // Reads "Merovane.ini" in `directory` and, when it says so, connects to the channel
-  // server. A missing file or key leaves the default; a connection that fails is silent.
+  // Reads "Merovane.ini" in `directory`. A missing file or key leaves the default.
   explicit LinkSettings(const std::filesystem::path& directory);
-  ~LinkSettings();
 
   // 1: ports opened from now on receive through a thread of their own.
   std::atomic<std::uint32_t> receiveMode{0};
@@ -26,31 +22,31 @@ class LinkSettings {
   std::atomic<std::uint32_t> receiveIncrementMs{0};
   std::atomic<bool> usefulLog{false};
   std::atomic<bool> allLog{false};
-  // The serial-number layout for handsets without one, as the file names it.
-  std::string serialNumberMagic;
+  // Whether the file asks for the channel server at once, and where it is.
+  bool connectServer = false;
+  std::uint32_t serverPort = 0;
 
-  ErrorReporter errors;
+  // What a wait of `timeoutMs` is with the increment; never less than 0 nor more than fits.
+  std::uint32_t WithIncrement(std::uint32_t timeoutMs) const;
+
+  // The handsets'.
+  ByteOrder Order() const { return bigEndian_ ? ByteOrder::Big() : ByteOrder::Little(); }
+  void SetOrder(ByteOrder order) { bigEndian_ = order.IsBig(); }
 
   // Received data is appended to a file, by ports opened while this is on.
   void SaveReceivedData(bool on, std::filesystem::path path);
   bool SavesReceivedData() const { return saveReceivedData_; }
   std::filesystem::path ReceivedDataPath() const;
 
-  // Connects when it is not connected, or disconnects and lets the socket library go.
-  void UseChannelServer(bool on);
-  // The connected server, or null.
-  std::shared_ptr<ChannelServer> Server() const;
-  // Links receive through a thread of their own.
-  bool ReceivesThroughThread() const { return receiveMode == 1 || serverConnected_; }
-  bool ServerConnected() const { return serverConnected_; }
+  // The serial-number layout for handsets without one, as the file names it now.
+  std::string SerialNumberMagic() const;
 
  private:
-  std::uint32_t serverPort_ = 0;
+  const std::filesystem::path file_;
+  std::atomic<bool> bigEndian_{true};
   std::atomic<bool> saveReceivedData_{false};
-  std::atomic<bool> serverConnected_{false};
-  mutable std::mutex mutex_;
-  std::filesystem::path receivedDataPath_;
-  std::shared_ptr<ChannelServer> server_;
+  mutable platform::Mutex mutex_;
+  std::filesystem::path receivedDataPath_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 }  // namespace merovane

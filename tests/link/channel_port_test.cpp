@@ -15,7 +15,7 @@ struct ChannelPortTest : CommandFixture {
   }
   Result Exchange() {
     handset.Expect(1, 1).Answer(1, 1, "7E");
-    return phone.link.SendAndWaitSame({1, 1}, {}, 100);
+    return phone.link.SendAndWaitSame({1, 1}, {}, 100).Why();
   }
 };
 
@@ -58,7 +58,7 @@ TEST_F(ChannelPortTest, IsLoggedFromOpenToClose) {
                           "Error Code = 0 (SUCCESS)"));
   EXPECT_THAT(allLog.Take(), ElementsAre(OpenLine(), "--> 7E 00 00 00 00 00 08 01 01 7E",
                                          "<-- 7E 00 00 00 00 00 09 01 01 7D 5E 7E", "Close"));
-  // Appended to, behind a separator.
+  // Appended to, after a separator.
   ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
   const std::string separator = "\r\n" + std::string(60, '-');
   const std::string whole = usefulLog.Whole();
@@ -110,22 +110,43 @@ TEST_F(ChannelPortTest, WorksWithARecordingThatCannotBeWritten) {
   EXPECT_EQ(Exchange(), Result::Success);
 }
 
-TEST_F(ChannelPortTest, IsCancelledWithinItsRead) {
+TEST_F(ChannelPortTest, LetsWaitsEndWhileAScopeSaysSo) {
   ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
   platform::Event cancel;
-  cancel.Set();
-  phone.link.Channel().SetCancel(&cancel);
-  std::uint8_t byte = 0;
-  std::size_t got = 0;
   const std::uint32_t start = clock.NowMs();
-  EXPECT_EQ(phone.link.Channel().Read({&byte, 1}, 100'000, got), Result::NoData);
+  {
+    const PhoneLink::CancelScope scope(phone.link, cancel);
+    handset.Say(1, 1, "41", 95);
+    EXPECT_TRUE(phone.link.ReceiveFrame(100));
+    cancel.Set();
+    EXPECT_EQ(phone.link.ReceiveFrame(100'000).Why(), Result::NoData);
+    EXPECT_EQ(phone.link.WaitForAnswer({1, 1}, 100'000).Why(), Result::NoAnswer);
+    phone.link.Sleep(100'000);
+    EXPECT_TRUE(phone.link.StartDeadline(100'000).Passed());
+    EXPECT_EQ(clock.NowMs() - start, 95u);
+    EXPECT_FALSE(phone.link.WasCutShort());
+  }
+  EXPECT_EQ(Exchange(), Result::Success);
+  phone.link.Sleep(205);
+  EXPECT_EQ(clock.NowMs() - start, 300u);
+}
+
+TEST_F(ChannelPortTest, GivesOneToWhateverIsAskedAfterItsEnd) {
+  ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
+  EXPECT_FALSE(phone.link.WasCutShort());
+  phone.link.End();
+  const std::uint32_t start = clock.NowMs();
+  EXPECT_EQ(phone.link.SendAndWaitSame({1, 1}, {}, 1000).Why(), Result::PortNotOpen);
+  EXPECT_EQ(phone.link.WaitForAnswer({1, 1}, 1000).Why(), Result::PortNotOpen);
+  EXPECT_EQ(phone.link.ReceiveFrame(1000).Why(), Result::PortNotOpen);
+  EXPECT_EQ(phone.link.WriteRaw(Hex("01")), Result::PortNotOpen);
+  std::array<std::uint8_t, kHeaderBytes> header;
+  EXPECT_EQ(phone.link.ReceiveStartFrame(header, 1000), Result::PortNotOpen);
+  phone.link.Sleep(1000);
   EXPECT_EQ(clock.NowMs(), start);
-  cancel.Reset();
-  handset.SayRaw("41", 95);
-  EXPECT_EQ(phone.link.Channel().Read({&byte, 1}, 100, got), Result::Success);
-  EXPECT_EQ(phone.link.Channel().Read({&byte, 1}, 100, got), Result::NoData);
-  EXPECT_EQ(clock.NowMs() - start, 195u);
-  phone.link.Channel().SetCancel(nullptr);
+  EXPECT_TRUE(phone.link.WasCutShort());
+  EXPECT_EQ(phone.link.Close(), Result::Success);
+  EXPECT_EQ(phone.link.Open(port, 9600), Result::PortNotOpen);
 }
 
 }  // namespace

@@ -1,3 +1,7 @@
+#include <mutex>
+#include <utility>
+
+#include "platform/message_queue.h"
 #include "support/command_fixture.h"
 #include "support/tcp_server.h"
 
@@ -11,23 +15,21 @@ struct ChannelServerTest : CommandFixture {
   void SetUp() override {
     directory.Write("Merovane.ini", "[Socket]\r\nConnect ChannelServer=1\r\nPort=" +
                                         std::to_string(server.Port()) + "\r\n");
-    served = std::make_unique<LinkSettings>(directory.Path());
-    ASSERT_NE(served->Server(), nullptr);
+    served = std::make_unique<LinkEnvironment>(directory.Path());
+    ASSERT_TRUE(served->server.IsConnected());
     server.Accept();
-    served->allLog = true;
+    served->settings.allLog = true;
     link = std::make_unique<PhoneLink>(*served, platform::SystemClock(), handset.Library());
     ASSERT_EQ(link->Open(port, 9600), Result::Success);
     static_cast<void>(allLog.Take());
   }
   void TearDown() override { link.reset(); }
-  Result Receive() { return link->ReceiveFrame(frame, length, kPatienceMs); }
+  Result Receive() { return link->ReceiveFrame(kPatienceMs).Why(); }
   static std::string Text(const Bytes& bytes) { return {bytes.begin(), bytes.end()}; }
 
   TcpServer server;
-  std::unique_ptr<LinkSettings> served;
+  std::unique_ptr<LinkEnvironment> served;
   std::unique_ptr<PhoneLink> link;
-  std::array<std::uint8_t, 9216> frame{};
-  std::uint32_t length = 0;
 };
 
 TEST_F(ChannelServerTest, SeesWhatTheHandsetSays) {
@@ -59,15 +61,14 @@ TEST_F(ChannelServerTest, LetsAnAssertBeSeenOnce) {
 }
 
 TEST_F(ChannelServerTest, IsLeftAndFoundAgainWhileRunning) {
-  served->UseChannelServer(false);
+  served->server.Use(false);
   EXPECT_EQ(server.Receive(1), "") << "the connection has ended";
-  EXPECT_EQ(served->Server(), nullptr);
   EXPECT_FALSE(served->ReceivesThroughThread());
   // The port goes on as it was opened.
   handset.Say(1, 1);
   EXPECT_EQ(Receive(), Result::Success);
   server.Vanish();
-  served->UseChannelServer(true);
+  served->server.Use(true);
   server.Accept();
   ASSERT_EQ(link->Close(), Result::Success);
   ASSERT_EQ(link->Open(port, 9600), Result::Success);
@@ -79,8 +80,111 @@ TEST_F(ChannelServerTest, MayVanish) {
   server.Vanish();
   for (int i = 0; i < 3; ++i) {
     handset.Expect(1, 1).Answer(1, 1);
-    EXPECT_EQ(link->SendAndWaitSame({1, 1}, {}, kPatienceMs), Result::Success);
+    EXPECT_TRUE(link->SendAndWaitSame({1, 1}, {}, kPatienceMs));
   }
+}
+
+// A server library that gives out one and the same object, and writes down what is asked of it.
+class OneServer final : private TollvaneServer {
+ public:
+  static TollvaneServer* Make(platform::Module&) { return current_; }
+
+  OneServer() { current_ = this; }
+  ~OneServer() { current_ = nullptr; }
+  OneServer(const OneServer&) = delete;
+  OneServer& operator=(const OneServer&) = delete;
+
+  void Post(const Bytes& data) const {
+    EXPECT_TRUE(platform::PostMessageToThread(thread_, message_,
+                                              reinterpret_cast<std::uintptr_t>(data.data()),
+                                              static_cast<std::intptr_t>(data.size())));
+  }
+  bool refuses = false;
+  std::vector<std::string> TakeCalls() {
+    const std::lock_guard lock(mutex_);
+    return std::exchange(calls_, {});
+  }
+
+ private:
+  std::int32_t Note(std::string call) {
+    const std::lock_guard lock(mutex_);
+    calls_.push_back(std::move(call));
+    return 1;
+  }
+  void Release() override { Note("release"); }
+  std::int32_t RegisterReceiver(std::uint32_t message, std::int32_t enabled,
+                                std::uint32_t thread) override {
+    message_ = message;
+    thread_ = thread;
+    return Note("receiver " + std::to_string(message) + " " + std::to_string(enabled));
+  }
+  std::int32_t Connect(const TollvaneConnectParameters* parameters) override {
+    Note("connect " + std::to_string(parameters->port));
+    return refuses ? -1 : 0;
+  }
+  std::int32_t Disconnect() override { return Note("disconnect"); }
+  std::int32_t Forward(const void*, std::uint32_t length) override {
+    return Note("forward " + std::to_string(length));
+  }
+
+  static inline OneServer* current_ = nullptr;
+  std::uint32_t message_ = 0;
+  std::uint32_t thread_ = 0;
+  std::mutex mutex_;
+  std::vector<std::string> calls_;
+};
+
+struct OneServerTest : CommandFixture {
+  void SetUp() override {}
+  void Open() { ASSERT_EQ(link.Open(port, 9600), Result::Success); }
+  std::vector<std::string> Calls() { return server.TakeCalls(); }
+
+  OneServer server;
+  LinkEnvironment shared{directory.Path(), OneServer::Make};
+  PhoneLink link{shared, platform::SystemClock(), ScriptedHandset::Library()};
+};
+
+using ::testing::ElementsAre;
+
+TEST_F(OneServerTest, IsReachedOnlyWhileItsConnectionStands) {
+  EXPECT_THAT(Calls(), ElementsAre());
+  shared.server.Use(true);
+  shared.server.Use(true);
+  Open();
+  EXPECT_THAT(Calls(), ElementsAre("connect 36667", "receiver 2025 1"));
+  handset.Say(1, 1);
+  EXPECT_TRUE(link.ReceiveFrame(kPatienceMs));
+  shared.server.Use(false);
+  EXPECT_THAT(Calls(), ElementsAre("forward 10", "disconnect", "release"));
+
+  // On again, with the same object: it is no business of a port that was opened before.
+  shared.server.Use(true);
+  const Bytes late = Hex("01 02 03");
+  server.Post(late);  // would be a write that no script expects
+  handset.Say(1, 1);
+  EXPECT_TRUE(link.ReceiveFrame(kPatienceMs));
+  EXPECT_EQ(link.Close(), Result::Success);
+  EXPECT_THAT(Calls(), ElementsAre("connect 36667"));
+  Open();
+  EXPECT_EQ(link.Close(), Result::Success);
+  EXPECT_THAT(Calls(), ElementsAre("receiver 2025 1")) << "the port's end takes nothing away";
+  shared.server.Use(false);
+  shared.server.Use(false);
+  EXPECT_THAT(Calls(), ElementsAre("disconnect", "release"));
+}
+
+TEST_F(OneServerTest, IsReleasedAtOnceWhenItDoesNotConnectAndAtTheEnd) {
+  server.refuses = true;
+  shared.server.Use(true);
+  EXPECT_FALSE(shared.server.IsConnected());
+  EXPECT_THAT(Calls(), ElementsAre("connect 36667", "release"));
+  server.refuses = false;
+  directory.Write("Merovane.ini", "[Socket]\r\nConnect ChannelServer=1\r\nPort=12\r\n");
+  {
+    const LinkEnvironment connected(directory.Path(), OneServer::Make);
+    EXPECT_TRUE(connected.ReceivesThroughThread());
+  }
+  EXPECT_THAT(Calls(), ElementsAre("connect 12", "release"));
 }
 
 }  // namespace

@@ -24,13 +24,13 @@ struct ReceiveThread : CommandFixture {
     static_cast<void>(allLog.Take());
   }
   Result Receive(std::uint32_t timeoutMs) {
-    return real.link.ReceiveFrame(frame, length, timeoutMs);
+    const Frame frame = real.link.ReceiveFrame(timeoutMs);
+    received = ToHex(frame.Bytes());
+    return frame.Why();
   }
-  std::string Frame() const { return ToHex(std::span(frame).first(length)); }
 
-  Phone real{settings, platform::SystemClock(), handset.Library()};
-  std::array<std::uint8_t, 9216> frame{};
-  std::uint32_t length = 0;
+  Phone real{environment, platform::SystemClock(), handset.Library()};
+  std::string received;
 };
 
 TEST_F(ReceiveThread, CarriesExchangesIntoTheLogsAndTheRecording) {
@@ -40,7 +40,7 @@ TEST_F(ReceiveThread, CarriesExchangesIntoTheLogsAndTheRecording) {
   static_cast<void>(Log());
   static_cast<void>(allLog.Take());
   handset.Expect(1, 1).Answer(1, 1, "41");
-  EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs), Result::Success);
+  EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs).Why(), Result::Success);
   EXPECT_THAT(Log(), ElementsAre("--> 7E 00 00 00 00 00 08 01 01 7E",
                                  "<-- 7E 00 00 00 00 00 09 01 01 41 7E"));
   // What the thread took is in the log by the time that the port is closed, at the latest.
@@ -60,29 +60,24 @@ TEST_F(ReceiveThread, DropsWhatItFetchedBeforeARequest) {
     handset.SayRaw(Joined(WireFrame(true, 5, 5, Bytes(60, 0)), WireFrame(true, 1, 1, Hex("01"))));
     ASSERT_EQ(Receive(kPatienceMs), Result::Success);
     handset.Expect(1, 1).Answer(1, 1, "02");
-    std::array<std::uint8_t, 8> answer{};
-    EXPECT_EQ(real.link.SendAndWait({1, 1}, {1, 1}, {}, answer, &length, kPatienceMs),
-              Result::Success);
-    EXPECT_EQ(answer[0], 2) << "receive mode " << modeMeanwhile;
+    EXPECT_EQ(ToHex(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs).Payload()), "02")
+        << "receive mode " << modeMeanwhile;
   }
 }
 
 TEST_F(ReceiveThread, DropsWhatItHadYetToFetchAtARequest) {
   for (int i = 0; i < 3000; ++i) handset.Say(1, 1, "01");
   handset.Expect(1, 1).Answer(1, 1, "02");
-  std::array<std::uint8_t, 8> answer{};
-  ASSERT_EQ(real.link.SendAndWait({1, 1}, {1, 1}, {}, answer, &length, kPatienceMs),
-            Result::Success);
-  EXPECT_EQ(answer[0], 2);
+  EXPECT_EQ(ToHex(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs).Payload()), "02");
 }
 
 TEST_F(ReceiveThread, GivesSixInSilence) {
   EXPECT_EQ(Receive(20), Result::NoData);
   handset.Expect(1, 1).Silent();
-  EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, 20), Result::NoAnswer);
+  EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, 20).Why(), Result::NoAnswer);
   handset.Say(1, 2, "0102");
   EXPECT_EQ(Receive(kPatienceMs), Result::Success);
-  EXPECT_EQ(Frame(), "00 00 00 00 00 0A 01 02 01 02");
+  EXPECT_EQ(received, "00 00 00 00 00 0A 01 02 01 02");
 }
 
 TEST_F(ReceiveThread, EndsWithItsPort) {
@@ -102,7 +97,7 @@ TEST_F(ReceiveThread, LeavesFloodsWithinTheRing) {
   Result result = Result::NoFrame;
   for (int tries = 0; tries < 100 && result != Result::Success; ++tries) result = Receive(200);
   EXPECT_EQ(result, Result::Success);
-  EXPECT_EQ(Frame(), "00 00 00 00 00 09 07 07 00");
+  EXPECT_EQ(received, "00 00 00 00 00 09 07 07 00");
 }
 
 TEST_F(ReceiveThread, GoesOnWhenTheDiskIsFull) {
@@ -118,7 +113,7 @@ TEST_F(ReceiveThread, GoesOnWhenTheDiskIsFull) {
     settings.receiveMode = mode;
     ASSERT_EQ(real.link.Open(port, 9600), Result::Success);
     handset.Expect(1, 1).Answer(1, 1);
-    EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs), Result::Success);
+    EXPECT_EQ(real.link.SendAndWaitSame({1, 1}, {}, kPatienceMs).Why(), Result::Success);
     EXPECT_EQ(real.link.Close(), Result::Success);
   }
   for (const auto& log : logs) EXPECT_TRUE(std::filesystem::is_symlink(log)) << log;

@@ -3,7 +3,6 @@
 #include <random>
 
 #include "brimwell/brimwell.h"
-#include "link/byte_order.h"
 
 namespace merovane::test {
 
@@ -14,10 +13,7 @@ std::int32_t TestPort() {
 
 CommandFixture::CommandFixture() { settings.usefulLog = true; }
 
-CommandFixture::~CommandFixture() {
-  phone.modeProcess.Stop();
-  static_cast<void>(phone.link.Close());
-}
+CommandFixture::~CommandFixture() { static_cast<void>(phone.link.Close()); }
 
 void CommandFixture::SetUp() {
   ASSERT_EQ(phone.link.Open(port, 115200), Result::Success);
@@ -25,7 +21,7 @@ void CommandFixture::SetUp() {
 }
 
 void CommandFixture::SetByteOrder(bool bigEndian) {
-  merovane::SetBigEndian(bigEndian);
+  settings.SetOrder(bigEndian ? ByteOrder::Big() : ByteOrder::Little());
   handset.SetBigEndian(bigEndian);
 }
 
@@ -39,7 +35,7 @@ void CommandFixture::InBothByteOrders(const std::function<void()>& body) {
 }
 
 std::uint32_t CommandFixture::OperationOf(Result result) {
-  settings.errors.Report(result);
+  environment.errors.Report(result);
   BRIMWELL_ERROR error{};
   EXPECT_EQ(Spec_GetLastError(BRIMWELL_MODULE_PHONE_COMMAND, &error), 1);
   EXPECT_EQ(error.code, static_cast<std::int32_t>(result));

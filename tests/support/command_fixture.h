@@ -45,11 +45,12 @@ class CommandFixture : public ::testing::Test {
   const std::int32_t port = TestPort();
   TempDirectory directory;
   FakeClock clock;
-  LinkSettings settings{directory.Path()};
+  LinkEnvironment environment{directory.Path()};
+  LinkSettings& settings = environment.settings;
   LogReader usefulLog{port, "UsefulLog"};
   LogReader allLog{port, "AllLog"};
   ScriptedHandset handset{clock};
-  std::shared_ptr<Phone> owner = std::make_shared<Phone>(settings, clock, handset.Library());
+  std::shared_ptr<Phone> owner = std::make_shared<Phone>(environment, clock, handset.Library());
   Phone& phone = *owner;
 };
 

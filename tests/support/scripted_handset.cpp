@@ -79,6 +79,8 @@ ChannelLibrary ScriptedHandset::Library() {
             EXPECT_EQ(kind, 0u);
             if (!current_ || current_->failCreate_) return 0;
             ++current_->channelsHeld_;
+            // A new channel posts to nobody.
+            current_->receiver_.reset();
             *channel = current_;
             return 1;
           },

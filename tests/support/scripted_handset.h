@@ -11,7 +11,7 @@
 #include <optional>
 #include <vector>
 
-#include "link/channel_port.h"
+#include "link/serial_channel.h"
 #include "support/bytes.h"
 #include "support/fake_clock.h"
 #include "wire/journal.h"

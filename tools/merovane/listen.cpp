@@ -30,8 +30,8 @@ void Show(FrameId id, std::span<const std::uint8_t> payload, std::ostream& out) 
 }  // namespace
 
 int Listen(const ListenOptions& options, std::ostream& out) {
-  LinkSettings settings(platform::ExecutableDirectory());
-  PhoneLink link(settings);
+  LinkEnvironment environment(platform::ExecutableDirectory());
+  PhoneLink link(environment);
   const std::string name = "port " + std::to_string(options.port);
   if (const Result opened = link.Open(options.port, options.baudRate); !Succeeded(opened)) {
     throw Trouble(name + ": " + std::string(ResultMeaning(opened)));

@@ -273,7 +273,7 @@ struct HandsetCommands : CommandFixture {
       for (const Row& row : Rows(handset.Message())) {
         SCOPED_TRACE(testing::Message() << row.logName << " " << int{row.request.type} << "/"
                                         << int{row.request.subtype});
-        settings.errors.BeginOperation(kOperationBefore);
+        environment.errors.BeginOperation(kOperationBefore);
         body(row);
       }
     });
@@ -355,10 +355,10 @@ TEST_F(HandsetCommands, FailUnloggedWithAWifiStatusAndLoggedWithOneOfTheDsp) {
 TEST_F(HandsetCommands, TakeNothingThatStandsAfterAnAnswer) {
   settings.usefulLog = false;
   ForEachRow([&](const Row& row) {
-    for (std::size_t length = 0; length < row.answer.payload.size(); ++length) {
-      SCOPED_TRACE(length);
+    for (std::size_t bytes = 0; bytes < row.answer.payload.size(); ++bytes) {
+      SCOPED_TRACE(bytes);
       const Bytes cut(row.answer.payload.begin(),
-                      row.answer.payload.begin() + static_cast<std::ptrdiff_t>(length));
+                      row.answer.payload.begin() + static_cast<std::ptrdiff_t>(bytes));
       Expect(row).Answer(row.request.type, row.answer.subtype, cut);
       SoilStack();
       const Outcome outcome = row.command.run(phone);
@@ -392,7 +392,7 @@ TEST_F(HandsetCommands, RefuseArgumentsUnderTheirOperation) {
                            Result expected = Result::InvalidParam) {
     EXPECT_EQ(result, expected) << operation;
     EXPECT_EQ(OperationOf(result), operation);
-    settings.errors.BeginOperation(kOperationBefore);
+    environment.errors.BeginOperation(kOperationBefore);
   };
   std::uint32_t zero = 0;
   refused(5, RecvPhoneStartData(phone, nullptr, 8, &n, 10));

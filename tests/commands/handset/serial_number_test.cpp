@@ -33,7 +33,7 @@ struct SerialNumber : CommandFixture {
   using ReadFunction = Result(Phone&, std::uint8_t*, std::uint32_t);
   using WriteFunction = Result(Phone&, const std::uint8_t*, std::uint32_t);
 
-  Bytes Checked(const Bytes& block) { return WithChecksum(phone.link.Order(), block); }
+  Bytes Checked(const Bytes& whole) { return WithChecksum(phone.link.Order(), whole); }
   Exchange& ExpectRead(unsigned bytes) {
     return handset.Expect(13, 2, handset.Message().U16(0).U16(bytes));
   }
@@ -145,12 +145,10 @@ TEST_F(SerialNumber, OfABlankHandsetMakesTheLayoutOfTheSetting) {
   const auto layoutFor = [&](std::string_view value) {
     directory.Write("Merovane.ini",
                     "[writesn_default_magic]\r\nMAGIC_NUMBER = " + std::string(value) + "\r\n");
-    LinkSettings other(directory.Path());
-    return Phone(other, clock, ScriptedHandset::Library()).newSerialNumberLayout;
+    return Phone(environment, clock, ScriptedHandset::Library()).newSerialNumberLayout;
   };
   EXPECT_EQ(layoutFor("qv09"), SerialNumberLayout::ProductionBlock);
   EXPECT_EQ(layoutFor("QV091"), SerialNumberLayout::FlashItem);
-  SetByteOrder(true);
 
   phone.newSerialNumberLayout = SerialNumberLayout::ProductionBlock;
   giveMagic();

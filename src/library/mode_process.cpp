@@ -1,16 +1,14 @@
-#include "commands/handset/mode_process.h"
+#include "library/mode_process.h"
 
-#include <algorithm>
 #include <atomic>
 #include <exception>
 
-#include "commands/operation.h"
-#include "commands/phone.h"
 #include "declared/phone_mode.h"
+#include "library/phone_object.h"
 #include "link/frame_codec.h"
 #include "platform/message_queue.h"
 
-namespace merovane {
+namespace merovane::library {
 namespace {
 
 constexpr std::uint32_t kStartDataAttemptMs = 1000;
@@ -43,11 +41,10 @@ std::uint8_t ResetCode(std::uint32_t rebootKind) {
 // One wait for a handset, on a thread of its own.
 class ModeProcess::Worker {
  public:
-  Worker(Phone& phone, const Request& request) : link_(phone.link), request_(request) {}
+  explicit Worker(const Request& request) : request_(request) {}
 
-  void Work(Phone& phone) {
+  void Work(PhoneObject& phone) {
     bool caught = false;
-    link_.Channel().SetCancel(&stop_);
     try {
       caught = request_.waitForPort ? WorkOnArrivingPort(phone) : WorkOnOpenLink(phone);
     } catch (const std::exception&) {
@@ -56,7 +53,6 @@ class ModeProcess::Worker {
     request_.monitor.reset();
     // A worker that was given up has no say any more.
     if (!givenUp_) {
-      link_.Channel().SetCancel(nullptr);
       caught_ = caught;
       if (caught) request_.event.Set();
     }
@@ -71,13 +67,12 @@ class ModeProcess::Worker {
   std::int32_t PortFound() const { return portFound_; }
 
  private:
-  bool WorkOnOpenLink(Phone& phone);
-  bool WorkOnArrivingPort(Phone& phone);
-  bool Open(std::int32_t port) {
-    return Succeeded(link_.Open(port, kArrivedPortBaudRate)) && !stop_.IsSet();
-  }
+  bool WorkOnOpenLink(PhoneObject& phone);
+  bool CatchOnOpenLink(PhoneObject& phone);
+  bool WorkOnArrivingPort(PhoneObject& phone);
+  bool Open(PhoneObject& phone);
+  std::optional<Result> SetMode(PhoneObject& phone);
 
-  PhoneLink& link_;
   Request request_;
   platform::Event stop_;
   std::atomic<bool> givenUp_{false};
@@ -86,27 +81,34 @@ class ModeProcess::Worker {
   std::atomic<std::int32_t> portFound_{0};
 };
 
-bool ModeProcess::Worker::WorkOnOpenLink(Phone& phone) {
+bool ModeProcess::Worker::WorkOnOpenLink(PhoneObject& phone) {
   const bool limited = request_.timeLimitMs != 0;
-  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
+  const auto deadline = phone.link.StartDeadline(request_.timeLimitMs);
   while (!stop_.IsSet() && !(limited && deadline.Passed())) {
-    const std::uint32_t attemptMs =
-        limited ? std::clamp(deadline.RemainingMs(), 1U, kStartDataAttemptMs) : kStartDataAttemptMs;
-    std::uint8_t header[kHeaderBytes];
-    std::uint32_t length = 0;
-    if (!Succeeded(commands::RecvPhoneStartData(phone, header, kHeaderBytes, &length, attemptMs))) {
-      continue;
-    }
-    // That the handset booted is what counts, not what it says to the mode.
-    static_cast<void>(commands::SetPhoneStartMode(phone, request_.mode));
-    return true;
+    // A turn each, so that commands of other threads come in between.
+    const Turn turn(phone.commandTurns);
+    if (!turn) return false;
+    if (CatchOnOpenLink(phone)) return true;
   }
   return false;
 }
 
-bool ModeProcess::Worker::WorkOnArrivingPort(Phone& phone) {
+bool ModeProcess::Worker::CatchOnOpenLink(PhoneObject& phone) {
+  const PhoneLink::CancelScope scope(phone.link, stop_);
+  std::uint8_t header[kHeaderBytes];
+  std::uint32_t length = 0;
+  if (!Succeeded(commands::RecvPhoneStartData(phone, header, kHeaderBytes, &length,
+                                              kStartDataAttemptMs))) {
+    return false;
+  }
+  // That the handset booted is what counts, not what it says to the mode.
+  static_cast<void>(commands::SetPhoneStartMode(phone, request_.mode));
+  return true;
+}
+
+bool ModeProcess::Worker::WorkOnArrivingPort(PhoneObject& phone) {
   const bool limited = request_.timeLimitMs != 0;
-  const platform::Deadline deadline(link_.Clock(), request_.timeLimitMs);
+  const auto deadline = phone.link.StartDeadline(request_.timeLimitMs);
   int arrivals = 0;
   for (;;) {
     if (stop_.WaitMs(1) || (limited && deadline.Passed())) return false;
@@ -117,31 +119,48 @@ bool ModeProcess::Worker::WorkOnArrivingPort(Phone& phone) {
     // The handset coming back after the mode change.
     if (++arrivals > 1) break;
 
-    if (!Open(port)) return false;
-    if (request_.reopenOnly) return true;
-    const Result mode = commands::SetPhoneStartMode(phone, request_.mode);
-    static_cast<void>(link_.Close());
-    if (!Succeeded(mode)) {
+    if (request_.reopenOnly) return Open(phone);
+    const std::optional<Result> mode = SetMode(phone);
+    if (!mode) return false;
+    if (!Succeeded(*mode)) {
       arrivals = 0;
     } else if (request_.mode == kModeWithoutSecondArrival) {
       static_cast<void>(stop_.WaitMs(100));
       break;
     }
   }
-  return !request_.expectedPort || Open(portFound_);
+  return !request_.expectedPort || Open(phone);
+}
+
+// Leaves the link open.
+bool ModeProcess::Worker::Open(PhoneObject& phone) {
+  const Turn turn(phone.commandTurns);
+  return turn && Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate)) && !stop_.IsSet();
+}
+
+// What the mode command gives on the port found; nothing when that cannot be opened.
+std::optional<Result> ModeProcess::Worker::SetMode(PhoneObject& phone) {
+  const Turn turn(phone.commandTurns);
+  if (!turn) return std::nullopt;
+  const PhoneLink::CancelScope scope(phone.link, stop_);
+  if (!Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate)) || stop_.IsSet())
+    return std::nullopt;
+  const Result mode = commands::SetPhoneStartMode(phone, request_.mode);
+  static_cast<void>(phone.link.Close());
+  return mode;
 }
 
 ModeProcess::~ModeProcess() { Stop(); }
 
-Result ModeProcess::Start(const std::shared_ptr<Phone>& phone, const Request& request) {
+Result ModeProcess::Start(const std::shared_ptr<PhoneObject>& phone, const Request& request) {
   if (request.event.IsNull()) return Result::InvalidParam;
+  // First: an older worker may still set the same event.
   Stop();
   request.event.Reset();
   return Begin(phone, request);
 }
 
-Result ModeProcess::Run(const std::shared_ptr<Phone>& phone, const Request& request) {
-  Stop();
+Result ModeProcess::Run(const std::shared_ptr<PhoneObject>& phone, const Request& request) {
   const Result started = Begin(phone, request);
   if (!Succeeded(started)) return started;
   const std::shared_ptr<Worker> worker = Current();
@@ -163,6 +182,17 @@ Result ModeProcess::Run(const std::shared_ptr<Phone>& phone, const Request& requ
 }
 
 void ModeProcess::Stop() {
+  const platform::MutexLock lock(control_);
+  StopWorker();
+}
+
+void ModeProcess::End() {
+  const platform::MutexLock lock(control_);
+  ended_ = true;
+  StopWorker();
+}
+
+void ModeProcess::StopWorker() {
   const std::shared_ptr<Worker> worker = Current();
   if (!worker) return;
   worker->Stop();
@@ -177,11 +207,11 @@ std::int32_t ModeProcess::PortFound() const {
 }
 
 std::shared_ptr<ModeProcess::Worker> ModeProcess::Current() const {
-  const std::lock_guard lock(currentMutex_);
+  const platform::MutexLock lock(currentMutex_);
   return current_;
 }
 
-Result ModeProcess::Begin(const std::shared_ptr<Phone>& phone, const Request& request) {
+Result ModeProcess::Begin(const std::shared_ptr<PhoneObject>& phone, const Request& request) {
   if (request.waitForPort) {
     if (!request.monitor) return Result::InvalidParam;
     request.monitor->Start();
@@ -189,11 +219,14 @@ Result ModeProcess::Begin(const std::shared_ptr<Phone>& phone, const Request& re
   return StartWorker(phone, request);
 }
 
-Result ModeProcess::StartWorker(const std::shared_ptr<Phone>& phone, const Request& request) {
+Result ModeProcess::StartWorker(const std::shared_ptr<PhoneObject>& phone, const Request& request) {
+  const platform::MutexLock lock(control_);
+  StopWorker();
+  if (ended_) return Result::PortNotOpen;
   phone->link.SetNextSequence(request.sequence);
-  const auto worker = std::make_shared<Worker>(*phone, request);
+  const auto worker = std::make_shared<Worker>(request);
   {
-    const std::lock_guard lock(currentMutex_);
+    const platform::MutexLock currentLock(currentMutex_);
     current_ = worker;
   }
   const bool started = thread_.Start([worker, owner = phone]() mutable {
@@ -204,28 +237,17 @@ Result ModeProcess::StartWorker(const std::shared_ptr<Phone>& phone, const Reque
   return started ? Result::Success : Result::EnterModeFailed;
 }
 
-Result ModeProcess::Reset(const std::shared_ptr<Phone>& phone, const Restart& restart) {
-  const commands::Operation operation(*phone, 183);
+Result ModeProcess::Reset(const std::shared_ptr<PhoneObject>& phone, const Restart& restart) {
+  phone->link.BeginOperation(183);
   if (restart.event.IsNull()) return Result::InvalidParam;
   Stop();
-  if (!restart.throughPort) {
-    const Result result = commands::RestartPhone(*phone, restart.timeLimitMs);
-    if (Succeeded(result)) restart.event.Set();
-    return result;
-  }
-  if (!restart.monitor) return Result::InvalidParam;
-  restart.event.Reset();
-  // Before the restart: the device may be back before its absence is noticed.
-  restart.monitor->Start();
-  std::uint32_t reachable = 0;
-  const Result result =
-      commands::UsbChangePhoneMode(*phone, ResetCode(restart.rebootKind), &reachable);
+  bool comesBack = false;
+  const Result result = RestartInTurn(*phone, restart, comesBack);
   if (!Succeeded(result)) return result;
-  if (reachable == 1) {
+  if (!comesBack) {
     restart.event.Set();
     return Result::Success;
   }
-  static_cast<void>(phone->link.Close());
   Request request;
   request.waitForPort = true;
   request.monitor = restart.monitor;
@@ -236,4 +258,21 @@ Result ModeProcess::Reset(const std::shared_ptr<Phone>& phone, const Restart& re
   return StartWorker(phone, request);
 }
 
-}  // namespace merovane
+// `comesBack`: the handset is to be found again on a port that arrives.
+Result ModeProcess::RestartInTurn(PhoneObject& phone, const Restart& restart, bool& comesBack) {
+  const Turn turn(phone.commandTurns);
+  if (!turn) return Result::PortNotOpen;
+  if (!restart.throughPort) return commands::RestartPhone(phone, restart.timeLimitMs);
+  if (!restart.monitor) return Result::InvalidParam;
+  restart.event.Reset();
+  // Before the restart: the device may be back before its absence is noticed.
+  restart.monitor->Start();
+  std::uint32_t reachable = 0;
+  const Result result =
+      commands::UsbChangePhoneMode(phone, ResetCode(restart.rebootKind), &reachable);
+  comesBack = Succeeded(result) && reachable != 1;
+  if (comesBack) static_cast<void>(phone.link.Close());
+  return result;
+}
+
+}  // namespace merovane::library

@@ -3,18 +3,19 @@
 
 #include <cstdint>
 #include <memory>
-#include <mutex>
 #include <optional>
 
 #include "link/result.h"
 #include "platform/device_monitor.h"
 #include "platform/event.h"
+#include "platform/mutex.h"
 #include "platform/thread.h"
 
-namespace merovane {
+namespace merovane::library {
 
-struct Phone;
+struct PhoneObject;
 
+// For any thread.
 class ModeProcess {
  public:
   struct Request {
@@ -34,14 +35,16 @@ class ModeProcess {
   ~ModeProcess();
 
   // Ends a worker that still runs and starts another, which shares `phone` (the owner of this
-  // object). Returns at once: 4 for a null event or without a monitor where one is needed, 16 when
-  // the system gives no thread.
-  Result Start(const std::shared_ptr<Phone>& phone, const Request& request);
+  // object) and takes its turn there for each attempt. Returns at once: 4 for a null event or
+  // without a monitor where one is needed, 16 when the system gives no thread.
+  Result Start(const std::shared_ptr<PhoneObject>& phone, const Request& request);
   // The same without a caller's event; returns when the worker has ended: 16 when it did not catch
   // the handset. Dispatches the calling thread's messages meanwhile.
-  Result Run(const std::shared_ptr<Phone>& phone, const Request& request);
+  Result Run(const std::shared_ptr<PhoneObject>& phone, const Request& request);
   // Ends the worker; one that does not end within 3300 ms is given up.
   void Stop();
+  // The same, and no other is started any more: starting one gives 1.
+  void End();
 
   // The port on which a device was found, 0 when none.
   std::int32_t PortFound() const;
@@ -55,19 +58,24 @@ class ModeProcess {
     std::optional<std::int32_t> expectedPort;
     std::shared_ptr<platform::DeviceMonitor> monitor;
   };
-  Result Reset(const std::shared_ptr<Phone>& phone, const Restart& restart);
+  Result Reset(const std::shared_ptr<PhoneObject>& phone, const Restart& restart);
 
  private:
   class Worker;
 
-  Result Begin(const std::shared_ptr<Phone>& phone, const Request& request);
-  Result StartWorker(const std::shared_ptr<Phone>& phone, const Request& request);
+  Result Begin(const std::shared_ptr<PhoneObject>& phone, const Request& request);
+  Result StartWorker(const std::shared_ptr<PhoneObject>& phone, const Request& request);
+  static Result RestartInTurn(PhoneObject& phone, const Restart& restart, bool& comesBack);
+  void StopWorker() MEROVANE_REQUIRES(control_);
   std::shared_ptr<Worker> Current() const;
 
-  platform::Thread thread_;
-  mutable std::mutex currentMutex_;
+  // Held while a worker is started or stopped.
+  platform::Mutex control_;
+  platform::Thread thread_ MEROVANE_GUARDED_BY(control_);
+  bool ended_ MEROVANE_GUARDED_BY(control_) = false;
+  mutable platform::Mutex currentMutex_;
   // Shared with its thread, so that one that was given up cannot disturb the next.
-  std::shared_ptr<Worker> current_;
+  std::shared_ptr<Worker> current_ MEROVANE_GUARDED_BY(currentMutex_);
 };
 
-}  // namespace merovane
+}  // namespace merovane::library
