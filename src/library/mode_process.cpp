@@ -4,6 +4,7 @@
 #include <exception>
 
 #include "declared/phone_mode.h"
+#include "declared/session.h"
 #include "library/phone_object.h"
 #include "link/frame_codec.h"
 #include "platform/message_queue.h"
@@ -238,7 +239,7 @@ Result ModeProcess::StartWorker(const std::shared_ptr<PhoneObject>& phone, const
 }
 
 Result ModeProcess::Reset(const std::shared_ptr<PhoneObject>& phone, const Restart& restart) {
-  phone->link.BeginOperation(183);
+  phone->link.BeginOperation(operation_id::kResetModeProcess);
   if (restart.event.IsNull()) return Result::InvalidParam;
   Stop();
   bool comesBack = false;

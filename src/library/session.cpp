@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 
+#include "declared/session.h"
 #include "library/export_frame.h"
 #include "platform/device_monitor.h"
 #include "platform/event.h"
@@ -39,7 +40,7 @@ std::int32_t Session(Export&& run) noexcept {
 
 std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
   Library& library = TheLibrary();
-  library.environment.errors.BeginOperation(1);
+  library.environment.errors.BeginOperation(operation_id::kBeginPhoneTest);
   return Session([&] {
     if (port < 1 || baudRate < 1) return Reported(Result::InvalidParam);
     const PhonePointer phone = MakePhone();
@@ -99,7 +100,7 @@ Result StartMode(const PhonePointer& phone, const ModeStart& start,
 std::int32_t EnterMode(const ModeStart& start) {
   Library& library = TheLibrary();
   const bool waits = start.waitForPort != 0;
-  library.environment.errors.BeginOperation(3);
+  library.environment.errors.BeginOperation(operation_id::kEnterModeProcess);
   const PhonePointer phone =
       waits ? library.registry.PortWaiting(MakePhone) : library.registry.Default();
   if (!phone) return ReportedUnreached(Result::PortNotOpen);
@@ -114,10 +115,10 @@ std::int32_t EnterMode(std::int32_t port, const ModeStart& start) {
   if (lookup == Result::InvalidParam) return ReportedUnreached(lookup);
   if (start.waitForPort == 0) {
     if (!phone) return ReportedUnreached(lookup);
-    library.environment.errors.BeginOperation(3);
+    library.environment.errors.BeginOperation(operation_id::kEnterModeProcess);
     return Reported(StartMode(phone, start, std::nullopt));
   }
-  library.environment.errors.BeginOperation(3);
+  library.environment.errors.BeginOperation(operation_id::kEnterModeProcess);
   if (start.event && start.event->IsNull()) return Reported(Result::InvalidParam);
   // A fresh object: the old one's link is of no use once its device goes.
   phone = MakePhone();
@@ -148,7 +149,7 @@ bool CloseAll(Library& library) {
 
 std::int32_t EndPhoneTest() {
   Library& library = TheLibrary();
-  library.environment.errors.BeginOperation(2);
+  library.environment.errors.BeginOperation(operation_id::kEndPhoneTest);
   return Reported(
       Guarded([&] { return CloseAll(library) ? Result::Success : Result::CannotCloseAllPorts; }));
 }
@@ -157,7 +158,7 @@ std::int32_t EndPhoneTest_MT(std::int32_t port) {
   Library& library = TheLibrary();
   Result lookup = Result::Success;
   if (!library.registry.Find(port, lookup)) return ReportedUnreached(lookup);
-  library.environment.errors.BeginOperation(2);
+  library.environment.errors.BeginOperation(operation_id::kEndPhoneTest);
   return Reported(Guarded([&] {
     if (const PhonePointer phone = library.registry.Remove(port)) static_cast<void>(Close(*phone));
     return Result::Success;
@@ -245,7 +246,7 @@ std::int32_t StopModeProcess() {
   const PhonePointer phone =
       registry.lastWaitedForPort ? registry.PortWaiting() : registry.Default();
   if (!phone) return ReportedUnreached(Result::PortNotOpen);
-  TheLibrary().environment.errors.BeginOperation(4);
+  TheLibrary().environment.errors.BeginOperation(operation_id::kStopModeProcess);
   phone->modeProcess.Stop();
   return Reported(Result::Success);
 }
@@ -254,7 +255,7 @@ std::int32_t StopModeProcess_MT(std::int32_t port) {
   Result lookup = Result::Success;
   const PhonePointer phone = TheLibrary().registry.Find(port, lookup);
   if (!phone) return ReportedUnreached(lookup);
-  TheLibrary().environment.errors.BeginOperation(4);
+  TheLibrary().environment.errors.BeginOperation(operation_id::kStopModeProcess);
   phone->modeProcess.Stop();
   return Reported(Result::Success);
 }
