@@ -63,7 +63,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest_MT(int32_t port, int32_t ba
 /** Stops mode processes and closes every port; there is no default phone object afterwards. A
  * command that still runs returns PC_ERR_PORT_NOT_OPEN at once. With nothing open it succeeds.
  * @retval PC_ERR_CANNOT_CLOSE_ALL_PORTS  a port did not close, or was not open, as after a stopped
- *   wait for one; the others are closed all the same
+ *   wait for one, or a command on it did not return within 3300 ms; the others are closed all the
+ *   same
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest(void);
 
