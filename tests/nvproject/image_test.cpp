@@ -58,7 +58,7 @@ TEST(Image, ItemOfNoLengthIsOverwritten) {
   EXPECT_THAT(Records({{.name = "a", .type = kChar, .length = 0, .content = "7", .id = 1},
                        {.name = "b", .type = kShort, .length = 2, .content = "8", .id = 2}}),
               ElementsAre(0, 2, 0, 2, 0, 8, 0, 0));
-  // At the end its header is behind the image.
+  // At the end its header is past the image.
   EXPECT_THAT(Records({{.name = "a", .type = kStruct, .id = 1}}), IsEmpty());
 }
 
@@ -178,7 +178,7 @@ TEST(ConvertBlock, ReversesValuesOfTheItemsInPlace) {
     return data;
   };
   EXPECT_THAT(converted("s.a", {1, 2, 3, 4, 5, 6, 7}), ElementsAre(4, 3, 2, 1, 6, 5, 7));
-  // "e" is at 8, behind a gap, so that it does not follow "c" at 6.
+  // "e" is at 8, after a gap, so that it does not follow "c" at 6.
   EXPECT_THAT(converted("s.c", {7, 8, 9, 10, 11}), ElementsAre(7, 8, 9, 10, 11));
   EXPECT_THAT(converted("s.e", {1, 2, 3, 4, 5}), ElementsAre(4, 3, 2, 1, 5));
   // A value that is not there whole stays as it is.

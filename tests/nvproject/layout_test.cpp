@@ -40,7 +40,7 @@ TEST(Layout, LaysArraysOutByTheirSize) {
   EXPECT_THAT(places[0], Pair(0, 32));
   for (std::uint32_t i = 0; i < 16; ++i) EXPECT_THAT(places[i + 1], Pair(2 * i, 2));
 
-  // The last element's length counts; one that is no scalar takes no room; what stands behind the
+  // The last element's length counts; one that is no scalar takes no room; what stands after the
   // size is no element.
   EXPECT_THAT(Places({{.name = "a", .type = kArray, .size = 4},
                       {.name = "a[0]", .type = kChar, .parent = 0, .length = 1},

@@ -88,7 +88,7 @@ TEST(Reader, ValueThatCannotBeReadLeavesTheFieldAsItWas) {
 }
 
 TEST(Reader, LongLinesAreReadInPieces) {
-  // The piece behind the first 259 characters is a line of its own, with a key of its own.
+  // The piece after the first 259 characters is a line of its own, with a key of its own.
   const std::string filler = "ITEM_NAME = " + std::string(300, 'n');
   const std::string key(259, '#');
   for (const char* const lineEnd : {"\n", "\r\n"}) {

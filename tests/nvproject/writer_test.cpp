@@ -72,7 +72,7 @@ TEST_F(Writer, SavedProjectReadsBackAndItsDescriptionsGrow) {
   ASSERT_EQ(again.Items().Size(), 3U);
   for (std::uint32_t i = 0; i < 3; ++i) {
     Item expected = parser.Items()[i];
-    // An empty description becomes what stands behind the "=".
+    // An empty description becomes what follows the "=".
     const std::string description = i == 0 ? "  two values\n" : " \n";
     expected.description = description;
     if (expected.type != ItemType::Array) expected.size = 0;

@@ -28,7 +28,7 @@ class ModuleBuilder {
   void AddString(std::string_view name, std::uint32_t length, std::string content);
 
   using ElementText = std::function<std::string(std::uint32_t index)>;
-  // `elementName` gives the whole names; `elementPath` what stands behind the array's path.
+  // `elementName` gives the whole names; `elementPath` what follows the array's path.
   void AddArray(std::string_view name, Type type, std::uint32_t count,
                 const ElementText& elementName, const ElementText& elementPath,
                 const ElementText& content);

@@ -67,7 +67,7 @@ Result body::GetFlashInfo(Operation& operation, QV_FLASH_INFO& info) {
   const std::uint32_t regions = answer.U32(8);
   // Alone among the failures of this command not logged.
   if (regions > kMaxFlashRegions) return Result::ParseFailed;
-  // What stands after the last region is the handset's own.
+  // What follows the last region is passed on as it arrived.
   operation.link.Order().SwapArray32(
       std::span(description).first(kFlashInfoHeadBytes + regions * kFlashRegionBytes));
   std::memcpy(&info, description.data(), description.size());
