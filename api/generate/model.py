@@ -33,7 +33,7 @@ class Argument:
     name: str
     type: str
     direction: str = "value"     # value, in, out, inout
-    extent: str = ""             # elements behind the pointer; empty for one
+    extent: str = ""             # elements that the pointer leads to; empty for one
     stored: str = ""             # the argument that tells how many elements were stored
     low: int | None = None
     high: int | None = None
@@ -116,7 +116,7 @@ class Declaration:
         return next((argument for argument in self.arguments if argument.name == name), None)
 
     def counts(self, argument):
-        """Whether the argument is only the number of elements behind another one's pointer."""
+        """Whether the argument is only the number of elements that another one's pointer leads to."""
         return argument.direction == "value" and any(other.extent == argument.name for other in self.arguments)
 
 

@@ -24,7 +24,8 @@
  * Two calls on one port run one after another, in the order in which they came. QV_EndPhoneTest and
  * QV_EndPhoneTest_MT do not wait for a command that runs: it returns PC_ERR_PORT_NOT_OPEN at once,
  * and so do those that wait for their turn. The operation id under which a result is reported is one
- * for the process: with several threads it may be another command's. */
+ * for the process: with several threads, or while a mode process runs, it may be that of another
+ * command. */
 #ifndef MEROVANE_MEROVANE_H
 #define MEROVANE_MEROVANE_H
 
@@ -39,9 +40,9 @@ extern "C" {
 
 /** Opens a port and makes its phone object the default one, on which the functions without _MT
  * work. A port that cannot be opened leaves its "Open" line and the result in the Useful log.
- * @param port  1 and up; n stands for COMn on Windows; elsewhere for the device that the
- *   environment variable CASSORIND_COMn names, or else for the n-th of /dev/ttyS0, /dev/ttyS1 and
- *   so on
+ * @param port  1 and up; n stands for the device or the socket://host:port that the environment
+ *   variable CASSORIND_COMn names; where that is empty or not set, for COMn on Windows, else for
+ *   the n-th of /dev/ttyS0, /dev/ttyS1 and so on
  * @param baud_rate  bits per second (1 and up)
  * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
@@ -50,7 +51,8 @@ extern "C" {
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest(int32_t port, int32_t baud_rate);
 
-/** Opens a port for the functions with _MT. The default phone object stays the one that it is.
+/** Opens a port for the functions with _MT. The default phone object stays the one that it is. A
+ * port that cannot be opened leaves its "Open" line and the result in the Useful log.
  * @param port  as in QV_BeginPhoneTest (1 and up)
  * @param baud_rate  bits per second (1 and up)
  * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
@@ -62,17 +64,18 @@ MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest_MT(int32_t port, int32_t ba
 
 /** Stops mode processes and closes every port; there is no default phone object afterwards. A
  * command that still runs returns PC_ERR_PORT_NOT_OPEN at once. With nothing open it succeeds.
- * @retval PC_ERR_CANNOT_CLOSE_ALL_PORTS  a port did not close, or was not open, as after a stopped
- *   wait for one, or a command on it did not return within 3300 ms; the others are closed all the
- *   same
+ * @retval PC_ERR_CANNOT_CLOSE_ALL_PORTS  a port was not open, as after a stopped wait for one; or a
+ *   call on it did not return within 3300 ms, and the port closes when it does. The others are
+ *   closed all the same
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest(void);
 
-/** Closes one port, whatever its device says to it. A command that still runs on it returns
- * PC_ERR_PORT_NOT_OPEN at once. When it is the port of the default phone object, there is none
- * afterwards, and the functions without _MT return PC_ERR_PORT_NOT_OPEN.
+/** Closes one port; that its device cannot be closed, or was not open, is no failure. A command
+ * that still runs on it returns PC_ERR_PORT_NOT_OPEN at once; a call that does not return within
+ * 3300 ms closes the port when it does. When it is the port of the default phone object, there is
+ * none afterwards, and the functions without _MT return PC_ERR_PORT_NOT_OPEN.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @retval PC_ERR_PORT_NOT_OPEN  it is not open
+ * @retval PC_ERR_PORT_NOT_OPEN  it has no phone object
  * @retval PC_ERR_INVALID_PARAM  `port` below 1
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest_MT(int32_t port);
@@ -81,11 +84,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EndPhoneTest_MT(int32_t port);
 
 /** Sets a property of the library. Values are as wide as a pointer. Other properties than the five
  * are ignored. The result is reported under the operation id of the command before.
- * - QV_PROPERTY_USEFUL_LOG: 0 silences the Useful logs of all ports; another value gives one to
- *   ports opened from then on.
+ * - QV_PROPERTY_USEFUL_LOG: 0 silences the Useful logs of all ports; another value lets them go on,
+ *   and gives one to ports opened from then on.
  * - QV_PROPERTY_SAVE_RECEIVED_DATA: as QV_SaveRecvData.
  * - QV_PROPERTY_CHANNEL_SERVER: 0 disconnects the channel server, also from ports that are open;
- *   another value connects it, for ports opened from then on.
+ *   another value connects it, for ports opened from then on, which receive as with
+ *   QV_RECEIVE_MODE_THREAD. What a handset sends goes to the server; what the server sends goes to
+ *   the handset as it stands, at most 9216 bytes of one message. A server that cannot be reached is
+ *   no failure.
  * - QV_PROPERTY_RECEIVE_MODE: as QV_SetRecvMode.
  * - QV_PROPERTY_BIG_ENDIAN: whether handsets are big-endian (not 0) or little-endian (0), for all
  *   ports at once.
@@ -109,8 +115,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetProperty(
 
 /** Chooses how ports that are opened from now on receive.
  * @param mode  a QV_RECEIVE_MODE; others count as QV_RECEIVE_MODE_CALLER. While it is
- *   QV_RECEIVE_MODE_THREAD, a command on any port leaves what its device has received before in
- *   place instead of purging it */
+ *   QV_RECEIVE_MODE_THREAD, or a channel server is connected, no command purges what its device has
+ *   received before, not even on a port that was opened without a thread */
 MEROVANE_API void MEROVANE_CALL QV_SetRecvMode(uint32_t mode);
 
 /** Appends all received bytes to a file, as they come and without marks, on ports that are opened
@@ -128,11 +134,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
 /* ---- Mode processes ------------------------------------------------------------------ */
 
 /** Waits, in the background, for a handset to boot and puts it into a mode. A mode process of the
- * same object that still runs is stopped first. The default object's handset is looked for on its
- * open port, in attempts of 1000 ms each, so that the last one may end up to that much after the
- * time limit; what it says to the mode does not count. A device arrives when the name of a port
- * comes to stand for a serial device. It is opened at 115200 baud, told the mode and closed; when
- * it comes back, the handset is caught. QV_GetUsbPort tells its port.
+ * same object that still runs is stopped first.
+ * - Without `wait_for_port` the start frame is looked for on the default object's open port, in
+ *   attempts of 1000 ms each, so that the last one may end up to that much after the time limit.
+ *   Then the mode is sent, whose answer does not matter: the handset is caught.
+ * - With `wait_for_port` the next serial device that arrives is opened at 115200 baud, told the
+ *   mode and closed; the handset is caught when its device comes back. QV_GetUsbPort tells its
+ *   port. A device arrives when the name of a port, 1 to 256, comes to stand for a device, or for
+ *   another one than before; a socket never arrives.
  * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
  *   arrives, with a phone object of its own
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
@@ -201,13 +210,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess(void);
 MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
 
 /** Restarts the default phone object's handset and sets an event once it can be talked to again.
- * Through its port, the handset's serial device may vanish: its port is then closed and, in the
- * background, opened at 115200 baud on the next device that arrives. A mode process of the phone
- * object is stopped first. The result is that of QV_RestartPhone or QV_UsbChangePhoneMode, which
- * restarts the handset, and is reported under its operation id.
+ * With `through_port` the handset may answer that its serial device vanishes: the port is then
+ * closed and, in the background, opened at 115200 baud on the next device that arrives, even when
+ * that comes back at once. A mode process of the phone object is stopped first. The result is that
+ * of QV_RestartPhone or QV_UsbChangePhoneMode, which restarts the handset, and is reported under
+ * its operation id.
  * @param through_port  not 0: through its port; 0: a plain restart, after whose answer the event is
  *   set
- * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
+ * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, as the handset numbers its restarts;
  *   others restart it plainly
  * @param event  set when done; reset at the start when `through_port` is not 0
  * @param time_limit_ms  milliseconds; through its port: of the wait for the device, 0 without end;
@@ -225,7 +235,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess(
  * @param port  the port (1 and up)
  * @param through_port  not 0: through its port; 0: a plain restart, after whose answer the event is
  *   set
- * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, whose meanings are the handset's;
+ * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, as the handset numbers its restarts;
  *   others restart it plainly
  * @param event  set when done; reset at the start when `through_port` is not 0
  * @param time_limit_ms  milliseconds; through its port: of the wait for the device, 0 without end;
@@ -279,14 +289,14 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RecvPhoneStartData_MT(
 
 /** Puts a handset that has sent its start frame into a mode. Waits 4000 ms for the acknowledgement;
  * the setting "Inc Recv Timeout" does not lengthen the wait.
- * @param mode  0 to 127, as the handset numbers its modes; mode + 128 is sent in 8 bits
+ * @param mode  0 to 127, as the handset numbers its modes; the low 8 bits of mode + 128 are sent
  * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED, PC_ERR_NO_ANSWER or
  *   PC_ERR_REFUSED */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode(uint32_t mode);
 
 /** QV_SetPhoneStartMode for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode  0 to 127, as the handset numbers its modes; mode + 128 is sent in 8 bits */
+ * @param mode  0 to 127, as the handset numbers its modes; the low 8 bits of mode + 128 are sent */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_MT(int32_t port, uint32_t mode);
 
 /** QV_RecvPhoneStartData, then QV_SetPhoneStartMode. The result is reported under the operation id
@@ -1435,8 +1445,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBTAddr_MT(
 
 /** Starts or stops a radio test. Waits 3000 ms to start, 1000 ms to stop.
  * @param start  0: stop
- * @param words  4 values, looked at only when `start` is not 0; the second is the channel, 0 to 78;
- *   the others are the handset's
+ * @param words  4 values, looked at only when `start` is not 0; words[1] is the channel, 0 to 78;
+ *   the others are sent as they are
  * @retval PC_ERR_INVALID_PARAM  `words` is null when `start` is not 0; a channel above 78
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1447,8 +1457,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest(
  * Waits 3000 ms to start, 1000 ms to stop.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param start  0: stop
- * @param words  4 values, looked at only when `start` is not 0; the second is the channel, 0 to 78;
- *   the others are the handset's */
+ * @param words  4 values, looked at only when `start` is not 0; words[1] is the channel, 0 to 78;
+ *   the others are sent as they are */
 MEROVANE_API int32_t MEROVANE_CALL QV_StartBtRadioTest_MT(
     int32_t port, uint32_t start, MEROVANE_IN_N_OPT(4) const uint32_t *words) MEROVANE_READS(3);
 
@@ -1512,7 +1522,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
 
 /* ---- WiFi as equipment under test ---------------------------------------------------- */
 
-/** Enters or leaves the WiFi test mode. Waits 3000 ms.
+/** Enters or leaves the WiFi test mode. Waits 3000 ms. Bytes of a status that did not arrive count
+ * as 0, here and in the other WiFi functions: an empty answer is a success, except where a function
+ * says otherwise.
  * @param enter  0: leave
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1572,7 +1584,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
 
 /** Switches the transmitter on or off. Waits 3000 ms.
  * @param enable  0: off
- * @param argument  the handset's
+ * @param argument  sent as it is
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1618,9 +1630,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetCrystalCap(
 
 /* ---- DSP debugging ------------------------------------------------------------------- */
 
-/** Resets the DSP's RF parameters. Waits 4000 ms. The DSP functions have no operation ids: results
- * are reported under the one of the command before. The result is reported under the operation id
- * of the command before.
+/** Resets the DSP's RF parameters. Waits 4000 ms. Bytes of a status that did not arrive count as 0,
+ * here and in the other DSP functions: an empty answer is a success. The result is reported under
+ * the operation id of the command before.
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -1657,11 +1669,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_DspDebug_WrRegMemo(
 
 /** Has the DSP plot a frame. Waits 4000 ms. The result is reported under the operation id of the
  * command before.
- * @param a  the handset's, as are the others
- * @param b  the handset's
- * @param c  the handset's
- * @param d  the handset's
- * @param e  the handset's
+ * @param a  sent as it is, as are the others, in the order d, e, a, b, c
+ * @param b  sent as it is
+ * @param c  sent as it is
+ * @param d  sent as it is
+ * @param e  sent as it is
  * @retval PC_ERR_DSP_DEBUG_FAILED  the handset reports a failure
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
  *   PC_ERR_NO_ANSWER or PC_ERR_REFUSED */
@@ -4125,10 +4137,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneAfcMode_MT(int32_t port, uint32_t 
 /** Sets the transmit parameters that go to the handset whenever its transmitter is switched.
  * Nothing is sent. A new phone object begins with zeros. For the default phone object only. The
  * result is reported under the operation id of the command before.
- * @param first  its meaning, and that of the others, is the handset's
- * @param second  sent after it
- * @param third  sent after it
- * @param fourth  sent after it
+ * @param first  sent as it is, as are the others, in this order
+ * @param second  sent as it is
+ * @param third  sent as it is
+ * @param fourth  sent as it is
  * @return 0 (PC_ERR_SUCCESS) or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTxParam(
     uint32_t first, uint16_t second, uint16_t third, uint16_t fourth);
@@ -4690,7 +4702,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
     int32_t port, uint32_t module, MEROVANE_IN_TEXT const char *path,
     MEROVANE_IN_TEXT const char *text);
 
-/** Builds the NV image: a time stamp, then every top-level item with its id, length and data.
+/** Builds the NV image: a time stamp, then every top-level item with its id, length and data. A
+ * number too wide for its item keeps its low bits; a STRING or NONE item takes no room.
  * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes
  * @retval PC_ERR_INVALID_PARAM  a null pointer
@@ -4701,8 +4714,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory(
     MEROVANE_OUT_N(65536) void *buffer,
     MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
-/** QV_GenerateNvBianryDataBlockInMemory for the port `port`, with the same results. Builds the NV
- * image: a time stamp, then every top-level item with its id, length and data.
+/** QV_GenerateNvBianryDataBlockInMemory for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes */
@@ -4710,9 +4722,11 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
     int32_t port, MEROVANE_OUT_N(65536) void *buffer,
     MEROVANE_OUT uint32_t *length) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
 
-/** Builds the NV image into the project's TARGET file. For the default phone object only.
- * @retval PC_ERR_SUCCESS  also when the file cannot be written, or the project names none: a
- *   message box tells
+/** Builds the NV image into the project's TARGET file. A read-only file is written, and stays
+ * read-only. For the default phone object only.
+ * @retval PC_ERR_SUCCESS  also when the file cannot be written, or the project names none: the old
+ *   file stays whole, and a message box says so, for whose OK the call waits on Windows; elsewhere
+ *   it is a line on standard error
  * @retval PC_ERR_BUFFER_TOO_SMALL  the image would pass 65,536 bytes: the file is left as it was
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4745,7 +4759,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
 
 /** Reverses the byte order of 16- and 32-bit values in a block, as the items from `path` on say.
  * Only values that lie without a gap between them are converted: convert each run between padding
- * by itself. A structure or array inside the run can count as a byte as well.
+ * by itself. A structure or array inside the run can count as a byte as well. A value that the end
+ * of the block cuts stays as it is.
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
  * @param data  converted in place (`length` bytes)

@@ -123,7 +123,7 @@ typedef struct QV_FIXED_NV_INFO {
   uint32_t write_second_address;
 } QV_FIXED_NV_INFO;
 
-/** What QV_GetFlashInfo reads, 384 bytes. What the words mean is the handset's. */
+/** What QV_GetFlashInfo reads, 384 bytes. What the words mean depends on the handset. */
 typedef struct QV_FLASH_INFO {
   uint32_t identifier[2];
   /** At most 31. The regions that it does not count are as they arrived. */
@@ -142,7 +142,7 @@ typedef struct QV_WIFI_FACTOR {
   uint32_t value;
 } QV_WIFI_FACTOR;
 
-/* ---- Radio calibration. Where no meaning of a value is given, it is the handset's. */
+/* ---- Radio calibration. What a value means depends on the handset where nothing is said of it. */
 
 /** The trim of a transmission, sent in the order 1, 2, 0, 3. For multi-chip handsets values[1] is
  * the channel, [2] the power control level, [0] the CAFC centre or CDAC, and [3] the CAFC. */
