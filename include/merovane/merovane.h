@@ -139,9 +139,10 @@ MEROVANE_API int32_t MEROVANE_CALL QV_IsPhoneAssert(void);
  *   attempts of 1000 ms each, so that the last one may end up to that much after the time limit.
  *   Then the mode is sent, whose answer does not matter: the handset is caught.
  * - With `wait_for_port` the next serial device that arrives is opened at 115200 baud, told the
- *   mode and closed; the handset is caught when its device comes back. QV_GetUsbPort tells its
- *   port. A device arrives when the name of a port, 1 to 256, comes to stand for a device, or for
- *   another one than before; a socket never arrives.
+ *   mode and closed; the handset is caught when its device comes back. A device that does not take
+ *   the mode is let go and the next one awaited; one that cannot be opened ends the process.
+ *   QV_GetUsbPort tells the port. A device arrives when the name of a port, 1 to 256, comes to
+ *   stand for a device, or for another one than before; a socket never arrives.
  * @param wait_for_port  0: on the default object's port; not 0: on the next serial device that
  *   arrives, with a phone object of its own
  * @param mode  start mode, as in QV_SetPhoneStartMode. After mode 10 a device need not come back
@@ -196,7 +197,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_EnterModeProcessEx_MT(
 
 /** Stops the mode process that QV_EnterModeProcess or QV_EnterModeProcessEx began last, or that
  * QV_ResetModeProcess began on the same phone object. It ends the wait that the process is in, as a
- * rule within some 10 ms; one that has not ended after 3300 ms is given up: it neither sets its
+ * rule within some 20 ms; one that has not ended after 3300 ms is given up: it neither sets its
  * event nor disturbs the next one. With none running it succeeds.
  * @retval PC_ERR_PORT_NOT_OPEN  there is no phone object that could run one
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -212,9 +213,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_StopModeProcess_MT(int32_t port);
 /** Restarts the default phone object's handset and sets an event once it can be talked to again.
  * With `through_port` the handset may answer that its serial device vanishes: the port is then
  * closed and, in the background, opened at 115200 baud on the next device that arrives, even when
- * that comes back at once. A mode process of the phone object is stopped first. The result is that
- * of QV_RestartPhone or QV_UsbChangePhoneMode, which restarts the handset, and is reported under
- * its operation id.
+ * that comes back at once; when it cannot be opened, the event is never set. A mode process of the
+ * phone object is stopped first. The result is that of QV_RestartPhone or QV_UsbChangePhoneMode,
+ * which restarts the handset, and is reported under its operation id.
  * @param through_port  not 0: through its port; 0: a plain restart, after whose answer the event is
  *   set
  * @param reboot_kind  through its port: 1, 5, 6, 7, 8 or 9, as the handset numbers its restarts;
@@ -4538,9 +4539,9 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
-/** Chooses what QV_PwrStepFactorSet_TD tells the handset of continuous transmission and reception.
- * Nothing is sent. A new phone object begins with 0. The result is reported under the operation id
- * of the command before.
+/** Chooses what QV_PwrStepFactorSet_TD tells the handset about continuous transmission and
+ * reception. Nothing is sent. A new phone object begins with 0. The result is reported under the
+ * operation id of the command before.
  * @param mode  not 0: continuous; 0: not
  * @return 0 (PC_ERR_SUCCESS) or PC_ERR_PORT_NOT_OPEN */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetTDContTxRxMode(uint32_t mode);
@@ -4573,7 +4574,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadMode_TD_MT(
 
 /** Puts a booting handset into a TD-SCDMA start mode and takes the next frame as its
  * acknowledgement. Waits 3000 ms, to which "Inc Recv Timeout" is not added.
- * @param mode  128 is added, and the sum is sent in 8 bits
+ * @param mode  the low 8 bits of mode + 128 are sent
  * @retval PC_ERR_NO_DATA  nothing came
  * @retval PC_ERR_DECODE_FAILED  what came does not decode
  * @retval PC_ERR_NO_FRAME  no whole frame came
@@ -4583,7 +4584,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD(uint32_t mode);
 
 /** QV_SetPhoneStartMode_TD for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
- * @param mode  128 is added, and the sum is sent in 8 bits */
+ * @param mode  the low 8 bits of mode + 128 are sent */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetPhoneStartMode_TD_MT(int32_t port, uint32_t mode);
 
 /** Reads calibration parameters. Waits 1000 ms.

@@ -16,7 +16,7 @@ typedef enum QV_RESULT {
   /** The channel did not take all bytes; the device may be unplugged. */
   PC_ERR_WRITE_DATA_FAIL = 3,
   PC_ERR_WRITE_FAILED = 3,
-  /** An argument is null or out of range; nothing was sent. */
+  /** An argument is null or out of range; nothing was sent, unless the function says otherwise. */
   PC_ERR_INVALID_PARAM = 4,
   /** The data does not fit into the buffer: it was cut, or left out where the function says so. */
   PC_ERR_IMPORT_BUFFER_SIZE_IS_TOO_SMALL = 5,
@@ -39,7 +39,7 @@ typedef enum QV_RESULT {
   /** The awaited answer did not arrive in time; other frames do not count. */
   PC_ERR_REC_CMD_TYPE_OR_SUB_TYPE_ERR = 11,
   PC_ERR_NO_ANSWER = 11,
-  /** At least one port did not close. */
+  /** At least one port did not close, or was not open. */
   PC_ERR_CAN_NOT_CLOSE_ALL_PORT = 12,
   PC_ERR_CANNOT_CLOSE_ALL_PORTS = 12,
   /** The answer has no data, or less or other data than was asked for. */
@@ -102,7 +102,7 @@ typedef enum QV_RESULT {
   /** The handset reports an RSSI of 0. */
   PC_ERR_INVALID_RSSI_VALUE = 32,
   PC_ERR_INVALID_RSSI = 32,
-  /** The handset reports that the non-signalling command failed, or answers too briefly. */
+  /** The handset reports that the non-signalling command failed, or its answer is too short. */
   PC_ERR_SEND_NONSIGNAL_CMD_FAIL = 33,
   PC_ERR_NON_SIGNAL_FAILED = 33,
   /** The block's checksum does not match. */
