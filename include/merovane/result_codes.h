@@ -8,7 +8,7 @@
 typedef enum QV_RESULT {
   /** Done. */
   PC_ERR_SUCCESS = 0,
-  /** The port is not open: it was never opened, or has been closed, perhaps while the command ran. */
+  /** The port is not open: it was never opened, or has been closed, perhaps during the command. */
   PC_ERR_PORT_IS_NOT_OPEN = 1,
   PC_ERR_PORT_NOT_OPEN = 1,
   /** The port cannot be opened: the system or the channel library refuses, or memory is short. */

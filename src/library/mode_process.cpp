@@ -52,7 +52,7 @@ class ModeProcess::Worker {
       // Out of memory: nothing was caught.
     }
     request_.monitor.reset();
-    // A worker that was given up has no say any more.
+    // A worker that was given up changes nothing any more.
     if (!givenUp_) {
       caught_ = caught;
       if (caught) request_.event.Set();

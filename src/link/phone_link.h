@@ -76,7 +76,7 @@ class PhoneLink {
   // The same; 11 for a frame shorter than a header.
   Frame ReceiveTyped(std::uint32_t timeoutMs);
   // The header of the frame that a handset sends while it boots; 31 when none came. It is looked
-  // for in the bytes as they arrive, so that one in the other byte order is none.
+  // for in the bytes as they arrive, so that one in the other byte order does not count.
   Result ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header, std::uint32_t timeoutMs);
 
   // Collects, until the time is up, every frame of the type and subtype, whole and header included,
@@ -95,7 +95,7 @@ class PhoneLink {
 
   // Ends at once when waits are to end.
   void Sleep(std::uint32_t ms);
-  // A limit that has passed, too, when waits are to end.
+  // A time limit, which has also passed as soon as waits are to end.
   class Deadline {
    public:
     bool Passed() const { return link_.MustEnd() || limit_.Passed(); }

@@ -98,8 +98,8 @@ Result WriteSerialNumber(Operation& operation, SerialNumberField field,
                       : inBlock ? SerialNumberLayout::ProductionBlock
                                 : phone.newSerialNumberLayout;
 
-  // One frame carries the whole of the layout, so that the handset holds the old one until it has
-  // the new one in its hands.
+  // One frame carries the whole of the layout, so that the handset keeps the old one until it has
+  // the whole of the new one.
   if (layout == SerialNumberLayout::FlashItem) {
     std::array<std::uint8_t, kItemBytes> item{};
     const Result read = inItem ? ReadWholeItem(phone, item, kReadWholeItemMs) : Result::Success;
