@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 namespace merovane {
@@ -16,12 +15,6 @@ constexpr std::uint32_t kCancelPollMs = 20;
 // What a frame whose start arrived just before the limit gets to finish.
 constexpr std::uint32_t kStartedFrameExtensionMs = 500;
 constexpr std::uint8_t kRefusalSubtype = 2;
-
-std::size_t CopyCut(std::span<const std::uint8_t> from, std::span<std::uint8_t> to) {
-  const std::size_t count = std::min(from.size(), to.size());
-  if (count > 0) std::memcpy(to.data(), from.data(), count);
-  return count;
-}
 
 // What a handset sends while it boots: a whole frame without payload.
 std::array<std::uint8_t, kMinFrameBytes> StartFrame(ByteOrder order) {
@@ -255,7 +248,7 @@ Result PhoneLink::ReceiveMulti(FrameId id, std::uint8_t* const* buffers, std::ui
     // Taken as established: index maxCount is still filled, so callers hold one entry more.
     const auto length = static_cast<std::uint32_t>(frame.Bytes().size());
     if (received > maxCount || length > bufferBytes) return Result::BufferTooSmall;
-    CopyCut(frame.Bytes(), {buffers[received], bufferBytes});
+    std::ranges::copy(frame.Bytes(), buffers[received]);
     lengths[received] = length;
     ++received;
     LogReceived(frame.Bytes());
@@ -275,13 +268,12 @@ void PhoneLink::LogResult(Result result) {
 void PhoneLink::LogReceived(std::span<const std::uint8_t> decodedFrame) {
   PortLog* log = UsefulLog();
   if (!log) return;
-  // The answer's decoded bytes between two flags.
+  // The answer's decoded bytes, which fit into a frame, between two flags.
   std::array<std::uint8_t, kMaxFrameBytes + 2> flagged;
   flagged.front() = kFlag;
-  const std::size_t bytes =
-      CopyCut(decodedFrame, std::span<std::uint8_t>(flagged).subspan(1, kMaxFrameBytes));
-  flagged[bytes + 1] = kFlag;
-  log->Data(std::span<const std::uint8_t>(flagged).first(bytes + 2), false);
+  std::ranges::copy(decodedFrame, flagged.begin() + 1);
+  flagged[decodedFrame.size() + 1] = kFlag;
+  log->Data(std::span(flagged).first(decodedFrame.size() + 2), false);
 }
 
 }  // namespace merovane
