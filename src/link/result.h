@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <string_view>
 
 namespace merovane {
@@ -20,11 +19,5 @@ std::string_view ResultName(Result result);
 
 // One line for people; empty for a code that the table does not hold.
 std::string_view ResultMeaning(Result result);
-
-// Whether a caller's buffer can have this many bytes, which is for InvalidParam otherwise: some,
-// and not a negative number's bits, up to which some commands would fill it with zeros.
-constexpr bool IsCapacity(std::uint32_t bytes) {
-  return bytes > 0 && bytes <= std::numeric_limits<std::int32_t>::max();
-}
 
 }  // namespace merovane
