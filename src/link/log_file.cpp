@@ -56,13 +56,30 @@ void AppendByteCount(std::string& text, std::uint32_t count) {
   text += ')';
 }
 
+void AppendStamp(std::string& text) {
+  const platform::CalendarTime now = platform::LocalTime();
+  const auto number = [&](char before, int value, int digits) {
+    text += before;
+    AppendNumber(text, static_cast<std::uint32_t>(value), digits);
+  };
+  number('[', now.year, 4);
+  number('-', now.month, 2);
+  number('-', now.day, 2);
+  number(' ', now.hour, 2);
+  number(':', now.minute, 2);
+  number(':', now.second, 2);
+  number(':', now.millisecond, 3);
+  text += "] ";
+}
+
 std::string NameSuffix(std::uint32_t flags) {
   const platform::CalendarTime now = platform::LocalTime();
-  if (flags & LogFlags::kDateAndTimeInName) {
+  if (flags & log_flags::kDateAndTimeInName) {
     return Format("_%04d_%02d_%02d_%02d_%02d_%02d_%03d", now.year, now.month, now.day, now.hour,
                   now.minute, now.second, now.millisecond);
   }
-  if (flags & LogFlags::kDateInName) return Format("_%04d_%02d_%02d", now.year, now.month, now.day);
+  if (flags & log_flags::kDateInName)
+    return Format("_%04d_%02d_%02d", now.year, now.month, now.day);
   return {};
 }
 
@@ -79,7 +96,7 @@ std::filesystem::path Resolve(const LogDirectory& directory) {
 }  // namespace
 
 bool LogFile::SetOption(LogOption option, LogOptionValue value) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   if (option == LogOption::Directory) {
     auto* directory = std::get_if<LogDirectory>(&value);
     if (!directory) return false;
@@ -125,7 +142,7 @@ bool LogFile::SetOption(LogOption option, LogOptionValue value) {
 }
 
 LogOptionValue LogFile::Option(LogOption option) const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   switch (option) {
     case LogOption::Directory:
       return directory_;
@@ -151,8 +168,8 @@ LogOptionValue LogFile::Option(LogOption option) const {
 
 bool LogFile::Open(std::string_view name, std::uint32_t flags, std::uint32_t first,
                    std::uint32_t second) {
-  const std::lock_guard lock(mutex_);
-  if ((flags & (LogFlags::kText | LogFlags::kData)) == 0) flags |= LogFlags::kText;
+  const platform::MutexLock lock(mutex_);
+  if ((flags & (log_flags::kText | log_flags::kData)) == 0) flags |= log_flags::kText;
   flags_ = flags;
   openFirst_ = first;
   openSecond_ = second;
@@ -171,15 +188,15 @@ bool LogFile::Open(std::string_view name, std::uint32_t flags, std::uint32_t fir
   };
 
   bool opened = true;
-  if (flags & LogFlags::kText) {
+  if (flags & log_flags::kText) {
     opened = open(text_, "", ownExtension.empty() ? ".log" : ownExtension);
   }
-  if (flags & LogFlags::kData) {
+  if (flags & log_flags::kData) {
     const std::string extension = !extension_.empty()    ? extension_
                                   : ownExtension.empty() ? ".bin"
                                                          : ownExtension;
-    if (flags & LogFlags::kReceivedData) opened = open(received_, "_Rd", extension) && opened;
-    if (flags & LogFlags::kSentData) opened = open(sent_, "_Wt", extension) && opened;
+    if (flags & log_flags::kReceivedData) opened = open(received_, "_Rd", extension) && opened;
+    if (flags & log_flags::kSentData) opened = open(sent_, "_Wt", extension) && opened;
   }
   return opened;
 }
@@ -191,12 +208,17 @@ bool LogFile::OpenTarget(Target& target) {
 }
 
 bool LogFile::IsOpen() const {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   return text_.file.IsOpen() || received_.file.IsOpen() || sent_.file.IsOpen();
 }
 
+std::filesystem::path LogFile::Path() const {
+  const platform::MutexLock lock(mutex_);
+  return text_.path;
+}
+
 void LogFile::Close() {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   for (Target* target : {&text_, &received_, &sent_}) target->file.Close();
 }
 
@@ -212,40 +234,23 @@ void LogFile::Write(Target& target, std::string_view block) {
   if (console_ != 0 && &target == &text_) platform::WriteConsole(block);
 }
 
-void LogFile::AppendStamp() {
-  if (!timeStamps_) return;
-  const platform::CalendarTime now = platform::LocalTime();
-  const auto number = [&](char before, int value, int digits) {
-    block_ += before;
-    AppendNumber(block_, static_cast<std::uint32_t>(value), digits);
-  };
-  number('[', now.year, 4);
-  number('-', now.month, 2);
-  number('-', now.day, 2);
-  number(' ', now.hour, 2);
-  number(':', now.minute, 2);
-  number(':', now.second, 2);
-  number(':', now.millisecond, 3);
-  block_ += "] ";
-}
-
 void LogFile::Text(std::string_view line) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   block_.clear();
-  AppendStamp();
+  if (timeStamps_) AppendStamp(block_);
   block_ += line;
   block_ += "\r\n";
   Write(text_, block_);
 }
 
 void LogFile::Raw(std::string_view text) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   Write(text_, text);
 }
 
 void LogFile::Dump(std::span<const std::uint8_t> data, LogDirection direction,
                    std::uint32_t wholeBytes) {
-  const std::lock_guard lock(mutex_);
+  const platform::MutexLock lock(mutex_);
   if (direction == LogDirection::Received || direction == LogDirection::Sent) {
     Write(direction == LogDirection::Received ? received_ : sent_,
           {reinterpret_cast<const char*>(data.data()), data.size()});
@@ -254,7 +259,7 @@ void LogFile::Dump(std::span<const std::uint8_t> data, LogDirection direction,
 
   const auto bytes = static_cast<std::uint32_t>(data.size());
   block_.clear();
-  AppendStamp();
+  if (timeStamps_) AppendStamp(block_);
   block_ += Mark(direction);
   block_ += ' ';
   AppendByteCount(block_, bytes);

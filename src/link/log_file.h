@@ -3,13 +3,13 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <mutex>
 #include <span>
 #include <string>
 #include <string_view>
 #include <variant>
 
 #include "platform/files.h"
+#include "platform/mutex.h"
 
 namespace merovane {
 
@@ -38,14 +38,14 @@ struct LogDirectory {
 
 using LogOptionValue = std::variant<std::uint32_t, std::string, LogDirectory>;
 
-namespace LogFlags {
+namespace log_flags {
 inline constexpr std::uint32_t kDateAndTimeInName = 0x1;
 inline constexpr std::uint32_t kDateInName = 0x2;
 inline constexpr std::uint32_t kReceivedData = 0x100;
 inline constexpr std::uint32_t kSentData = 0x200;
 inline constexpr std::uint32_t kText = 0x4000;
 inline constexpr std::uint32_t kData = 0x8000;
-}  // namespace LogFlags
+}  // namespace log_flags
 
 enum class LogDirection { Received, Sent, Third, Other };
 
@@ -72,7 +72,7 @@ class LogFile {
             std::uint32_t wholeBytes = 0);
 
   // Where a text log is written to now.
-  const std::filesystem::path& Path() const { return text_.path; }
+  std::filesystem::path Path() const;
 
  private:
   struct Target {
@@ -84,28 +84,28 @@ class LogFile {
     std::uint32_t rolled = 0;
   };
 
-  bool OpenTarget(Target& target);
-  void Write(Target& target, std::string_view block);
-  void AppendStamp();
+  static bool OpenTarget(Target& target);
+  void Write(Target& target, std::string_view block) MEROVANE_REQUIRES(mutex_);
 
-  mutable std::mutex mutex_;
-  LogDirectory directory_;
-  std::string baseName_;
-  std::uint32_t bytesPerLine_ = 16;
-  bool timeStamps_ = true;
-  bool offsets_ = true;
-  bool characterColumn_ = true;
-  std::uint32_t console_ = 0;
-  std::string extension_;
-  std::uint32_t sizeLimitMb_ = 0;
-  std::uint32_t flags_ = 0;
-  std::uint32_t openFirst_ = 0;
-  std::uint32_t openSecond_ = 0;
+  mutable platform::Mutex mutex_;
+  LogDirectory directory_ MEROVANE_GUARDED_BY(mutex_);
+  std::string baseName_ MEROVANE_GUARDED_BY(mutex_);
+  std::uint32_t bytesPerLine_ MEROVANE_GUARDED_BY(mutex_) = 16;
+  bool timeStamps_ MEROVANE_GUARDED_BY(mutex_) = true;
+  bool offsets_ MEROVANE_GUARDED_BY(mutex_) = true;
+  bool characterColumn_ MEROVANE_GUARDED_BY(mutex_) = true;
+  std::uint32_t console_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::string extension_ MEROVANE_GUARDED_BY(mutex_);
+  std::uint32_t sizeLimitMb_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint32_t flags_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint32_t openFirst_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint32_t openSecond_ MEROVANE_GUARDED_BY(mutex_) = 0;
 
-  Target text_;
-  Target received_;
-  Target sent_;
-  std::string block_;  // what is being put together, kept to spare allocations
+  Target text_ MEROVANE_GUARDED_BY(mutex_);
+  Target received_ MEROVANE_GUARDED_BY(mutex_);
+  Target sent_ MEROVANE_GUARDED_BY(mutex_);
+  // What is being put together, kept to spare allocations.
+  std::string block_ MEROVANE_GUARDED_BY(mutex_);
 };
 
 }  // namespace merovane

@@ -22,7 +22,7 @@ struct LogFileTest : ::testing::Test {
   void Set(LogOption option, unsigned value) { Set(option, LogOptionValue(std::uint32_t{value})); }
   void OpenPlain() {
     Set(LogOption::TimeStamps, 0);
-    ASSERT_TRUE(log.Open("plain.txt", LogFlags::kText));
+    ASSERT_TRUE(log.Open("plain.txt", log_flags::kText));
   }
   std::string Text(std::string_view name = "plain.txt") { return FileText(directory / name); }
   std::vector<std::string> Files() {
@@ -113,19 +113,19 @@ TEST_F(LogFileTest, NamesFilesByNameFlagsAndKind) {
   using ::testing::ElementsAre;
   EXPECT_THAT(opened("Com3_AllLog.txt", 0x7000), ElementsAre("Com3_AllLog.txt"));
   EXPECT_THAT(opened("sub\\dir/a.b.c", 0), ElementsAre("a.b.c"));
-  EXPECT_THAT(opened("bare", LogFlags::kText), ElementsAre("bare.log"));
+  EXPECT_THAT(opened("bare", log_flags::kText), ElementsAre("bare.log"));
   EXPECT_THAT(opened("bare", 0x8300), ElementsAre("bare_Rd.bin", "bare_Wt.bin"));
-  EXPECT_THAT(opened("a.dat", 0x8100 | LogFlags::kText), ElementsAre("a.dat", "a_Rd.dat"));
-  const auto ofDay = opened("day.txt", LogFlags::kDateInName);
+  EXPECT_THAT(opened("a.dat", 0x8100 | log_flags::kText), ElementsAre("a.dat", "a_Rd.dat"));
+  const auto ofDay = opened("day.txt", log_flags::kDateInName);
   ASSERT_EQ(ofDay.size(), 1u);
   EXPECT_TRUE(std::regex_match(ofDay[0], std::regex(R"(day_\d{4}(_\d\d){2}\.txt)"))) << ofDay[0];
-  const auto dated = opened("t.txt", LogFlags::kDateAndTimeInName | LogFlags::kDateInName);
+  const auto dated = opened("t.txt", log_flags::kDateAndTimeInName | log_flags::kDateInName);
   ASSERT_EQ(dated.size(), 1u);
   EXPECT_TRUE(std::regex_match(dated[0], std::regex(R"(t(_\d{4})(_\d\d){5}_\d{3}\.txt)")))
       << dated[0];
   Set(LogOption::Extension, std::string(".raw"));
   EXPECT_THAT(opened("a.dat", 0x8200), ElementsAre("a_Wt.raw"));
-  EXPECT_THAT(opened("a.txt", LogFlags::kText), ElementsAre("a.txt"));
+  EXPECT_THAT(opened("a.txt", log_flags::kText), ElementsAre("a.txt"));
   Set(LogOption::BaseName, std::string("own.txt"));
   EXPECT_THAT(opened("", 0), ElementsAre("own.txt"));
 }

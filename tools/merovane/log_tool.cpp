@@ -38,8 +38,9 @@ int Render(const RenderOptions& options, std::ostream& out) {
   std::istream& recording = options.recording == "-" ? std::cin : file;
   LogFile log;
   SetOptions(log, options);
-  const std::uint32_t dataFile = options.extension ? LogFlags::kData | LogFlags::kReceivedData : 0;
-  if (!log.Open("", LogFlags::kText | dataFile)) {
+  const std::uint32_t dataFile =
+      options.extension ? log_flags::kData | log_flags::kReceivedData : 0;
+  if (!log.Open("", log_flags::kText | dataFile)) {
     throw Trouble(options.directory + ": a log cannot be written there");
   }
   std::uint64_t bytes = 0;
