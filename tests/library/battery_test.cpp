@@ -133,12 +133,14 @@ std::string NameOf(const ::testing::TestParamInfo<Parameters>& each) {
          (order == handset::ByteOrder::Big ? "Big" : "Little") + (receiveMode == 0 ? "" : "Thread");
 }
 
+using handset::ByteOrder;
+using handset::TransportKind;
 INSTANTIATE_TEST_SUITE_P(
-    Every, Battery,
-    ::testing::Combine(::testing::Bool(),
-                       ::testing::Values(handset::TransportKind::Pty, handset::TransportKind::Tcp),
-                       ::testing::Values(handset::ByteOrder::Big, handset::ByteOrder::Little),
-                       ::testing::Values(0U, 1U)),
+    Each, Battery,
+    ::testing::Values(Parameters(false, TransportKind::Pty, ByteOrder::Big, 0),
+                      Parameters(false, TransportKind::Tcp, ByteOrder::Little, 1),
+                      Parameters(true, TransportKind::Pty, ByteOrder::Little, 1),
+                      Parameters(true, TransportKind::Tcp, ByteOrder::Big, 0)),
     NameOf);
 
 }  // namespace
