@@ -46,6 +46,12 @@ TEST_F(ModeProcess, NeedsAnEventAndAnObject) {
   EXPECT_EQ(QV_EnterModeProcess(0, 1, 0, 100), 4);
   EXPECT_EQ(QV_ResetModeProcess(0, 1, 0, 100), 4);
   EXPECT_EQ(LastReported(), (Reported{183, 4}));
+  EXPECT_EQ(QV_EnterModeProcess_MT(kPort, 0, 1, 0, 100), 4);
+  EXPECT_EQ(LastReported(), (Reported{3, 4}));
+  EXPECT_EQ(QV_StopModeProcess_MT(kPort), 0) << "none was begun";
+  EXPECT_EQ(LastReported(), (Reported{4, 0}));
+  EXPECT_EQ(QV_EnterModeProcess_MT(kPort, 1, 1, 0, 100), 4);
+  EXPECT_EQ(LastReported(), (Reported{3, 4}));
 }
 
 TEST_F(ModeProcess, CatchesABootingHandsetInTheBackground) {
@@ -107,7 +113,11 @@ TEST_F(ModeProcess, FindsTheNumberOfANewPort) {
 TEST_F(ModeProcess, ReopensThePortAfterAReset) {
   Start(false, 5);
   ASSERT_EQ(QV_BeginPhoneTest_MT(kPort, 115200), 0);
+  // Another one's arrives first.
+  RunningHandset other(1, kPort + 1);
+  other.phone.UnplugPort();
   EXPECT_EQ(QV_ResetModeProcess_MT(kPort, 1, 1, event.Handle(), 60000), 0);
+  other.phone.PlugPort();
   ExpectCaught();
   EXPECT_EQ(ModeRead(), 0x83);
 }
