@@ -1,3 +1,6 @@
+#include <thread>
+
+#include "support/log_reader.h"
 #include "support/station.h"
 
 namespace merovane::test {
@@ -16,7 +19,7 @@ struct Sessions : StationTest {
   }
 
   RunningHandset first{1, 7};
-  RunningHandset second{2, 8};
+  RunningHandset second{2, 1};
 };
 
 TEST_F(Sessions, RefuseBadNumbersUnderTheirOperation) {
@@ -44,23 +47,23 @@ TEST_F(Sessions, CommandsLookForTheirPortBeforeTheirArguments) {
 }
 
 TEST_F(Sessions, SeveralPortsStandSideBySide) {
-  ASSERT_EQ(QV_BeginPhoneTest_MT(8, 115200), 0);
+  ASSERT_EQ(QV_BeginPhoneTest_MT(1, 115200), 0);
   EXPECT_EQ(ModeOf(0), -1) << "no default object from this form";
   ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
   EXPECT_EQ(QV_BeginPhoneTest(7, 115200), 26);
   EXPECT_EQ(QV_BeginPhoneTest_MT(7, 115200), 26);
-  EXPECT_EQ(QV_BeginPhoneTest(8, 115200), 26);
+  EXPECT_EQ(QV_BeginPhoneTest(1, 115200), 26);
   EXPECT_EQ(ModeOf(0), 0x81) << "and the default object is still the first";
   EXPECT_EQ(ModeOf(7), 0x81);
-  EXPECT_EQ(ModeOf(8), 0x82);
+  EXPECT_EQ(ModeOf(1), 0x82);
   EXPECT_EQ(QV_EndPhoneTest_MT(7), 0);
   EXPECT_EQ(LastReported(), (Reported{2, 0}));
   EXPECT_EQ(ModeOf(0), -1);
   EXPECT_EQ(ModeOf(7), -1);
-  EXPECT_EQ(ModeOf(8), 0x82);
+  EXPECT_EQ(ModeOf(1), 0x82);
   ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0) << "free again";
   EXPECT_EQ(QV_EndPhoneTest(), 0);
-  EXPECT_EQ(ModeOf(8), -1);
+  EXPECT_EQ(ModeOf(1), -1);
 }
 
 TEST_F(Sessions, OnlyTheByteOrderReadsBack) {
@@ -82,6 +85,52 @@ TEST_F(Sessions, OnlyTheByteOrderReadsBack) {
   ExpectReported(QV_SetProperty(1000, 1, 1), 2, 0);
   ExpectReported(QV_GetProperty(0, 0, &value), 2, 0);
 }
+
+TEST_F(Sessions, GetAndLoseTheirUsefulLogByAProperty) {
+  LogReader log(7, "UsefulLog");
+  const auto logged = [&] {
+    EXPECT_EQ(ModeOf(0), 0x81);
+    return !log.Take().empty();
+  };
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  EXPECT_EQ(QV_SetProperty(0, 0, 1), 0);
+  EXPECT_FALSE(logged()) << "it was opened before";
+  EXPECT_EQ(QV_EndPhoneTest(), 0);
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  EXPECT_TRUE(logged());
+  EXPECT_EQ(QV_SetProperty(0, 1, 0), 0);
+  EXPECT_FALSE(logged());
+}
+
+struct Unplugged : StationTest, ::testing::WithParamInterface<handset::TransportKind> {};
+
+TEST_P(Unplugged, EndsACallByItsLimitAndWritesAtOnce) {
+  SwitchOn(Running(GetParam()));
+  ASSERT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
+  phone->ExpectOnce(12, 0, Reply::Nothing());
+  std::thread unplug([&] {
+    EXPECT_TRUE(phone->NextFrame(12, 0, kPatience));
+    phone->UnplugPort();
+  });
+  EXPECT_EQ(QV_RestartPhone(1000), 11);
+  unplug.join();
+  EXPECT_EQ(QV_RestartPhone(1000), 3);
+  EXPECT_EQ(LastReported(), (Reported{11, 3}));
+  uint8_t data[16];
+  uint32_t length = 16;
+  EXPECT_EQ(QV_Read(data, &length, 50), 9);
+  EXPECT_EQ(QV_EndPhoneTest(), 0);
+  EXPECT_EQ(QV_BeginPhoneTest(kPort, 115200), 2);
+  phone->PlugPort();
+  EXPECT_EQ(QV_BeginPhoneTest(kPort, 115200), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Channels, Unplugged,
+                         ::testing::Values(handset::TransportKind::Pty,
+                                           handset::TransportKind::Tcp),
+                         [](const auto& each) {
+                           return each.param == handset::TransportKind::Pty ? "Pty" : "Tcp";
+                         });
 
 }  // namespace
 }  // namespace merovane::test
