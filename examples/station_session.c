@@ -102,8 +102,9 @@ int main(int argc, char** argv) {
     talk();
     switch_traces();
     restart();
-    station_step("a null buffer is refused");
-    station_result(QV_ReadMode(NULL, 16), PC_ERR_INVALID_PARAM);
+    uint8_t mode[16];
+    station_step("a buffer without room is refused");
+    station_result(QV_ReadMode(mode, 0), PC_ERR_INVALID_PARAM);
     station_step("deep sleep");
     station_result(QV_EnterDeepSleepMode(), PC_ERR_SUCCESS);
   }

@@ -94,8 +94,8 @@ void ExtractInPieces(benchmark::State& state) {
   merovane::ByteRing ring;
   merovane::FrameSearch search(ring);
   std::array<std::uint8_t, merovane::kMaxFrameBytes> output;
-  const auto copy = [&](std::span<const std::uint8_t> frame) {
-    std::memcpy(output.data(), frame.data(), frame.size());
+  const auto copy = [&](std::span<const std::uint8_t> found) {
+    std::memcpy(output.data(), found.data(), found.size());
   };
   merovane::test::WalkedRing walked;
   const auto pieces = [&](auto&& append, auto&& extract) {
