@@ -1,8 +1,12 @@
 // The tools as a shell runs them.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
+#include <thread>
 
 #include "merovane_version/version.h"
 #include "support/child_program.h"
