@@ -88,8 +88,8 @@ class WalkedRing {
       Drop(flagSeen ? lastFlag : taken);
       return {};
     }
-    const Bytes frame(held_.begin() + static_cast<std::ptrdiff_t>(start),
-                      held_.begin() + static_cast<std::ptrdiff_t>(taken));
+    Bytes frame(held_.begin() + static_cast<std::ptrdiff_t>(start),
+                held_.begin() + static_cast<std::ptrdiff_t>(taken));
     Drop(taken);
     return frame;
   }
