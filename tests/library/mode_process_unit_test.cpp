@@ -82,7 +82,8 @@ struct ModeProcessTest : CommandFixture {
     object->modeProcess.Stop();
     static_cast<void>(object->link.Close());
   }
-  void SetUp() override { ASSERT_EQ(object->link.Open(port, 115200), Result::Success); }
+  void OpenPort() { ASSERT_EQ(object->link.Open(port, 115200), Result::Success); }
+  void SetUp() override { OpenPort(); }
   ModeProcess::Request Request(std::uint32_t mode, std::uint32_t timeLimitMs = 5000) {
     ModeProcess::Request request;
     request.mode = mode;
@@ -258,7 +259,7 @@ TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {
 }
 
 struct ResetProcess : ArrivingPort {
-  void SetUp() override { ModeProcessTest::SetUp(); }
+  void SetUp() override { OpenPort(); }
   Result Reset(bool throughPort, std::uint32_t kind = 1) {
     return object->modeProcess.Reset(object, {.throughPort = throughPort,
                                               .rebootKind = kind,

@@ -21,6 +21,7 @@ struct Threads : StationTest {
 
 TEST_F(Threads, OnOnePortRunOneAfterAnother) {
   std::vector<std::jthread> threads;
+  threads.reserve(4);
   for (int i = 0; i < 4; ++i) {
     threads.emplace_back([] {
       for (int k = 0; k < 20; ++k) EXPECT_EQ(ReadMode(), 0);
@@ -48,6 +49,7 @@ TEST_F(Threads, AreSentAwayByTheEndOfThePort) {
 
 TEST_F(Threads, MayBeginDriveAndEndAPortAtWill) {
   std::vector<std::jthread> threads;
+  threads.reserve(3);
   Event event;
   for (int i = 0; i < 3; ++i) {
     threads.emplace_back([&event, i] {

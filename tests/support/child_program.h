@@ -29,6 +29,7 @@ class ChildProgram {
       dup2(out[1], STDOUT_FILENO);
       dup2(out[1], STDERR_FILENO);
       std::vector<char*> words;
+      words.reserve(commandLine.size() + 1);
       for (std::string& word : commandLine) words.push_back(word.data());
       words.push_back(nullptr);
       execv(words[0], words.data());

@@ -36,12 +36,13 @@ TEST_F(CalibrationMode, CannotBeConfirmedWithoutAnIncrement) {
   handset.ExpectAnyPayload(10, 0).Answer(10, 0).Answer(10, 0, Message(0xA12E, 20).U32(0));
   EXPECT_EQ(ChangeGSMTDCalMode(phone, 1), Result::NoAnswer);
   ExpectLogged({"Change to GSM CAL Mode:", "Read _CNF:"}, Result::NoAnswer);
-  for (const auto& [command, mode, waitedMs] :
-       {std::tuple{&ChangeGSMTDCalMode, 1, 3000U}, {&InitGSMTDCalMode, 7, 1000U}}) {
+  const auto waits = [&](auto command, std::int32_t mode, std::uint32_t ms, const char* logName) {
     handset.ExpectAnyPayload(10, 0).Silent();
-    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(command(phone, mode), Result::NoAnswer); }), waitedMs);
-    ExpectLogged({mode == 1 ? "Change to GSM CAL Mode:" : "Init TD CAL Mode:"}, Result::NoAnswer);
-  }
+    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(command(phone, mode), Result::NoAnswer); }), ms);
+    ExpectLogged({logName}, Result::NoAnswer);
+  };
+  waits(&ChangeGSMTDCalMode, 1, 3000, "Change to GSM CAL Mode:");
+  waits(&InitGSMTDCalMode, 7, 1000, "Init TD CAL Mode:");
   // A negative increment takes time away from the first wait, and leaves none for the second.
   settings.receiveIncrementMs = static_cast<std::uint32_t>(-500);
   handset.ExpectAnyPayload(10, 0).Answer(10, 0);

@@ -94,7 +94,7 @@ TEST_F(TdParameters, AreReadAsManyAsAnAnswerCarries) {
   for (unsigned at = 0; at < kMost; ++at) answer.U16(0x0102);
   handset.ExpectAnyPayload(36, 0).Answer(36, 0, answer);
   EXPECT_EQ(ReadTDCalParam(phone, RecordIn(large, kMost)), Result::Success);
-  EXPECT_EQ(ToHex(std::span(large.Data() + 4 + 2 * kMost, 2)), "02 01");
+  EXPECT_EQ(ToHex(std::span(large.Data() + 4 + std::size_t{2} * kMost, 2)), "02 01");
 }
 
 TEST_F(TdParameters, AreWrittenAndCounted) {
