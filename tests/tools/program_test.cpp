@@ -38,11 +38,12 @@ TEST(Programs, NameTheWrongWordAndEndAlike) {
 
 TEST(Programs, ListenShowsTheFramesOfItsKind) {
   const std::string device = testing::TempDir() + "merovane-listen." + std::to_string(getpid());
-  test::ChildProgram handset({MEROVANE_TOOLS "/merovane-handset", "--link", device, "--mode", "3"});
+  const std::string tools = MEROVANE_TOOLS;
+  test::ChildProgram handset({tools + "/merovane-handset", "--link", device, "--mode", "3"});
   ASSERT_EQ(handset.Line("ready "), "ready " + device);
   setenv("CASSORIND_COM57", device.c_str(), 1);
-  test::ChildProgram listen({MEROVANE_TOOLS "/merovane", "listen", "57", "--type", "35",
-                             "--subtype", "1", "--seconds", "1"});
+  test::ChildProgram listen(
+      {tools + "/merovane", "listen", "57", "--type", "35", "--subtype", "1", "--seconds", "1"});
   ASSERT_EQ(listen.Line(), "port 57: listening");
   // What it sends before it has noticed the station is lost.
   std::atomic<bool> shown = false;

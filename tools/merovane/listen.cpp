@@ -43,6 +43,7 @@ int Listen(const ListenOptions& options, std::ostream& out) {
   // One more than the largest number that is asked for.
   std::vector<std::array<std::uint8_t, kMaxFrameBytes>> frames(kMaxFrames + 1);
   std::vector<std::uint8_t*> buffers;
+  buffers.reserve(frames.size());
   for (auto& frame : frames) buffers.push_back(frame.data());
   std::vector<std::uint32_t> lengths(frames.size());
   const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(options.seconds);

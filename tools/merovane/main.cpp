@@ -146,6 +146,7 @@ void AddListenCommand(CLI::App& app, Choice& choice) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(bugprone-exception-escape): want of memory, before anything is done
 int main(int argc, char** argv) {
   CLI::App app("Merovane's command-line tool", "merovane");
   app.require_subcommand(1);

@@ -5,6 +5,7 @@
 #include "project-generator/project_generator.h"
 #include "support/program.h"
 
+// NOLINTNEXTLINE(bugprone-exception-escape): want of memory, before anything is done
 int main(int argc, char** argv) {
   using namespace merovane;
   projectgen::Options options;

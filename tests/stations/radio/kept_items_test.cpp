@@ -80,7 +80,8 @@ std::vector<const CalibrationItem*> Items() {
 Words Pattern(const CalibrationItem& item, std::size_t number, unsigned variant) {
   Words words(item.data == ItemData::Counted ? kCountedWords : item.bytes / 2U);
   for (std::size_t i = 0; i < words.size(); ++i) {
-    words[i] = static_cast<std::uint16_t>(0x0100 * (number + 1) + 0x4000 * variant + i + 1);
+    words[i] =
+        static_cast<std::uint16_t>(0x0100 * (number + 1) + std::size_t{0x4000} * variant + i + 1);
   }
   return words;
 }
