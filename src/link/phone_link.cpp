@@ -124,13 +124,15 @@ void PhoneLink::Sleep(std::uint32_t ms) {
   }
 }
 
-Result PhoneLink::Read(std::span<std::uint8_t> into, std::uint32_t timeLimitMs, std::size_t& got) {
-  const platform::Deadline deadline(clock_, timeLimitMs);
+Result PhoneLink::Read(std::span<std::uint8_t> into, const platform::Deadline& deadline,
+                       std::uint32_t remainingMs, std::size_t& got) {
   got = 0;
   for (;;) {
     if (MustEnd()) return OrEnded(Result::NoData);
-    const Result result = channel_.Read(into, std::min(deadline.RemainingMs(), kCancelPollMs), got);
-    if (result != Result::NoData || deadline.Passed()) return result;
+    const Result result = channel_.Read(into, std::min(remainingMs, kCancelPollMs), got);
+    if (result != Result::NoData) return result;
+    remainingMs = deadline.RemainingMs();
+    if (remainingMs == 0) return result;
   }
 }
 
@@ -184,15 +186,15 @@ Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs
 Result PhoneLink::Receive(Frame& frame, std::uint32_t timeoutMs) {
   frame.bytes_ = 0;
   platform::Deadline deadline(clock_, timeoutMs);
+  std::uint32_t remainingMs = timeoutMs;
   bool extended = false;
   bool readFirst = ring_.Count() < kMinFrameBytes;
   for (bool timeLeft = true; timeLeft;) {
     if (readFirst) {
-      const std::uint32_t remainingMs = deadline.RemainingMs();
       if (remainingMs == 0) break;
       std::array<std::uint8_t, kReadBytes> chunk;
       std::size_t got = 0;
-      const Result read = Read(chunk, remainingMs, got);
+      const Result read = Read(chunk, deadline, remainingMs, got);
       if (!Succeeded(read)) return read;
       ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     }
@@ -202,9 +204,12 @@ Result PhoneLink::Receive(Frame& frame, std::uint32_t timeoutMs) {
           frame.bytes_ = DecodeFrame(encoded, frame.storage_);
         });
     if (outcome.found) return frame.bytes_ == 0 ? Result::DecodeFailed : Result::Success;
-    timeLeft = !deadline.Passed();
+    // Once a chunk, of which a long frame has many.
+    remainingMs = deadline.RemainingMs();
+    timeLeft = remainingMs > 0;
     if (!timeLeft && outcome.flagSeen && !extended) {
       deadline.ExtendFromNow(kStartedFrameExtensionMs);
+      remainingMs = kStartedFrameExtensionMs;
       timeLeft = extended = true;
     }
   }
@@ -218,7 +223,7 @@ Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header
   std::array<std::uint8_t, kMaxFrameBytes> chunk;
   while (!deadline.Passed()) {
     std::size_t got = 0;
-    if (!Succeeded(Read(chunk, deadline.RemainingMs(), got))) continue;
+    if (!Succeeded(Read(chunk, deadline.limit_, deadline.RemainingMs(), got))) continue;
     ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     bool found = false;
     ring_.Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {

@@ -128,7 +128,9 @@ class PhoneLink {
   }
   // The result, unless the link has ended.
   Result OrEnded(Result result);
-  Result Read(std::span<std::uint8_t> into, std::uint32_t timeLimitMs, std::size_t& got);
+  // Until the deadline, of which remainingMs are left.
+  Result Read(std::span<std::uint8_t> into, const platform::Deadline& deadline,
+              std::uint32_t remainingMs, std::size_t& got);
   Result Receive(Frame& frame, std::uint32_t timeoutMs);
   Result Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs);
   void LogReceived(std::span<const std::uint8_t> decodedFrame);

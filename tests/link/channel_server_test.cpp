@@ -1,3 +1,6 @@
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
 #include <mutex>
 #include <utility>
 
@@ -104,11 +107,17 @@ class OneServer final : private TollvaneServer {
     const std::lock_guard lock(mutex_);
     return std::exchange(calls_, {});
   }
+  bool WaitForCall(const std::string& call) {
+    std::unique_lock lock(mutex_);
+    return called_.wait_for(lock, std::chrono::milliseconds(kPatienceMs),
+                            [&] { return std::ranges::count(calls_, call) > 0; });
+  }
 
  private:
   std::int32_t Note(std::string call) {
     const std::lock_guard lock(mutex_);
     calls_.push_back(std::move(call));
+    called_.notify_all();
     return 1;
   }
   void Release() override { Note("release"); }
@@ -131,6 +140,7 @@ class OneServer final : private TollvaneServer {
   std::uint32_t message_ = 0;
   std::uint32_t thread_ = 0;
   std::mutex mutex_;
+  std::condition_variable called_;
   std::vector<std::string> calls_;
 };
 
@@ -154,6 +164,8 @@ TEST_F(OneServerTest, IsReachedOnlyWhileItsConnectionStands) {
   EXPECT_THAT(Calls(), ElementsAre("connect 36667", "receiver 2025 1"));
   handset.Say(1, 1);
   EXPECT_TRUE(link.ReceiveFrame(kPatienceMs));
+  // The server hears of it after the waiting command.
+  EXPECT_TRUE(server.WaitForCall("forward 10"));
   shared.server.Use(false);
   EXPECT_THAT(Calls(), ElementsAre("forward 10", "disconnect", "release"));
 
