@@ -86,7 +86,7 @@ TEST_F(Receiver, ReportsLevelsInAFrameOfAnyType) {
   });
 }
 
-TEST_F(Receiver, TakesNothingFromBehindAShortReport) {
+TEST_F(Receiver, ReadsZerosAfterTheEndOfAShortReport) {
   for (const auto& [reportBytes, expected, text] :
        {std::tuple{0, Result::ParseFailed, "00 00 00 00 00 00 00 00"},
         {25, Result::Success, "11 11 11 11 11 11 00 11"},  // it ends within RSSI

@@ -19,7 +19,7 @@ struct StartData : CommandFixture {
   std::uint32_t length = 77;
 };
 
-TEST_F(StartData, IsFoundBehindNoiseAndOverTwoReads) {
+TEST_F(StartData, IsFoundAfterNoiseAndOverTwoReads) {
   InBothByteOrders([&] {
     const bool big = handset.Message().U16(1).Get()[1] == 1;
     const Bytes frame = Hex(big ? kBigEndianStart : kLittleEndianStart);
