@@ -33,14 +33,17 @@ def prototype(declaration):
 
 # ---- What a body gets: checked arguments ----
 
+def element_type(argument):
+    return ("const " if argument.direction == "in" else "") + argument.cpp_element
+
+
 def view_type(argument):
     """The type that the body sees; None where it is the caller's own."""
-    constant = "const " if argument.direction == "in" else ""
     if argument.type == "flag" and not argument.is_pointer:
         return "bool"
     if not argument.is_pointer or argument.type == "text":
         return None
-    element = constant + argument.cpp_element
+    element = element_type(argument)
     if argument.extent and not argument.is_open_ended:
         fixed = argument.fixed_extent is not None and not argument.may_be_null
         return f"std::span<{element}, {argument.extent}>" if fixed else f"std::span<{element}>"
@@ -83,6 +86,8 @@ def refusals(declaration):
         name = raw_name(argument)
         if argument.is_pointer and not argument.optional:
             found.append(f"{guard}!{name}" if not guard else f"({guard}!{name})")
+        if argument.is_pointer and argument.optional:
+            guard += f"{name} && "
         value = f"*{name}" if argument.is_pointer else name
         if argument.type == "band":
             outside = f"!IsBand({value})"
@@ -90,8 +95,8 @@ def refusals(declaration):
             outside = f"!IsOneOf({value}, {{{', '.join(map(str, argument.one_of))}}})"
         else:
             bounds = []
-            if argument.low is not None and (argument.low > 0 or argument.type == "i32"):
-                bounds.append(f"{value} < {argument.low}")
+            if argument.least is not None:
+                bounds.append(f"{value} < {argument.least}")
             if argument.high is not None:
                 bounds.append(f"{value} > {argument.high}")
             outside = " || ".join(bounds)
@@ -110,7 +115,7 @@ def views(declaration):
         if kind.endswith("&"):
             lines.append(f"  {kind} {name} = *{raw};\n")
             continue
-        pointer = raw if argument.type != "bytes" else f"static_cast<{kind[10:-1].split(',')[0]}*>({raw})"
+        pointer = raw if argument.type != "bytes" else f"static_cast<{element_type(argument)}*>({raw})"
         extent = argument.extent
         for other in declaration.arguments:
             if extent.lstrip("*") == other.name:
@@ -154,7 +159,7 @@ def definition(declaration):
     out = [f"{returned(declaration)} {declaration.name}({', '.join(parameters)}) {{\n"]
     if declaration.kind == "command":
         operation = f", {declaration.operation}" if declaration.operation is not None else ""
-        out.append(f"  [[maybe_unused]] Operation operation(phone{operation});\n")
+        out.append(f"  Operation operation(phone{operation});\n")
     is_project = declaration.kind == "project" and "holder" not in declaration.flags
     no_project = "  if (project == nullptr) return Result::NvProjectNotOpen;\n" if is_project else ""
     if "project-first" in declaration.flags:
@@ -269,13 +274,12 @@ def items_header(api):
     kinds = {"imei": "Imei", "commit": "Commit"}
     for item in api.items:
         element = {"u16": "U16", "u32": "U32"}.get(item["data"], "Byte")
-        size = {"u16": 2, "u32": 4, "imei": 8, "commit": 0}[item["data"]]
         data = kinds.get(item["data"], "Counted" if item["counted"] else "Array" if item["count"] > 1 else "Value")
         exports = ", ".join("{}" if not cell else f'{{"{cell[0]}", {-1 if cell[1] is None else cell[1]}}}'
                             for cell in item["exports"])
         out.append(f"inline constexpr CalibrationItem {item['name']}{{\n"
                    f"    .name = \"{item['name']}\", .item = {item['number']}, .offset = {item['fixed_offset']}, "
-                   f".perIndex = {item['per_index']},\n    .bytes = {0 if item['counted'] else size * item['count']}, "
+                   f".perIndex = {item['per_index']},\n    .bytes = {item['bytes']}, "
                    f".element = Element::{element}, .data = ItemData::{data}, .perBand = {str(item['per_band']).lower()},\n"
                    f"    .either = {str(item['either']).lower()}, .exports = {{{{{exports}}}}}}};\n")
     out.append("\n}  // namespace items\n\ninline constexpr std::array kCalibrationItems{\n")

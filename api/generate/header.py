@@ -29,7 +29,8 @@ def range_text(argument):
     if argument.one_of:
         return listed([str(value) for value in argument.one_of])
     if argument.high is not None:
-        return f"{argument.low or 0} to {argument.high}"
+        lowest = argument.low if argument.low is not None or argument.type == "i32" else 0
+        return f"up to {argument.high}" if lowest is None else f"{lowest} to {argument.high}"
     if argument.low is not None:
         return f"{argument.low} and up" if argument.low != 1 or argument.type == "i32" else "above 0"
     return ""
@@ -37,23 +38,22 @@ def range_text(argument):
 
 def outside_text(argument):
     """Which values are refused."""
-    if argument.low is not None and argument.high is not None and argument.low > 0:
+    if argument.least is not None and argument.high is not None:
         return f"outside {range_text(argument)}"
     if argument.high is not None:
         return f"above {argument.high}"
-    if argument.low is not None:
-        return f"below {argument.low}" if argument.low != 1 or argument.type == "i32" else "of 0"
+    if argument.least is not None:
+        return f"below {argument.least}" if argument.least != 1 or argument.type == "i32" else "of 0"
     return ""
 
 
 def extent_text(argument):
     if not argument.extent or argument.is_open_ended:
         return ""
-    unit = "bytes" if argument.c_element in ("uint8_t", "char", "void") else "values"
+    unit = "byte" if argument.c_element in ("uint8_t", "char", "void") else "value"
     if argument.fixed_extent is not None:
-        return f"{argument.extent} {unit}"
-    extent = argument.extent
-    return f"`{extent}` {unit}"
+        return f"one {unit}" if argument.fixed_extent == 1 else f"{argument.extent} {unit}s"
+    return f"`{argument.extent}` {unit}s"
 
 
 def condition_text(argument, declaration):
@@ -87,10 +87,11 @@ def facts(argument, declaration):
 
 def null_pointers(declaration):
     """Which null pointers are refused, in words."""
-    pointers = [argument for argument in declaration.arguments if argument.is_pointer and not argument.optional]
+    every = [argument for argument in declaration.arguments if argument.is_pointer]
+    pointers = [argument for argument in every if not argument.optional]
     always = [f"`{argument.name}`" for argument in pointers if not argument.when]
     reasons = []
-    if len(always) > 1 and len(always) == len(pointers):
+    if len(always) > 1 and len(always) == len(every):
         reasons.append("a null pointer")
     elif always:
         reasons.append(f"{listed(always)} is null")

@@ -4,7 +4,8 @@
     item NAME = NUMBER [at OFFSET] [per band]: DATA
       as EXPORTS = OPERATION OPERATION OPERATION OPERATION;
 
-WORDS say what the item is, as they stand after "Reads" and "Writes". OFFSET is in elements: a number, `index`, `N * index`, or `offset` (8 bits of the caller's).
+WORDS say what the item is, as they stand after "Reads" and "Writes".
+OFFSET is in elements: a number, `index`, `N * index`, or `offset` (8 bits of the caller's).
 DATA is u16, u32 (one value, written by value), u16[17] (an array), u16[count] (as many as the caller says), imei (a text of 15
 digits), or commit (none but a time limit).
 EXPORTS is the name of all of them: the first {A|B} in it is the verb of reading and writing, {Ram|Flash} the place.
@@ -20,10 +21,10 @@ PLACES = (("Ram", "RAM"), ("Flash", "flash"))
 STATEMENT = re.compile(
     r"item\s+(\w+)\s*=\s*(\d+)(?:\s+at\s+([\w* ]+?))?(\s+per\s+band)?\s*:\s*(\w+)(?:\[(\w+)\])?\s+as\s+(\S+)\s*=\s*(.+)",
     re.DOTALL)
-ELEMENT_BYTES = {"u16": 2, "u32": 4, "imei": 1, "commit": 1}
+BYTES = {"u16": 2, "u32": 4, "imei": 8, "commit": 0}
 WIDEST_INDEX = 0xFFFF
 # What fits into one frame after the command's header.
-MOST_COUNTED_VALUES = 32758
+MOST_BYTES = 65517
 
 
 def read_item(text, documentation, where):
@@ -31,8 +32,10 @@ def read_item(text, documentation, where):
     if not match or len(documentation) != 1:
         sys.exit(f"{where}: cannot read '{' '.join(text.split())}'")
     name, number, offset, per_band, data, count, pattern, operations = match.groups()
-    if data not in ELEMENT_BYTES:
+    if data not in BYTES:
         sys.exit(f"{where}: an item has no '{data}'")
+    if count and not (count.isdigit() or count == "count"):
+        sys.exit(f"{where}: cannot read the number of values '{count}'")
     factor = re.fullmatch(r"(?:(\d+)\s*\*\s*)?index", offset or "")
     item = {
         "name": name, "words": documentation[0], "number": int(number), "per_band": bool(per_band),
@@ -40,16 +43,23 @@ def read_item(text, documentation, where):
         "per_index": int(factor[1] or 1) if factor else 1 if offset == "offset" else 0,
         "low_byte": offset == "offset",
         "data": data, "count": int(count) if count and count.isdigit() else 1, "counted": count == "count",
+        "bytes": 0 if count == "count" else BYTES[data] * int(count or 1),
         "either": operations.strip() == "either", "exports": [None] * 4,
     }
     if offset and not (offset.isdigit() or factor or item["low_byte"]):
         sys.exit(f"{where}: cannot read the offset '{offset}'")
+    if data in ("imei", "commit") and (offset or per_band or count):
+        sys.exit(f"{where}: an item of '{data}' is one for all bands and begins at its start")
     if item["either"]:
+        if data not in ("u16", "u32") or offset or per_band or item["counted"]:
+            sys.exit(f"{where}: `either` is for values from an item's start, whose number is fixed")
         item["exports"] = [(pattern, None)] * 4
         return item, [either(item, pattern)]
     cells = operations.split()
-    if len(cells) != 4:
+    if len(cells) != 4 or not all(re.fullmatch(r"\d+|none|-", cell) for cell in cells):
         sys.exit(f"{where}: say four operations, of reading and writing in RAM and in flash")
+    if data == "commit" and cells[::2] != ["-", "-"]:
+        sys.exit(f"{where}: a commit cannot be read")
     made = []
     for at, cell in enumerate(cells):
         if cell == "-":
@@ -118,7 +128,7 @@ def plain(item, export, operation, writes, place):
                                   documentation=kept or ["what is written"]))
         values = "values"
         if item["counted"]:
-            arguments.append(Argument("count", "u32", low=1, high=MOST_COUNTED_VALUES, documentation=["of values"]))
+            arguments.append(Argument("count", "u32", low=1, high=MOST_BYTES // BYTES[item["data"]], documentation=["of values"]))
     verb = "Write" if writes else "Read"
     of_band = " of a band" if item["per_band"] else ""
     band = "static_cast<std::uint16_t>(band)" if item["per_band"] else "0"

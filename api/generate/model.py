@@ -76,6 +76,11 @@ class Argument:
         return self.extent == "..."
 
     @property
+    def least(self):
+        """The lowest value that is taken, where lower ones can be given."""
+        return self.low if self.low is not None and (self.low > 0 or self.type == "i32") else None
+
+    @property
     def may_be_null(self):
         return self.optional or bool(self.when and self.is_pointer)
 

@@ -50,10 +50,11 @@ def read_argument(text, where):
 
 
 def cpp_names(expression, arguments):
-    """The expression with the arguments' names as C++ has them."""
+    """The expression with the arguments' names as C++ has them; quoted texts stay as they are."""
+    parts = re.split(r'("[^"]*")', expression)
     for argument in arguments:
-        expression = re.sub(rf"(?<![\w\"]){argument.name}(?!\w)", camel(argument.name), expression)
-    return expression
+        parts[::2] = [re.sub(rf"(?<!\w){argument.name}(?!\w)", camel(argument.name), part) for part in parts[::2]]
+    return "".join(parts)
 
 
 def read_clauses(declaration, text, where):
@@ -130,6 +131,8 @@ def read_documentation(declaration, lines, codes, where):
             argument = declaration.argument(match[1])
             if not argument:
                 fail(where, f"{declaration.name} has no argument '{match[1]}'")
+            if match[1] in seen:
+                fail(where, f"{declaration.name} says twice what `{match[1]}` is")
             target = argument.documentation
             seen.add(match[1])
             target.append(match[2])
@@ -137,6 +140,8 @@ def read_documentation(declaration, lines, codes, where):
             code = next((code for code in codes if match[1] in (code.name, code.short_name)), None)
             if not code:
                 fail(where, f"there is no result '{match[1]}'")
+            if code.internal in dict(declaration.results):
+                fail(where, f"{declaration.name} says twice when it gives '{match[1]}'")
             target = [match[2]]
             declaration.results.append((code.internal, target))
         elif line.startswith("@"):

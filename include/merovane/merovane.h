@@ -4085,7 +4085,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_TEMPERATURE_TX_RAMPWR_STEP_FACTOR(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  1 values; what is written, or what was read; what the answer lacks stays as it was
+ * @param values  one value; what is written, or what was read; what the answer lacks stays as it
+ *   was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4100,7 +4101,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_RW_RF_EDGE_DELTA_TIMING(
  * @param read  not 0: read; 0: write
  * @param flash  not 0: in flash; 0: in RAM
  * @param band  the band word, unchecked
- * @param values  1 values; what is written, or what was read; what the answer lacks stays as it was
+ * @param values  one value; what is written, or what was read; what the answer lacks stays as it
+ *   was
  * @retval PC_ERR_INVALID_PARAM  `values` is null
  * @retval PC_ERR_WRONG_DATA_LENGTH  the answer has no data
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
