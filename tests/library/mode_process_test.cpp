@@ -1,5 +1,6 @@
 #include <optional>
 
+#include "support/event.h"
 #include "support/station.h"
 
 namespace merovane::test {
@@ -16,7 +17,7 @@ struct ModeProcess : StationTest {
     SwitchOn(options);
   }
   void ExpectCaught() {
-    EXPECT_TRUE(event.Wait(kPatience));
+    EXPECT_TRUE(event.IsSet(kPatience));
     EXPECT_TRUE(WaitUntilRunning(*phone, 3));
   }
   static uint8_t ModeRead() {
@@ -103,7 +104,7 @@ TEST_F(ModeProcess, FindsTheNumberOfANewPort) {
   phone->UnplugPort();
   EXPECT_EQ(QV_EnterModeProcess(1, 3, event.Handle(), 60000), 0);
   phone->PlugPort();
-  EXPECT_TRUE(event.Wait(kPatience));
+  EXPECT_TRUE(event.IsSet(kPatience));
   EXPECT_EQ(QV_GetUsbPort(), kPort);
   EXPECT_EQ(QV_StopModeProcess(), 0);
   EXPECT_TRUE(WaitUntilRunning(*phone, 3));

@@ -1,7 +1,3 @@
-#include <poll.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
-
 #include <atomic>
 #include <deque>
 #include <mutex>
@@ -10,6 +6,7 @@
 #include "library/phone_object.h"
 #include "platform/message_queue.h"
 #include "support/command_fixture.h"
+#include "support/event.h"
 
 namespace merovane::test {
 namespace {
@@ -18,7 +15,7 @@ using library::ModeProcess;
 using library::PhoneObject;
 
 constexpr const char* kStartFrame = "7E 00 00 00 00 00 08 FE 01 7E";
-constexpr int kPatienceMs = 20000;
+constexpr std::chrono::seconds kPatience{20};
 
 // Arrivals as a test decides them.
 class FakeMonitor final : public platform::DeviceMonitor {
@@ -56,27 +53,6 @@ class FakeMonitor final : public platform::DeviceMonitor {
   int starts_ = 0;
 };
 
-class OwnEvent {
- public:
-  OwnEvent() : descriptor_(::eventfd(0, EFD_CLOEXEC)) {}
-  OwnEvent(const OwnEvent&) = delete;
-  OwnEvent& operator=(const OwnEvent&) = delete;
-  ~OwnEvent() { ::close(descriptor_); }
-  platform::CallerEvent Get() const { return platform::CallerEvent(descriptor_); }
-  bool IsSet(int patienceMs = 0) const {
-    pollfd polled{descriptor_, POLLIN, 0};
-    if (::poll(&polled, 1, patienceMs) != 1) return false;
-    // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
-    eventfd_t value = 0;
-    ::eventfd_read(descriptor_, &value);
-    ::eventfd_write(descriptor_, value);
-    return true;
-  }
-
- private:
-  int descriptor_;
-};
-
 struct ModeProcessTest : CommandFixture {
   ~ModeProcessTest() override {
     object->modeProcess.Stop();
@@ -87,7 +63,7 @@ struct ModeProcessTest : CommandFixture {
   ModeProcess::Request Request(std::uint32_t mode, std::uint32_t timeLimitMs = 5000) {
     ModeProcess::Request request;
     request.mode = mode;
-    request.event = event.Get();
+    request.event = callersEvent;
     request.timeLimitMs = timeLimitMs;
     return request;
   }
@@ -96,26 +72,18 @@ struct ModeProcessTest : CommandFixture {
   }
   void ExpectMode(std::uint8_t mode) { handset.Expect(0xFE, mode).Answer(0xFE, mode); }
   void ExpectCaught() {
-    EXPECT_TRUE(event.IsSet(kPatienceMs));
+    EXPECT_TRUE(event.IsSet(kPatience));
     object->modeProcess.Stop();
   }
 
-  OwnEvent event;
+  const Event event;
+  const platform::CallerEvent callersEvent{event.Handle()};
   std::shared_ptr<PhoneObject> object =
       std::make_shared<PhoneObject>(environment, clock, handset.Library());
 };
 
-TEST_F(ModeProcessTest, NeedsAnEventAndForPortsAMonitor) {
-  ModeProcess::Request request;
-  EXPECT_EQ(Start(request), Result::InvalidParam);
-  request = Request(1);
-  request.waitForPort = true;
-  EXPECT_EQ(Start(request), Result::InvalidParam);
-  EXPECT_EQ(object->modeProcess.Run(object, request), Result::InvalidParam);
-}
-
 TEST_F(ModeProcessTest, PutsABootingHandsetIntoTheMode) {
-  event.Get().Set();
+  callersEvent.Set();
   handset.Expect(0xFE, 0x83).Sequence(0x11223344).Answer(0xFE, 0x83);
   auto request = Request(3, 0);
   request.sequence = 0x11223344;
@@ -125,7 +93,7 @@ TEST_F(ModeProcessTest, PutsABootingHandsetIntoTheMode) {
   handset.SayRaw(kStartFrame);
   ExpectCaught();
   // Whatever the mode command gives.
-  event.Get().Reset();
+  callersEvent.Reset();
   handset.SayRaw(kStartFrame);
   handset.Expect(0xFE, 0x83).Silent();
   EXPECT_EQ(Start(Request(3)), Result::Success);
@@ -181,7 +149,7 @@ TEST_F(ModeProcessTest, MayOutliveEveryOtherOwnerOfItsPhone) {
   other.reset();
   ExpectMode(0x83);
   handset.SayRaw(kStartFrame);
-  EXPECT_TRUE(event.IsSet(kPatienceMs));
+  EXPECT_TRUE(event.IsSet(kPatience));
   // The worker ends the phone, and with it the channel.
   while (!watched.expired() || handset.ChannelsHeld() > 0) std::this_thread::yield();
 }
@@ -263,7 +231,7 @@ struct ResetProcess : ArrivingPort {
   Result Reset(bool throughPort, std::uint32_t kind = 1) {
     return object->modeProcess.Reset(object, {.throughPort = throughPort,
                                               .rebootKind = kind,
-                                              .event = event.Get(),
+                                              .event = callersEvent,
                                               .timeLimitMs = 700,
                                               .expectedPort = {},
                                               .monitor = monitor});
@@ -276,7 +244,7 @@ TEST_F(ResetProcess, RestartsPlainlyWithinTheCallersLimit) {
   handset.Expect(12, 0).After(699).Answer(12, 0);
   EXPECT_EQ(Reset(false), Result::Success);
   EXPECT_TRUE(event.IsSet());
-  event.Get().Reset();
+  callersEvent.Reset();
   handset.Expect(12, 0).Silent();
   EXPECT_EQ(Reset(false), Result::NoAnswer);
   EXPECT_FALSE(event.IsSet());
@@ -286,7 +254,7 @@ TEST_F(ResetProcess, SendsTheCodeOfTheRebootKind) {
   for (const auto& [kind, code] :
        {std::pair<std::uint32_t, std::uint8_t>{1, 3}, {9, 17}, {10, 0}}) {
     SCOPED_TRACE(kind);
-    event.Get().Reset();
+    callersEvent.Reset();
     handset.Expect(12, code).Answer(12, code, "00 00");
     EXPECT_EQ(Reset(true, kind), Result::Success);
     EXPECT_TRUE(event.IsSet());

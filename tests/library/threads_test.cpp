@@ -3,6 +3,7 @@
 #include <thread>
 #include <vector>
 
+#include "support/event.h"
 #include "support/station.h"
 
 namespace merovane::test {

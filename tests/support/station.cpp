@@ -1,9 +1,6 @@
 #include "support/station.h"
 
-#include <poll.h>
 #include <stdlib.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
 
 #include "brimwell/brimwell.h"
 
@@ -19,20 +16,6 @@ PortOf::~PortOf() { ::unsetenv(variable_.c_str()); }
 RunningHandset::RunningHandset(std::uint8_t mode, std::int32_t port) : phone(RunningIn(mode)) {
   phone.Start();
   device.emplace(phone, port);
-}
-
-Event::Event() : descriptor_(::eventfd(0, EFD_CLOEXEC)) {}
-
-Event::~Event() { ::close(descriptor_); }
-
-bool Event::Wait(std::chrono::milliseconds patience) const {
-  pollfd polled{descriptor_, POLLIN, 0};
-  if (::poll(&polled, 1, static_cast<int>(patience.count())) != 1) return false;
-  // A read tells ThreadSanitizer what a poll does not: that this comes after the set.
-  eventfd_t value = 0;
-  ::eventfd_read(descriptor_, &value);
-  ::eventfd_write(descriptor_, value);
-  return true;
 }
 
 Reported LastReported() {

@@ -36,21 +36,6 @@ struct RunningHandset {
   std::optional<PortOf> device;
 };
 
-// An eventfd.
-class Event {
- public:
-  Event();
-  Event(const Event&) = delete;
-  Event& operator=(const Event&) = delete;
-  ~Event();
-  QV_EVENT Handle() const { return descriptor_; }
-  bool IsSet() const { return Wait(0ms); }
-  bool Wait(std::chrono::milliseconds patience) const;
-
- private:
-  int descriptor_;
-};
-
 // What the error-code library was told last.
 struct Reported {
   std::uint32_t operation;
