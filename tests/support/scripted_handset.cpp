@@ -8,12 +8,6 @@
 
 namespace merovane::test {
 
-namespace {
-
-constexpr std::size_t kFramesKept = 100'000;
-
-}  // namespace
-
 Bytes WireFrame(bool bigEndian, std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
                 std::uint32_t sequence) {
   return handset::EncodeFrame({type, subtype, payload, sequence}, OrderOf(bigEndian));
@@ -24,28 +18,12 @@ Exchange& Exchange::Answer(std::uint8_t type, std::uint8_t subtype, const Payloa
 }
 
 Exchange& Exchange::Raw(const Payload& bytes) {
-  items_.push_back({bytes.Get(), std::exchange(delayMs_, 0), false});
+  items_.push_back({bytes.Get(), std::exchange(delayMs_, 0)});
   return *this;
 }
 
 Exchange& Exchange::After(std::uint32_t ms) {
   delayMs_ = ms;
-  return *this;
-}
-
-Exchange& Exchange::Split(std::size_t pieceBytes) {
-  std::vector<Piece> pieces;
-  for (const Piece& item : items_) {
-    if (item.vanish) pieces.push_back(item);
-    std::uint32_t delayMs = item.delayMs;
-    for (std::size_t at = 0; at < item.bytes.size(); at += pieceBytes) {
-      const auto begin = item.bytes.begin() + static_cast<std::ptrdiff_t>(at);
-      const auto size = std::min(pieceBytes, item.bytes.size() - at);
-      pieces.push_back({Bytes(begin, begin + static_cast<std::ptrdiff_t>(size)),
-                        std::exchange(delayMs, 0), false});
-    }
-  }
-  items_ = std::move(pieces);
   return *this;
 }
 
@@ -59,12 +37,7 @@ Exchange& Exchange::WriteFails() {
   return *this;
 }
 
-Exchange& Exchange::Vanish() {
-  items_.push_back({{}, std::exchange(delayMs_, 0), true});
-  return *this;
-}
-
-ScriptedHandset::ScriptedHandset(FakeClock& clock) : clock_(clock), heard_(kFramesKept) {
+ScriptedHandset::ScriptedHandset(FakeClock& clock) : clock_(clock), heard_(100'000) {
   current_ = this;
 }
 
@@ -119,7 +92,7 @@ void ScriptedHandset::Say(std::uint8_t type, std::uint8_t subtype, const Payload
 
 void ScriptedHandset::SayRaw(const Payload& bytes, std::uint32_t afterMs) {
   const std::lock_guard lock(mutex_);
-  Add({bytes.Get(), afterMs, false});
+  Add({bytes.Get(), afterMs});
   PostAll();
 }
 
@@ -193,9 +166,8 @@ std::int32_t ScriptedHandset::Read(void* buffer, std::uint32_t maxBytes, std::ui
       std::copy_n(piece.bytes.begin(), count, static_cast<std::uint8_t*>(buffer));
       piece.bytes.erase(piece.bytes.begin(),
                         piece.bytes.begin() + static_cast<std::ptrdiff_t>(count));
-      gone_ = gone_ || piece.vanish;
       if (piece.bytes.empty()) pieces_.pop_front();
-      return gone_ ? -1 : static_cast<std::int32_t>(count);
+      return static_cast<std::int32_t>(count);
     }
   }
   clock_.SleepMs(timeLimitMs);
@@ -264,7 +236,6 @@ void ScriptedHandset::Add(Piece piece) {
 void ScriptedHandset::PostAll() {
   if (!receiver_ || !open_) return;
   for (Piece& piece : pieces_) {
-    gone_ = gone_ || piece.vanish;
     const Bytes& chunk = posted_.emplace_back(std::move(piece.bytes));
     if (chunk.empty()) continue;
     EXPECT_TRUE(platform::PostMessageToThread(receiver_->threadId, receiver_->messageId,

@@ -22,11 +22,10 @@ namespace merovane::test {
 Bytes WireFrame(bool bigEndian, std::uint8_t type, std::uint8_t subtype, const Bytes& payload,
                 std::uint32_t sequence = 0);
 
-// What a handset says at once, or its end.
+// What a handset says at once.
 struct Piece {
   Bytes bytes;
   std::uint32_t delayMs = 0;  // after the piece before it
-  bool vanish = false;
 };
 
 // One expected request and what it is answered with, in order.
@@ -41,14 +40,10 @@ class Exchange {
   Exchange& Silent() { return *this; }
   // What follows comes that much later than what stands before it.
   Exchange& After(std::uint32_t ms);
-  // What stands before arrives in pieces of that many bytes, each a read of its own.
-  Exchange& Split(std::size_t pieceBytes);
   // The request must carry this in its sequence field; it is 0 otherwise.
   Exchange& Sequence(std::uint32_t value);
   // The channel takes the request only in part.
   Exchange& WriteFails();
-  // The device is gone from here on.
-  Exchange& Vanish();
 
  private:
   friend class ScriptedHandset;
