@@ -3,6 +3,7 @@
 #include <random>
 
 #include "brimwell/brimwell.h"
+#include "commands/crc16.h"
 
 namespace merovane::test {
 
@@ -40,6 +41,28 @@ std::uint32_t CommandFixture::OperationOf(Result result) {
   EXPECT_EQ(Spec_GetLastError(BRIMWELL_MODULE_PHONE_COMMAND, &error), 1);
   EXPECT_EQ(error.code, static_cast<std::int32_t>(result));
   return error.operation;
+}
+
+std::vector<std::string> CommandFixture::LogNames() {
+  std::vector<std::string> lines = LogText();
+  std::erase(lines, "Clear Port Buffer");
+  return lines;
+}
+
+void CommandFixture::ExpectLogged(std::vector<std::string> names, Result result) {
+  names.push_back(ResultLine(result));
+  EXPECT_EQ(LogNames(), names);
+}
+
+void CommandFixture::ExpectTakes(std::uint32_t ms, Result result,
+                                 const std::function<Result()>& call) {
+  const std::uint32_t before = clock.NowMs();
+  EXPECT_EQ(call(), result);
+  EXPECT_EQ(clock.NowMs() - before, ms);
+}
+
+Bytes CommandFixture::Checked(const Bytes& block) {
+  return commands::WithChecksum(phone.link.Order(), block);
 }
 
 std::string ResultLine(Result result) {

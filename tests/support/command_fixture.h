@@ -41,6 +41,13 @@ class CommandFixture : public ::testing::Test {
   // What the Useful log has gained since it was last asked; see LogReader.
   std::vector<std::string> Log() { return usefulLog.Take(); }
   std::vector<std::string> LogText() { return usefulLog.TakeText(); }
+  // The same without the line that every request leaves.
+  std::vector<std::string> LogNames();
+  // Those, and the result's after them.
+  void ExpectLogged(std::vector<std::string> names, Result result = Result::Success);
+  // The call gives that result, and takes so long.
+  void ExpectTakes(std::uint32_t ms, Result result, const std::function<Result()>& call);
+  Bytes Checked(const Bytes& block);
 
   const std::int32_t port = TestPort();
   TempDirectory directory;

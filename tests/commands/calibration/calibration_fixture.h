@@ -50,24 +50,6 @@ struct CalibrationFixture : CommandFixture {
     const Fields start = Header({0, band, 29, 0, 20, first, second}).U32(2).U16(18);
     return Fields(start).U8(on).Zeros(7).U8(directCurrent).U8(0);
   }
-
-  // What the log has gained, without the line that every request leaves.
-  std::vector<std::string> LogNames() {
-    std::vector<std::string> lines = LogText();
-    std::erase(lines, "Clear Port Buffer");
-    return lines;
-  }
-
-  void ExpectLogged(std::vector<std::string> lines, Result result = Result::Success) {
-    lines.push_back(ResultLine(result));
-    EXPECT_EQ(LogNames(), lines);
-  }
-
-  std::uint32_t ElapsedMs(const std::function<void()>& body) {
-    const std::uint32_t before = clock.NowMs();
-    body();
-    return clock.NowMs() - before;
-  }
 };
 
 }  // namespace merovane::test

@@ -59,7 +59,7 @@ TEST_F(ExtendedAfc, FirstBlockAloneMakesAnEmptyReport) {
   // Two more tries for a longer one, which does not come.
   ExpectStart().Answer(10, 1, Block(9, 499));
   ExpectStop();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Start(), Result::Success); }), 6000U);
+  ExpectTakes(6000U, Result::Success, [&] { return Start(); });
 }
 
 TEST_F(ExtendedAfc, ShortAnswersAreSkippedAndEndTheReport) {
@@ -73,7 +73,7 @@ TEST_F(ExtendedAfc, ShortAnswersAreSkippedAndEndTheReport) {
 
 TEST_F(ExtendedAfc, FailureEndsTheRunAndLeavesTheRecord) {
   const auto failsWith = [&](Result result, std::uint32_t waitedMs) {
-    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Start(), result); }), waitedMs);
+    ExpectTakes(waitedMs, result, [&] { return Start(); });
   };
   ExpectStart().Silent();
   failsWith(Result::NoAnswer, 9000);

@@ -38,7 +38,7 @@ TEST_F(CalibrationMode, CannotBeConfirmedWithoutAnIncrement) {
   ExpectLogged({"Change to GSM CAL Mode:", "Read _CNF:"}, Result::NoAnswer);
   const auto waits = [&](auto command, std::int32_t mode, std::uint32_t ms, const char* logName) {
     handset.ExpectAnyPayload(10, 0).Silent();
-    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(command(phone, mode), Result::NoAnswer); }), ms);
+    ExpectTakes(ms, Result::NoAnswer, [&] { return command(phone, mode); });
     ExpectLogged({logName}, Result::NoAnswer);
   };
   waits(&ChangeGSMTDCalMode, 1, 3000, "Change to GSM CAL Mode:");
@@ -46,7 +46,7 @@ TEST_F(CalibrationMode, CannotBeConfirmedWithoutAnIncrement) {
   // A negative increment takes time away from the first wait, and leaves none for the second.
   settings.receiveIncrementMs = static_cast<std::uint32_t>(-500);
   handset.ExpectAnyPayload(10, 0).Answer(10, 0);
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(ChangeGSMTDCalMode(phone, 1), Result::NoAnswer); }), 0U);
+  ExpectTakes(0U, Result::NoAnswer, [&] { return ChangeGSMTDCalMode(phone, 1); });
 }
 
 TEST_F(CalibrationMode, OfTheOtherPathIsAskedForWhateverComesBack) {
@@ -78,7 +78,7 @@ TEST_F(Receiver, ReportsLevelsInAFrameOfAnyType) {
     handset.Expect(10, 0, Words(Fields(parts).U32(0x0A0B0C0D), {18, 0}))
         .Answer(10, 0)
         .Answer(55, 7, Words(handset.Message().Zeros(18).U32(0xCAFEF00D), {300, 0xABCD, 9}));
-    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Measure(), Result::Success); }), 200U);
+    ExpectTakes(200U, Result::Success, [&] { return Measure(); });
     EXPECT_EQ(measured[0].value, 0xCAFEF00D);
     EXPECT_EQ(measured[0].rx_level, 300);
     EXPECT_EQ(measured[0].rssi, 0xABCD);
@@ -100,9 +100,9 @@ TEST_F(Receiver, ReadsZerosAfterTheEndOfAShortReport) {
 
 TEST_F(Receiver, LeavesTheResultWhenNoReportComes) {
   handset.ExpectAnyPayload(10, 0).Answer(10, 0);
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Measure(), Result::NoData); }), 200U + 1000U);
+  ExpectTakes(200U + 1000U, Result::NoData, [&] { return Measure(); });
   handset.ExpectAnyPayload(10, 0).Silent();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(Measure(), Result::NoAnswer); }), 1000U);
+  ExpectTakes(1000U, Result::NoAnswer, [&] { return Measure(); });
   EXPECT_TRUE(measured.Untouched());
 }
 

@@ -42,7 +42,7 @@ TEST_F(MultiChip, StepsWaitAsLongAsTheirLimits) {
   const auto waits = [&](std::uint32_t waitedMs, std::size_t requests, std::uint8_t subtype,
                          const std::function<Result()>& step) {
     for (; requests > 0; --requests) handset.ExpectAnyPayload(32, subtype).Silent();
-    EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(step(), Result::NoAnswer); }), waitedMs);
+    ExpectTakes(waitedMs, Result::NoAnswer, [&] { return step(); });
   };
   waits(1000, 1, 0, [&] { return steps::SetTch(phone, 1); });
   waits(1000, 1, 0, [&] { return steps::SwitchTransmitter(phone, true); });
@@ -123,10 +123,8 @@ TEST_F(MultiChip, AgcMeasuresUntilRssiSettles) {
     ExpectWordRead(1, 25, 0x40);
     ExpectWordRead(1, 26, 300);
     static_cast<void>(Log());
-    EXPECT_EQ(ElapsedMs([&] {
-                EXPECT_EQ(AgcStart_MChip(phone, 1, &parameters, measured.Data()), Result::Success);
-              }),
-              200U + 2 * 20);
+    ExpectTakes(200U + 2 * 20, Result::Success,
+                [&] { return AgcStart_MChip(phone, 1, &parameters, measured.Data()); });
     EXPECT_EQ(measured[0].rssi, 0x40);
     EXPECT_EQ(measured[0].rx_level, 300);
     EXPECT_EQ(measured[0].value, 0xA5A5A5A5);
@@ -168,8 +166,7 @@ TEST_F(MultiChip, DirectCurrentEndsWithTheReceiverOffWhateverFailed) {
   ExpectWrite(ReceiverRequest(0, 1, 0, 260, 1));
   ExpectRead(Header({0, 0, 41, 0, 4}), ReadAnswer().U16(0x1122).U16(0x3344));
   handset.Expect(32, 0, ReceiverRequest(0, 0, 0, 260)).Refuse();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(CalDirectCurr(phone, &first, &second), Result::Success); }),
-            100U);
+  ExpectTakes(100U, Result::Success, [&] { return CalDirectCurr(phone, &first, &second); });
   EXPECT_EQ(first, 0x3344);
   EXPECT_EQ(second, 0x1122);
   EXPECT_EQ(OperationOf(Result::Success), 258U);
@@ -231,42 +228,33 @@ TEST_F(MultiChipData, FactorsAreWrittenOnceEachToItsOwnPlace) {
   }
 }
 
-TEST_F(MultiChipData, RampsAreWrittenInPairs) {
+TEST_F(MultiChipData, RampsAreWrittenAndReadInPairs) {
   const std::array<std::uint16_t, 16> up{0x0102, 2};
   const std::array<std::uint16_t, 16> down{0x0304, 4};
-  const auto written = [&](auto command, const char* name, std::uint32_t operation, unsigned flag,
-                           unsigned storage, unsigned firstItem, unsigned secondItem) {
-    ExpectWrite(Header({storage, 4, firstItem, 0, 32}).U16(0x0102).U16(2).Zeros(28));
-    ExpectWrite(Header({storage, 4, secondItem, 0, 32}).U16(0x0304).U16(4).Zeros(28));
-    EXPECT_EQ(command(phone, flag, up.data(), down.data(), 4), Result::Success);
-    EXPECT_EQ(OperationOf(Result::Success), operation);
-    ExpectLogged({name});
-  };
-  InBothByteOrders([&] {
-    written(RampSetting_Ram_MChip, "RampSetting_Ram_MChip:", 137, 0, 0, 8, 10);
-    written(RampSetting_Flash_MChip, "RampSetting_Flash_MChip:", 139, 0x100, 1, 9, 11);
-    ExpectWriteRefused();
-    EXPECT_EQ(RampSetting_Ram_MChip(phone, 0, up.data(), down.data(), 4), Result::Refused);
-    static_cast<void>(Log());
-  });
-}
-
-TEST_F(MultiChipData, RampsAreReadInPairs) {
   GuardedBuffer<std::uint16_t> first(16);
   GuardedBuffer<std::uint16_t> second(16);
-  const auto read = [&](auto command, const char* name, std::uint32_t operation, unsigned flag,
-                        unsigned storage, unsigned firstItem, unsigned secondItem) {
-    ExpectRead(Header({storage, 3, firstItem, 0, 32}), ReadAnswer().U16(0x1234).Zeros(40));
-    ExpectRead(Header({storage, 3, secondItem, 0, 32}), ReadAnswer().U16(0x5678));
-    EXPECT_EQ(command(phone, flag, first.Data(), second.Data(), 3), Result::Success);
+  const auto moves = [&](const char* storageName, auto write, auto read, std::uint32_t operation,
+                         unsigned storage, unsigned firstItem) {
+    const unsigned flag = storage * 0x100;
+    ExpectWrite(Header({storage, 4, firstItem, 0, 32}).U16(0x0102).U16(2).Zeros(28));
+    ExpectWrite(Header({storage, 4, firstItem + 2, 0, 32}).U16(0x0304).U16(4).Zeros(28));
+    EXPECT_EQ(write(phone, flag, up.data(), down.data(), 4), Result::Success);
     EXPECT_EQ(OperationOf(Result::Success), operation);
-    ExpectLogged({name});
+    ExpectLogged({std::string("RampSetting_") + storageName});
+    ExpectRead(Header({storage, 3, firstItem, 0, 32}), ReadAnswer().U16(0x1234).Zeros(40));
+    ExpectRead(Header({storage, 3, firstItem + 2, 0, 32}), ReadAnswer().U16(0x5678));
+    EXPECT_EQ(read(phone, flag, first.Data(), second.Data(), 3), Result::Success);
+    EXPECT_EQ(OperationOf(Result::Success), operation + 1);
+    ExpectLogged({std::string("ReadRamp_") + storageName});
     EXPECT_THAT((std::array{first[0], first[15], second[0]}), ElementsAre(0x1234, 0, 0x5678));
     EXPECT_TRUE(second.UntouchedFrom(1));
+    ExpectWriteRefused();
+    EXPECT_EQ(write(phone, flag, up.data(), down.data(), 4), Result::Refused);
+    static_cast<void>(Log());
   };
   InBothByteOrders([&] {
-    read(ReadRamp_Ram_MChip, "ReadRamp_Ram_MChip:", 138, 0, 0, 8, 10);
-    read(ReadRamp_Flash_MChip, "ReadRamp_Flash_MChip:", 140, 0x100, 1, 9, 11);
+    moves("Ram_MChip:", RampSetting_Ram_MChip, ReadRamp_Ram_MChip, 137, 0, 8);
+    moves("Flash_MChip:", RampSetting_Flash_MChip, ReadRamp_Flash_MChip, 139, 1, 9);
   });
 }
 

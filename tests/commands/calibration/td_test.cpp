@@ -44,7 +44,7 @@ TEST_F(Td, StartModeIsAcknowledgedByTheNextFrame) {
   EXPECT_EQ(SetPhoneStartMode_TD(phone, 0), Result::EnterModeFailed);
   settings.receiveIncrementMs = 500;
   handset.Expect(254, 128).Silent();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(SetPhoneStartMode_TD(phone, 0), Result::NoData); }), 3000U);
+  ExpectTakes(3000U, Result::NoData, [&] { return SetPhoneStartMode_TD(phone, 0); });
   handset.Expect(254, 128).WriteFails();
   EXPECT_EQ(SetPhoneStartMode_TD(phone, 0), Result::WriteFailed);
 }
@@ -82,8 +82,7 @@ TEST_F(TdParameters, AreNotTakenFromAnAnswerThatLacksThem) {
   EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::WrongDataLength);
   EXPECT_EQ(LogNames().back(), ResultLine(Result::WrongDataLength));
   handset.ExpectAnyPayload(36, 0).Silent();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(ReadTDCalParam(phone, Record(2)), Result::NoAnswer); }),
-            1000U);
+  ExpectTakes(1000U, Result::NoAnswer, [&] { return ReadTDCalParam(phone, Record(2)); });
   EXPECT_EQ(memory.Hex(10), "04 03 02 01 02 00 A5 A5 A5 A5");
 }
 
@@ -112,8 +111,7 @@ TEST_F(TdParameters, AreWrittenAndCounted) {
   });
   record->count = 2;
   handset.ExpectAnyPayload(36, 1).Silent();
-  EXPECT_EQ(ElapsedMs([&] { EXPECT_EQ(WriteTDCalParam(phone, record.get()), Result::NoAnswer); }),
-            1000U);
+  ExpectTakes(1000U, Result::NoAnswer, [&] { return WriteTDCalParam(phone, record.get()); });
   for (const auto& [answer, expected] : {std::pair{"00 00 00 00 02 00 00", Result::ParseFailed},
                                          {"00 00 00 00 01 00 00 00", Result::WrongDataLength},
                                          {"00 00 00 00 03 00 00 00", Result::WrongDataLength}}) {
