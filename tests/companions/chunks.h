@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 
 #include "companions/peers.h"
 #include "platform/message_queue.h"
@@ -14,15 +15,18 @@ using merovane::platform::Message;
 using merovane::platform::PostMessageToThread;
 using merovane::platform::TakeMessage;
 
+inline std::string_view ChunkOf(const Message& message) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): a message carries an address as a number
+  return {reinterpret_cast<const char*>(message.first), static_cast<std::size_t>(message.second)};
+}
+
 // Takes chunks until `bytes` bytes are there.
 inline std::string TakeChunks(std::uint32_t messageId, std::size_t bytes) {
   std::string data;
   Message message;
   while (data.size() < bytes && TakeMessage(message, kPatienceMs)) {
     EXPECT_EQ(message.id, messageId);
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): a message carries an address as a number
-    data.append(reinterpret_cast<const char*>(message.first),
-                static_cast<std::size_t>(message.second));
+    data.append(ChunkOf(message));
   }
   return data;
 }

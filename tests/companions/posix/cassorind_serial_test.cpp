@@ -17,48 +17,46 @@ std::size_t OpenDescriptors() {
       std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator()));
 }
 
-TEST(CassorindSerial, OpensAndClosesLeaveNoDescriptors) {
-  const PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
+struct CassorindSerial : ::testing::Test {
+  bool Open(std::uint32_t rate = 115200) { return OpenAt(*channel, kPort, rate); }
+
+  PtyPeer pty;
+  const PortDevice device{kPort, pty.DeviceName()};
   const ChannelPointer channel = NewChannel();
+};
+
+TEST_F(CassorindSerial, OpensAndClosesLeaveNoDescriptors) {
   ASSERT_NE(channel->SetReceiver(1124, 1, merovane::platform::CurrentThreadId()), 0);
   const std::size_t before = OpenDescriptors();
   for (int i = 0; i < 50; ++i) {
-    ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+    ASSERT_TRUE(Open());
     EXPECT_GT(OpenDescriptors(), before);
     EXPECT_NE(channel->Close(), 0);
   }
   EXPECT_EQ(OpenDescriptors(), before);
 }
 
-TEST(CassorindSerial, IsOnlyATerminalThatIsThere) {
+TEST_F(CassorindSerial, IsOnlyATerminalThatIsThere) {
   const std::string vanished = PtyPeer().DeviceName();
-  const ChannelPointer channel = NewChannel();
-  for (const std::string& device : {vanished, std::string("/dev/null"), std::string("/tmp")}) {
-    const PortDevice named(kPort, device);
-    EXPECT_FALSE(OpenAt(*channel, kPort, 115200)) << device;
+  for (const std::string& name : {vanished, std::string("/dev/null"), std::string("/tmp")}) {
+    const PortDevice named(kPort, name);
+    EXPECT_FALSE(Open()) << name;
   }
 }
 
-TEST(CassorindSerial, HasOneUserAtATime) {
-  const PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer first = NewChannel();
+TEST_F(CassorindSerial, HasOneUserAtATime) {
   const ChannelPointer second = NewChannel();
-  ASSERT_TRUE(OpenAt(*first, kPort, 115200));
-  EXPECT_FALSE(OpenAt(*first, kPort, 115200));
+  ASSERT_TRUE(Open());
+  EXPECT_FALSE(Open());
   EXPECT_FALSE(OpenAt(*second, kPort, 115200));
-  EXPECT_NE(first->Close(), 0);
-  EXPECT_EQ(first->Close(), 0);
+  EXPECT_NE(channel->Close(), 0);
+  EXPECT_EQ(channel->Close(), 0);
   EXPECT_TRUE(OpenAt(*second, kPort, 115200));
 }
 
-TEST(CassorindSerial, IsRawWithEightBitsAtTheGivenRate) {
-  const PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer channel = NewChannel();
+TEST_F(CassorindSerial, IsRawWithEightBitsAtTheGivenRate) {
   for (const std::uint32_t rate : {1200u, 9600u, 115200u, 128000u, 921600u, 4000000u}) {
-    ASSERT_TRUE(OpenAt(*channel, kPort, rate)) << rate;
+    ASSERT_TRUE(Open(rate)) << rate;
     const termios2 settings = pty.Settings();
     EXPECT_EQ(settings.c_ospeed, rate);
     EXPECT_EQ(settings.c_cflag & (CSIZE | PARENB | CSTOPB | CRTSCTS), static_cast<tcflag_t>(CS8));
@@ -67,18 +65,15 @@ TEST(CassorindSerial, IsRawWithEightBitsAtTheGivenRate) {
     EXPECT_EQ(settings.c_lflag, 0u);
     channel->Close();
   }
-  EXPECT_FALSE(OpenAt(*channel, kPort, 0));
-  EXPECT_FALSE(OpenAt(*channel, kPort, 4000001));
+  EXPECT_FALSE(Open(0));
+  EXPECT_FALSE(Open(4000001));
 }
 
-TEST(CassorindSerial, DropsWhatCameBeforeTheOpen) {
-  PtyPeer pty;
-  const PortDevice device(kPort, pty.DeviceName());
-  const ChannelPointer channel = NewChannel();
-  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+TEST_F(CassorindSerial, DropsWhatCameBeforeTheOpen) {
+  ASSERT_TRUE(Open());
   pty.Send("stale\n");
   channel->Close();
-  ASSERT_TRUE(OpenAt(*channel, kPort, 115200));
+  ASSERT_TRUE(Open());
   pty.Send("new");
   EXPECT_EQ(ReadAll(*channel, 3), "new");
 }
