@@ -39,16 +39,16 @@ TEST(BadInput, ProjectCutAnywhereLoadsOrFails) {
 }
 
 TEST(BadInput, FilesThatAreNone) {
-  const TemporaryDirectory directory;
+  const test::TempDirectory directory;
   std::unique_ptr<CFileParser> project;
   const auto open = [&](const std::string& name) {
-    return OpenPrjFile(project, directory.Path(name).c_str());
+    return OpenPrjFile(project, (directory / name).string().c_str());
   };
-  std::filesystem::create_directory(directory.Path("folder"));
-  WriteFile(directory.Path("empty"), "");
-  WriteFile(directory.Path("binary"), std::string(100000, '\0') + std::string(100000, '\xFF'));
-  WriteFile(directory.Path("names_folder"), "MODULE = folder\n");
-  WriteFile(directory.Path("names_itself"), "MODULE = names_itself\n");
+  std::filesystem::create_directory(directory / "folder");
+  directory.Write("empty", "");
+  directory.Write("binary", std::string(100000, '\0') + std::string(100000, '\xFF'));
+  directory.Write("names_folder", "MODULE = folder\n");
+  directory.Write("names_itself", "MODULE = names_itself\n");
   for (const char* name : {"folder", "empty", "binary", "missing", "names_folder"}) {
     EXPECT_EQ(open(name), Result::OpenNvProjectFailed) << name;
   }

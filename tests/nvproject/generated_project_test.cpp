@@ -29,7 +29,7 @@ class GeneratedProject : public ::testing::TestWithParam<Variant> {
                                       .seed = 3,
                                       .areoSpelling = GetParam().areoSpelling,
                                       .decimalAgcWords = GetParam().decimalAgcWords});
-    ASSERT_TRUE(parser.LoadProject(projectgen::Write(generated, directory.Path("x")).string()));
+    ASSERT_TRUE(parser.LoadProject(projectgen::Write(generated, directory / "x").string()));
     common = "calibration_param_T.rf_param_dsp_use.rf_common_param_dsp_use.";
     afc = common + (GetParam().areoSpelling ? "areo2" : "aero2") + "_RF_AFC_STRUCT.";
   }
@@ -61,7 +61,7 @@ class GeneratedProject : public ::testing::TestWithParam<Variant> {
     return values;
   }
 
-  TemporaryDirectory directory;
+  test::TempDirectory directory;
   projectgen::Project generated;
   CFileParser parser;
   std::string common;

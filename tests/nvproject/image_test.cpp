@@ -119,20 +119,20 @@ class ImageFile : public ::testing::Test {
       const std::string& target,
       const std::vector<TestItem>& items = {
           {.name = "a", .type = kShort, .length = 2, .content = "258", .id = 1}}) {
-    WriteFile(directory.Path("p"), "TARGET = " + target + "\nMODULE = m\n");
-    WriteFile(directory.Path("m"), ModuleFile(items));
+    directory.Write("p", "TARGET = " + target + "\nMODULE = m\n");
+    directory.Write("m", ModuleFile(items));
     auto parser = std::make_unique<CFileParser>();
-    return parser->LoadProject(directory.Path("p")) ? std::move(parser) : nullptr;
+    return parser->LoadProject((directory / "p").string()) ? std::move(parser) : nullptr;
   }
 
-  TemporaryDirectory directory;
+  test::TempDirectory directory;
   CaughtMessages messages;
 };
 
 TEST_F(ImageFile, IsWrittenToTheTarget) {
   const auto parser = Open("nv.bin");
   EXPECT_EQ(SaveToBinaryFile(parser.get(), kLittle), Result::Success);
-  EXPECT_EQ(test::FileText(directory.Path("nv.bin")), std::string("\4\3\2\1\1\0\2\0\2\1\0\0", 12));
+  EXPECT_EQ(test::FileText(directory / "nv.bin"), std::string("\4\3\2\1\1\0\2\0\2\1\0\0", 12));
   EXPECT_THAT(messages.Texts(), IsEmpty());
 }
 
@@ -145,21 +145,21 @@ TEST_F(ImageFile, FailuresAreShownOnly) {
 }
 
 TEST_F(ImageFile, TooLargeAnImageLeavesTheOldFile) {
-  WriteFile(directory.Path("nv.bin"), "old");
+  directory.Write("nv.bin", "old");
   EXPECT_EQ(SaveToBinaryFile(Open("nv.bin", ArrayOf(32765)).get(), kBig), Result::BufferTooSmall);
-  EXPECT_EQ(test::FileText(directory.Path("nv.bin")), "old");
+  EXPECT_EQ(test::FileText(directory / "nv.bin"), "old");
 }
 
 TEST_F(ImageFile, AlternativeBasePutsDspCodeFirst) {
   const auto parser = Open("nv.bin");
-  EXPECT_EQ(parser->SaveImage(kBig, directory.Path("none")), Result::Success);
+  EXPECT_EQ(parser->SaveImage(kBig, (directory / "none").string()), Result::Success);
   EXPECT_THAT(messages.Texts(),
               ElementsAre("Error: Can't open DSP Code file, Please check the file is exist!"));
-  EXPECT_FALSE(std::filesystem::exists(directory.Path("nv.bin")));
+  EXPECT_FALSE(std::filesystem::exists(directory / "nv.bin"));
 
-  WriteFile(directory.Path("dsp"), "ABCDE");
-  EXPECT_EQ(parser->SaveImage(kBig, directory.Path("dsp")), Result::Success);
-  const std::string image = test::FileText(directory.Path("nv.bin"));
+  directory.Write("dsp", "ABCDE");
+  EXPECT_EQ(parser->SaveImage(kBig, (directory / "dsp").string()), Result::Success);
+  const std::string image = test::FileText(directory / "nv.bin");
   ASSERT_EQ(image.size(), 49168U);
   EXPECT_EQ(image.substr(0, 16), std::string("\1\2\3\4\0\4\xC0\0BADC\0E\0\0", 16));
   EXPECT_EQ(image.substr(49160), std::string("\0\1\0\2\1\2\0\0", 8));

@@ -141,9 +141,9 @@ TEST(Reader, ProjectWithoutDirectoryEndsAtTheFirstPathAndStaysOpen) {
   EXPECT_EQ(parser->Project().description, "");
   EXPECT_THAT(parser->Modules(), SizeIs(0));
   EXPECT_FALSE(parser->LoadProject("p"));
-  const TemporaryDirectory directory;
-  EXPECT_FALSE(parser->CreateProject("n", directory.Path("new"), "", ""));
-  EXPECT_FALSE(std::filesystem::exists(directory.Path("new")));
+  const test::TempDirectory directory;
+  EXPECT_FALSE(parser->CreateProject("n", (directory / "new").string(), "", ""));
+  EXPECT_FALSE(std::filesystem::exists(directory / "new"));
 }
 
 TEST(Reader, OnlyAbsolutePathsDoNotFollowTheProjectsFolder) {

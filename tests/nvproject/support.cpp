@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <sstream>
 #include <utility>
 
@@ -51,10 +50,6 @@ std::unique_ptr<CFileParser> Load(const std::vector<std::vector<TestItem>>& modu
   files["d\\p"] = ProjectFile(names);
   auto parser = ParserOf(std::move(files));
   return parser->LoadProject("d\\p") ? std::move(parser) : nullptr;
-}
-
-void WriteFile(const std::string& path, std::string_view bytes) {
-  std::ofstream(path, std::ios::binary) << bytes;
 }
 
 CaughtMessages::CaughtMessages() {

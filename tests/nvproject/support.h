@@ -37,13 +37,6 @@ std::unique_ptr<CFileParser> ParserOf(std::map<std::string, std::string> files);
 // Loads a project of these modules.
 std::unique_ptr<CFileParser> Load(const std::vector<std::vector<TestItem>>& modules);
 
-struct TemporaryDirectory : test::TempDirectory {
-  using TempDirectory::Path;
-  std::string Path(std::string_view name) const { return (*this / name).string(); }
-};
-
-void WriteFile(const std::string& path, std::string_view bytes);
-
 // Message boxes while it lives, as "caption: text".
 class CaughtMessages {
  public:

@@ -78,15 +78,15 @@ TEST(Commands, GetNvValueFillsTheCapacity) {
 }
 
 TEST(Commands, OpenReplacesAndAFailedOpenLeavesNone) {
-  const TemporaryDirectory directory;
-  WriteFile(directory.Path("p"), "MODULE = m\n");
-  WriteFile(directory.Path("m"), "");
+  const test::TempDirectory directory;
+  directory.Write("p", "MODULE = m\n");
+  directory.Write("m", "");
   std::unique_ptr<CFileParser> project;
-  EXPECT_EQ(OpenPrjFile(project, directory.Path("p").c_str()), Result::Success);
+  EXPECT_EQ(OpenPrjFile(project, (directory / "p").string().c_str()), Result::Success);
   const CFileParser* const first = project.get();
   EXPECT_EQ(OpenPrjFile(project, nullptr), Result::InvalidParam);
   EXPECT_EQ(project.get(), first);
-  EXPECT_EQ(OpenPrjFile(project, directory.Path("q").c_str()), Result::OpenNvProjectFailed);
+  EXPECT_EQ(OpenPrjFile(project, (directory / "q").string().c_str()), Result::OpenNvProjectFailed);
   EXPECT_EQ(project, nullptr);
   EXPECT_EQ(ClosePrjFile(project), Result::Success);
 }
