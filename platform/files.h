@@ -13,6 +13,8 @@ namespace merovane::platform {
 std::filesystem::path ExecutableDirectory();
 // The system's directory for temporary files.
 std::filesystem::path TemporaryDirectory();
+// Makes a new directory there, whose name starts with `prefix`; empty when it cannot be made.
+std::filesystem::path MakeTemporaryDirectory(const std::string& prefix);
 
 // A path as callers and project files write it: bytes in the system's narrow encoding, both
 // separators taken on every system.

@@ -2,6 +2,7 @@
 #include "platform/files.h"
 
 #include <fcntl.h>
+#include <stdlib.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,6 +22,12 @@ std::filesystem::path TemporaryDirectory() {
   std::error_code error;
   std::filesystem::path directory = std::filesystem::temp_directory_path(error);
   return error ? "/tmp" : directory;
+}
+
+std::filesystem::path MakeTemporaryDirectory(const std::string& prefix) {
+  std::string path = (TemporaryDirectory() / (prefix + "XXXXXX")).string();
+  if (mkdtemp(path.data()) == nullptr) return {};
+  return path;
 }
 
 std::filesystem::path PathFromText(std::string_view text) {

@@ -16,6 +16,16 @@ std::filesystem::path TemporaryDirectory() {
   return error ? ExecutableDirectory() : directory;
 }
 
+std::filesystem::path MakeTemporaryDirectory(const std::string& prefix) {
+  const auto name = TemporaryDirectory() / (prefix + std::to_string(GetCurrentProcessId()) + "-");
+  for (std::uint64_t number = GetTickCount64();; ++number) {
+    std::filesystem::path path = name;
+    path += std::to_string(number);
+    if (CreateDirectoryW(path.c_str(), nullptr)) return path;
+    if (GetLastError() != ERROR_ALREADY_EXISTS) return {};
+  }
+}
+
 std::filesystem::path PathFromText(std::string_view text) { return WideFromNarrow(text); }
 
 bool IsAbsolutePath(std::string_view text) {

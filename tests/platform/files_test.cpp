@@ -81,6 +81,12 @@ TEST(Paths, AreThoseOfTheProgramAndTheSystem) {
   EXPECT_TRUE(ExecutableDirectory().is_absolute());
   EXPECT_TRUE(std::filesystem::exists(ExecutableDirectory() / "platform_test") ||
               std::filesystem::exists(ExecutableDirectory() / "platform_test.exe"));
+  const auto first = MakeTemporaryDirectory("merovane-test-");
+  const auto second = MakeTemporaryDirectory("merovane-test-");
+  EXPECT_EQ(first, TemporaryDirectory() / first.filename());
+  // Each is there and empty.
+  EXPECT_TRUE(std::filesystem::remove(first));
+  EXPECT_TRUE(std::filesystem::remove(second));
 }
 
 }  // namespace

@@ -1,54 +1,38 @@
 #include "transport/posix/link_file.h"
 
-#include <sys/socket.h>
-#include <sys/un.h>
-#include <unistd.h>
-
-#include <cstddef>
-#include <cstdio>
-#include <cstdlib>
 #include <stdexcept>
 #include <string>
 #include <utility>
 
+#include "platform/files.h"
+
 namespace handset {
 namespace fs = std::filesystem;
+namespace platform = merovane::platform;
 
 LinkFile::LinkFile(fs::path path) : path_(std::move(path)) {
   if (!path_.empty()) {
     Claim();
     return;
   }
-  std::string pattern = (fs::temp_directory_path() / "merovane-handset-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) {
-    throw std::runtime_error("cannot make a folder for the port's link: " + pattern);
+  ownFolder_ = platform::MakeTemporaryDirectory("merovane-handset-");
+  if (ownFolder_.empty()) {
+    throw std::runtime_error("cannot make a folder for the port's link in " +
+                             platform::TemporaryDirectory().string());
   }
-  ownFolder_ = pattern;
   path_ = ownFolder_ / "port";
 }
 
-// By the address of a socket that nobody talks to: the system frees it with the program, however
-// that ends, and nothing of it stays on the disk.
 void LinkFile::Claim() {
   std::error_code ignored;
   const fs::path whole = fs::weakly_canonical(fs::absolute(path_).parent_path(), ignored);
   const std::size_t hash = fs::hash_value(whole / path_.filename());
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  // A name that starts with a zero stands in no folder.
-  const int length = std::snprintf(address.sun_path + 1, sizeof address.sun_path - 1,
-                                   "merovane-handset-%zx", hash);
-  claim_ = socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-  const auto size = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 +
-                                           static_cast<std::size_t>(length));
-  if (bind(claim_, reinterpret_cast<const sockaddr*>(&address), size) == 0) return;
-  close(claim_);
-  throw std::runtime_error("another handset has the link " + path_.string());
+  claim_ = platform::ClaimName("merovane-handset-" + std::to_string(hash));
+  if (!claim_) throw std::runtime_error("another handset has the link " + path_.string());
 }
 
 LinkFile::~LinkFile() {
   Remove();
-  if (claim_ >= 0) close(claim_);
   std::error_code ignored;
   if (!ownFolder_.empty()) fs::remove(ownFolder_, ignored);
 }

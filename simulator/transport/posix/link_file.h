@@ -3,6 +3,9 @@
 #pragma once
 
 #include <filesystem>
+#include <memory>
+
+#include "platform/name_claim.h"
 
 namespace handset {
 
@@ -24,7 +27,7 @@ class LinkFile {
 
   std::filesystem::path path_;
   std::filesystem::path ownFolder_;
-  int claim_ = -1;
+  std::unique_ptr<merovane::platform::NameClaim> claim_;
 };
 
 }  // namespace handset

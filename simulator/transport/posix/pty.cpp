@@ -1,18 +1,11 @@
 // A pseudo-terminal under a symbolic link whose name stays.
-#include <fcntl.h>
-#include <poll.h>
-#include <stdlib.h>
-#include <sys/ioctl.h>
-#include <termios.h>
-#include <unistd.h>
-
 #include <asio/posix/stream_descriptor.hpp>
 #include <asio/steady_timer.hpp>
-#include <cerrno>
-#include <cstring>
 #include <stdexcept>
 #include <utility>
 
+#include "platform/device_handle.h"
+#include "platform/pseudo_terminal.h"
 #include "transport/posix/link_file.h"
 #include "transport/stream_pump.h"
 #include "transport/transport.h"
@@ -21,70 +14,29 @@ namespace handset {
 namespace {
 
 using asio::posix::stream_descriptor;
+namespace platform = merovane::platform;
 
 // The system tells when a station lets go of a pseudo-terminal, but not when one takes it.
 constexpr std::chrono::milliseconds kLookForStation{5};
 constexpr std::chrono::milliseconds kRetry{100};
-
-[[noreturn]] void Fail(const char* step) {
-  throw std::runtime_error(std::string("cannot make a pseudo-terminal: ") + step + ": " +
-                           std::strerror(errno));
-}
-
-// The station's end, held only while something is done to it: an end that is always held would
-// hide whether a station is there.
-class StationEnd {
- public:
-  explicit StationEnd(const std::string& path)
-      : fd_(open(path.c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC | O_NONBLOCK)) {}
-  StationEnd(const StationEnd&) = delete;
-  StationEnd& operator=(const StationEnd&) = delete;
-  ~StationEnd() {
-    if (fd_ >= 0) close(fd_);
-  }
-
-  bool IsOpen() const { return fd_ >= 0; }
-  bool MakeRaw() const {
-    termios settings{};
-    if (fd_ < 0 || tcgetattr(fd_, &settings) != 0) return false;
-    cfmakeraw(&settings);
-    settings.c_cflag |= CLOCAL | CREAD;
-    cfsetspeed(&settings, B115200);
-    return tcsetattr(fd_, TCSANOW, &settings) == 0;
-  }
-  int Unread() const {
-    int count = 0;
-    return fd_ >= 0 && ioctl(fd_, FIONREAD, &count) == 0 ? count : 0;
-  }
-  void DropUnread() const {
-    if (fd_ >= 0) tcflush(fd_, TCIFLUSH);
-  }
-
- private:
-  int fd_;
-};
 
 class PtyPort final : public Transport {
  public:
   PtyPort(asio::io_context& io, const PortOptions& options, TransportEvents events)
       : io_(io), timer_(io), link_(options.link), events_(std::move(events)) {}
 
-  ~PtyPort() override {
-    if (pump_) pump_->Close();
-  }
+  ~PtyPort() override { Close(); }
 
   void Appear() override {
-    const int fd = posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
-    if (fd < 0) Fail("open");
-    stream_descriptor master(io_, fd);
-    if (grantpt(fd) != 0 || unlockpt(fd) != 0) Fail("unlock");
-    char name[64];
-    if (ptsname_r(fd, name, sizeof name) != 0) Fail("name");
-    if (!StationEnd(name).MakeRaw()) Fail("set raw");
-    link_.PointTo(name);
-    device_ = name;
+    std::string whyNot;
+    auto terminal = platform::MakePseudoTerminal(whyNot);
+    if (!terminal) throw std::runtime_error("cannot make a pseudo-terminal: " + whyNot);
+    const auto handle = static_cast<int>(platform::SecondHandle(terminal->Handle()));
+    stream_descriptor stream(io_, handle);
+    link_.PointTo(terminal->DeviceName());
+    terminal_ = std::move(terminal);
     pump_ = std::make_shared<StreamPump<stream_descriptor>>(
-        std::move(master), [this](auto bytes) { events_.received(bytes); },
+        std::move(stream), [this](auto bytes) { events_.received(bytes); },
         [this] { StationLeft(); });
     LookForStation();
   }
@@ -93,14 +45,14 @@ class PtyPort final : public Transport {
     link_.Remove();
     timer_.cancel();
     lost_ = false;
-    if (pump_) std::exchange(pump_, nullptr)->Close();
+    Close();
     SetConnected(false);
   }
 
   bool CutConnection() override { return false; }
   bool Connected() const override { return connected_; }
   bool Drained() const override {
-    return !connected_ || (Backlog() == 0 && StationEnd(device_).Unread() == 0);
+    return !connected_ || (Backlog() == 0 && terminal_->Unread() == 0);
   }
   std::size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
 
@@ -112,12 +64,10 @@ class PtyPort final : public Transport {
 
  private:
   void LookForStation() {
-    pollfd state{pump_->Native().native_handle(), POLLIN, 0};
-    poll(&state, 1, 0);
-    const bool present = (state.revents & POLLHUP) == 0;
+    const auto station = terminal_->Look();
     // A station may have come, written and gone between two looks.
-    if (present || (state.revents & POLLIN) != 0) {
-      SetConnected(present);
+    if (station.open || station.hasBytes) {
+      SetConnected(station.open);
       pump_->Read();
       return;
     }
@@ -130,22 +80,16 @@ class PtyPort final : public Transport {
   void StationLeft() {
     SetConnected(false);
     pump_->DropBacklog();
-    if (DropUnread()) {
+    // What nobody read must not greet the next station, so it goes before anyone looks for that
+    // one.
+    if (terminal_->DropUnread()) {
       LookForStation();
       return;
     }
     // A station that died with the device in exclusive mode leaves it locked for good.
-    std::exchange(pump_, nullptr)->Close();
+    Close();
     lost_ = true;
     Replace();
-  }
-
-  // What nobody read must not greet the next station. The end is let go of before anyone looks
-  // for that one.
-  bool DropUnread() const {
-    const StationEnd end(device_);
-    end.DropUnread();
-    return end.IsOpen();
   }
 
   // Another device under the same link, as soon as the system has one.
@@ -162,6 +106,11 @@ class PtyPort final : public Transport {
     }
   }
 
+  void Close() {
+    if (pump_) std::exchange(pump_, nullptr)->Close();
+    terminal_.reset();
+  }
+
   void SetConnected(bool connected) {
     if (std::exchange(connected_, connected) != connected) events_.connection(connected);
   }
@@ -170,7 +119,7 @@ class PtyPort final : public Transport {
   asio::steady_timer timer_;
   LinkFile link_;
   TransportEvents events_;
-  std::string device_;
+  std::unique_ptr<platform::PseudoTerminal> terminal_;
   std::shared_ptr<StreamPump<stream_descriptor>> pump_;
   bool connected_ = false;
   bool lost_ = false;  // the device is to be replaced

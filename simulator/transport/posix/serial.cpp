@@ -1,14 +1,12 @@
 // A serial line to a station elsewhere. Whether somebody listens at its other end cannot be
 // known, so it counts as connected while the device is there.
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <asio/posix/stream_descriptor.hpp>
 #include <asio/serial_port.hpp>
 #include <asio/steady_timer.hpp>
 #include <stdexcept>
 #include <utility>
 
+#include "platform/device_handle.h"
 #include "transport/stream_pump.h"
 #include "transport/transport.h"
 
@@ -16,6 +14,7 @@ namespace handset {
 namespace {
 
 using asio::posix::stream_descriptor;
+namespace platform = merovane::platform;
 
 constexpr std::chrono::milliseconds kReopenInterval{500};
 
@@ -41,7 +40,7 @@ class SerialPort final : public Transport {
       port.set_option(asio::serial_port::stop_bits(asio::serial_port::stop_bits::one));
       port.set_option(asio::serial_port::flow_control(asio::serial_port::flow_control::none));
       pump_ = std::make_shared<StreamPump<stream_descriptor>>(
-          stream_descriptor(io_, dup(port.native_handle())),
+          stream_descriptor(io_, static_cast<int>(platform::SecondHandle(port.native_handle()))),
           [this](auto bytes) { events_.received(bytes); }, [this] { DeviceLost(); });
     } catch (const std::system_error& error) {
       throw std::runtime_error("cannot open " + device_ + ": " + error.what());
@@ -60,10 +59,8 @@ class SerialPort final : public Transport {
   bool CutConnection() override { return false; }
   bool Connected() const override { return pump_ != nullptr; }
   bool Drained() const override {
-    int unsent = 0;
     return !pump_ ||
-           (Backlog() == 0 &&
-            (ioctl(pump_->Native().native_handle(), TIOCOUTQ, &unsent) != 0 || unsent == 0));
+           (Backlog() == 0 && platform::UnsentBytes(pump_->Native().native_handle()) == 0);
   }
   std::size_t Backlog() const override { return pump_ ? pump_->Backlog() : 0; }
 

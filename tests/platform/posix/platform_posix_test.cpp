@@ -5,22 +5,25 @@
 #include <signal.h>
 #include <sys/eventfd.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <climits>
 #include <ctime>
-#include <optional>
+#include <functional>
+#include <numeric>
 #include <thread>
 #include <utility>
 
-#include "companions/posix/pty_peer.h"
+#include "platform/clock.h"
 #include "platform/console.h"
-#include "platform/device_monitor.h"
+#include "platform/device_handle.h"
 #include "platform/event.h"
 #include "platform/files.h"
 #include "platform/profile_file.h"
+#include "platform/pseudo_terminal.h"
 #include "platform/serial_ports.h"
 #include "platform/system.h"
 #include "platform/text.h"
@@ -198,12 +201,68 @@ TEST(PosixText, TurnsUtf16IntoUtf8) {
   EXPECT_EQ(NarrowFromUtf16(unpaired), "x\xEF\xBF\xBDy\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
+std::string Read(int descriptor, std::size_t count) {
+  std::string bytes(count, ' ');
+  for (std::size_t got = 0; got < count;) {
+    const ssize_t more = read(descriptor, bytes.data() + got, count - got);
+    if (more <= 0) return "nothing";
+    got += static_cast<std::size_t>(more);
+  }
+  return bytes;
+}
+
+// The system passes bytes on in a moment of its own.
+bool Soon(const std::function<bool()>& holds) {
+  for (int i = 0; !holds() && i < 10'000; ++i) SystemClock().SleepMs(1);
+  return holds();
+}
+
+TEST(PosixPseudoTerminal, PassesEveryByteAndTellsOfTheOtherEnd) {
+  std::string whyNot;
+  const auto terminal = MakePseudoTerminal(whyNot);
+  ASSERT_TRUE(terminal) << whyNot;
+  const auto ours = static_cast<int>(terminal->Handle());
+  EXPECT_FALSE(terminal->Look().open || terminal->Look().hasBytes);
+  std::string all(256, ' ');
+  std::iota(all.begin(), all.end(), '\0');
+
+  const int user = open(terminal->DeviceName().c_str(), O_RDWR | O_NOCTTY | O_CLOEXEC);
+  EXPECT_TRUE(terminal->Look().open);
+  for (const auto& [from, to] : {std::pair(ours, user), std::pair(user, ours)}) {
+    EXPECT_EQ(write(from, all.data(), all.size()), 256);
+    EXPECT_EQ(Read(to, all.size()), all);
+  }
+  EXPECT_EQ(write(ours, all.data(), all.size()), 256);
+  EXPECT_TRUE(Soon([&] { return terminal->Unread() == all.size(); }));
+  EXPECT_TRUE(terminal->DropUnread());
+  EXPECT_EQ(terminal->Unread(), 0U);
+  EXPECT_EQ(write(user, "x", 1), 1);
+  close(user);
+  EXPECT_TRUE(Soon([&] { return !terminal->Look().open && terminal->Look().hasBytes; }));
+}
+
+TEST(PosixDeviceHandle, IsGivenAgainAndTellsWhatIsUnsent) {
+  int ends[2];
+  ASSERT_EQ(socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0);
+  const auto second = static_cast<int>(SecondHandle(ends[0]));
+  close(ends[0]);
+  EXPECT_EQ(UnsentBytes(second), 0U);
+  EXPECT_EQ(write(second, "abc", 3), 3);
+  EXPECT_GT(UnsentBytes(second), 0U);
+  EXPECT_EQ(Read(ends[1], 3), "abc");
+  EXPECT_EQ(UnsentBytes(second), 0U);
+  for (const int each : {second, ends[1]}) close(each);
+  EXPECT_EQ(SecondHandle(second), -1);
+  EXPECT_EQ(UnsentBytes(second), 0U);
+}
+
 TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
   const TempDirectory directory;
   const auto link = directory / "port";
   SetVariable("CASSORIND_COM231", link.c_str());
   // A pseudo-terminal and a link that names it, as simulated handsets make them.
-  std::optional<peers::PtyPeer> terminal;
+  std::string whyNot;
+  std::unique_ptr<PseudoTerminal> terminal;
   const auto tick = [] {
     timespec now{};
     clock_gettime(CLOCK_REALTIME_COARSE, &now);
@@ -213,7 +272,7 @@ TEST(PosixSerialPorts, TellADeviceFromTheOneThatTookItsPlace) {
     // Files made within one tick of the system's clock bear the same time.
     for (const auto before = tick(); tick() == before;) std::this_thread::yield();
     terminal.reset();
-    terminal.emplace();
+    terminal = MakePseudoTerminal(whyNot);
     std::filesystem::remove(link);
     std::filesystem::create_symlink(terminal->DeviceName(), link);
   };

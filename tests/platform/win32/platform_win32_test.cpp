@@ -6,6 +6,7 @@
 #include <random>
 
 #include "platform/console.h"
+#include "platform/device_handle.h"
 #include "platform/files.h"
 #include "platform/message_queue.h"
 #include "platform/profile_file.h"
@@ -97,6 +98,13 @@ TEST(Win32MessageQueue, HandsWindowMessagesToTheirWindow) {
   EXPECT_EQ(got, 17U);
   DestroyWindow(window);
   while (TakeMessage(message, 0)) DispatchForeignMessage(message);
+}
+
+TEST(Win32DeviceHandle, IsGivenASecondTime) {
+  const test::OwnedEvent event;
+  const UniqueHandle second(reinterpret_cast<HANDLE>(SecondHandle(event.Handle())));
+  SetEvent(second.get());
+  EXPECT_TRUE(event.IsSet());
 }
 
 // As the end of the process leaves threads: killed, and with nothing set.
