@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <chrono>
 
+#include "platform/host_addresses.h"
 #include "platform/posix/transfer.h"
 
 namespace merovane::platform {
@@ -70,31 +71,20 @@ bool Connect(int descriptor, const addrinfo& address, SteadyClock::time_point de
   return getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
 }
 
-struct FreeAddresses {
-  void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
-};
-
 }  // namespace
 
 std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
                                        std::uint32_t limitMs) {
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
-  addrinfo hints{};
-  hints.ai_socktype = SOCK_STREAM;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0) {
-    return nullptr;
-  }
-  const std::unique_ptr<addrinfo, FreeAddresses> addresses(found);
-  for (const addrinfo* each = found; each; each = each->ai_next) {
-    UniqueDescriptor descriptor(
-        socket(each->ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-    if (!descriptor || !Connect(descriptor.Get(), *each, deadline)) continue;
-    const int on = 1;
-    setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
-    return std::make_unique<TcpStream>(std::move(descriptor));
-  }
-  return nullptr;
+  return FirstConnected(
+      host, service, [deadline](const addrinfo& address) -> std::unique_ptr<ByteStream> {
+        UniqueDescriptor descriptor(
+            socket(address.ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+        if (!descriptor || !Connect(descriptor.Get(), address, deadline)) return nullptr;
+        const int on = 1;
+        setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+        return std::make_unique<TcpStream>(std::move(descriptor));
+      });
 }
 
 }  // namespace merovane::platform

@@ -68,18 +68,10 @@ void* Thread::State::Run(void* argument) {
   return nullptr;
 }
 
-Thread::~Thread() {
-  if (state_ && !WaitMs(0)) Abandon();
-}
-
 bool Thread::Start(std::function<void()> body) {
   if (!Create(std::move(body), true)) return false;
   state_->started.WaitMs(UINT32_MAX);
   return true;
-}
-
-bool Thread::StartWithoutQueue(std::function<void()> body) {
-  return Create(std::move(body), false);
 }
 
 bool Thread::Create(std::function<void()> body, bool takesMessages) {

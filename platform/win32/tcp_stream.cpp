@@ -7,7 +7,7 @@
 #include <chrono>
 #include <utility>
 
-#include "platform/byte_stream.h"
+#include "platform/host_addresses.h"
 #include "platform/mutex.h"
 #include "platform/win32/transfer.h"
 
@@ -150,10 +150,6 @@ bool Connect(SOCKET socket, const addrinfo& address, SteadyClock::time_point dea
   return true;
 }
 
-struct FreeAddresses {
-  void operator()(addrinfo* addresses) const { freeaddrinfo(addresses); }
-};
-
 }  // namespace
 
 std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
@@ -161,22 +157,16 @@ std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::strin
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
   const Winsock winsock;
   if (!winsock.Started()) return nullptr;
-  addrinfo hints{};
-  hints.ai_socktype = SOCK_STREAM;
-  addrinfo* found = nullptr;
-  if (getaddrinfo(host.c_str(), service.c_str(), &hints, &found) != 0) {
-    return nullptr;
-  }
-  const std::unique_ptr<addrinfo, FreeAddresses> addresses(found);
-  for (const addrinfo* each = found; each; each = each->ai_next) {
-    Socket socket(
-        WSASocketW(each->ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED));
-    if (!socket.IsValid() || !Connect(socket.Get(), *each, deadline)) continue;
-    const char on = 1;
-    setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
-    return std::make_unique<TcpStream>(std::move(socket));
-  }
-  return nullptr;
+  return FirstConnected(host, service,
+                        [deadline](const addrinfo& address) -> std::unique_ptr<ByteStream> {
+                          Socket socket(WSASocketW(address.ai_family, SOCK_STREAM, IPPROTO_TCP,
+                                                   nullptr, 0, WSA_FLAG_OVERLAPPED));
+                          if (!socket.IsValid() || !Connect(socket.Get(), address, deadline))
+                            return nullptr;
+                          const char on = 1;
+                          setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+                          return std::make_unique<TcpStream>(std::move(socket));
+                        });
 }
 
 }  // namespace merovane::platform

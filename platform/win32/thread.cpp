@@ -55,19 +55,11 @@ unsigned __stdcall Thread::State::Run(void* argument) {
   return 0;
 }
 
-Thread::~Thread() {
-  if (state_ && !WaitMs(0)) Abandon();
-}
-
 bool Thread::Start(std::function<void()> body) {
   if (!Create(std::move(body), true)) return false;
   const std::array<HANDLE, 2> begunOrKilled{state_->started.get(), state_->thread.get()};
   WaitForMultipleObjects(2, begunOrKilled.data(), FALSE, INFINITE);
   return true;
-}
-
-bool Thread::StartWithoutQueue(std::function<void()> body) {
-  return Create(std::move(body), false);
 }
 
 bool Thread::Create(std::function<void()> body, bool takesMessages) {
