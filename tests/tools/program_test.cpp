@@ -3,10 +3,7 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <atomic>
-#include <chrono>
 #include <cstdlib>
-#include <thread>
 
 #include "merovane_version/version.h"
 #include "support/child_program.h"
@@ -39,23 +36,17 @@ TEST(Programs, NameTheWrongWordAndEndAlike) {
 TEST(Programs, ListenShowsTheFramesOfItsKind) {
   const std::string device = testing::TempDir() + "merovane-listen." + std::to_string(getpid());
   const std::string tools = MEROVANE_TOOLS;
-  test::ChildProgram handset({tools + "/merovane-handset", "--link", device, "--mode", "3"});
+  test::ChildProgram handset(
+      {tools + "/merovane-handset", "--link", device, "--mode", "3", "--verbose"});
   ASSERT_EQ(handset.Line("ready "), "ready " + device);
   setenv("CASSORIND_COM57", device.c_str(), 1);
   test::ChildProgram listen(
       {tools + "/merovane", "listen", "57", "--type", "35", "--subtype", "1", "--seconds", "1"});
   ASSERT_EQ(listen.Line(), "port 57: listening");
   // What it sends before it has noticed the station is lost.
-  std::atomic<bool> shown = false;
-  std::thread typist([&] {
-    while (!shown) {
-      handset.Type("frame 35 0 0a\nframe 35 1 0a 0b\n");
-      std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
-  });
+  ASSERT_NE(handset.Line("station connected"), "");
+  handset.Type("frame 35 0 0a\nframe 35 1 0a 0b\n");
   EXPECT_EQ(listen.Line(), "35/1  2 bytes  0a 0b");
-  shown = true;
-  typist.join();
 }
 
 }  // namespace
