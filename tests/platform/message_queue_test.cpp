@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
+#include <tuple>
 
 #include "platform/clock.h"
 #include "platform/event.h"
@@ -12,30 +13,21 @@ namespace {
 
 constexpr std::uint32_t kOurs = 1124;
 
-TEST(MessageQueue, KeepsTheOrderOfWhatWasPosted) {
+TEST(MessageQueue, KeepsTheOrderOfWhatWasPostedAndIsWaitedForUpToTheLimit) {
   CreateMessageQueue();
-  const std::uint32_t self = CurrentThreadId();
-  EXPECT_TRUE(PostMessageToThread(self, kOurs, 1, -1));
-  CreateMessageQueue();  // takes nothing from a queue that is there
-  EXPECT_TRUE(PostMessageToThread(self, kQuitMessage, 0, 0));
-  EXPECT_TRUE(PostMessageToThread(self, 2025, UINTPTR_MAX, INTPTR_MIN));
+  const Message posted[] = {{kOurs, 1, -1}, {kQuitMessage}, {2025, UINTPTR_MAX, INTPTR_MIN}};
+  for (const Message& each : posted) {
+    EXPECT_TRUE(PostMessageToThread(CurrentThreadId(), each.id, each.first, each.second));
+    CreateMessageQueue();  // takes nothing from a queue that is there
+  }
   Message message;
-  ASSERT_TRUE(TakeMessage(message, UINT32_MAX));
-  EXPECT_EQ(message.id, kOurs);
-  EXPECT_EQ(message.first, 1U);
-  EXPECT_EQ(message.second, -1);
-  ASSERT_TRUE(TakeMessage(message, 0));
-  EXPECT_EQ(message.id, kQuitMessage);
-  ASSERT_TRUE(TakeMessage(message, 0));
-  EXPECT_EQ(message.first, UINTPTR_MAX);
-  EXPECT_EQ(message.second, INTPTR_MIN);
-  EXPECT_EQ(message.window, nullptr);
+  for (const Message& each : posted) {
+    ASSERT_TRUE(TakeMessage(message, UINT32_MAX));
+    EXPECT_EQ(std::tie(message.id, message.first, message.second, message.window),
+              std::tie(each.id, each.first, each.second, each.window));
+  }
   DispatchForeignMessage(message);
   EXPECT_FALSE(TakeMessage(message, 0));
-}
-
-TEST(MessageQueue, IsWaitedForNoLongerThanTheLimit) {
-  Message message;
   const Deadline deadline(SystemClock(), 60);
   EXPECT_FALSE(TakeMessage(message, 60));
   EXPECT_GE(deadline.ElapsedMs(), 60U - 16U);  // ticks may be coarse
