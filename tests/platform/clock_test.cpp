@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <ctime>
 
 #include "support/fake_clock.h"
@@ -39,10 +40,9 @@ std::tm Library(bool utc) {
   return utc ? *std::gmtime(&now) : *std::localtime(&now);
 }
 
-bool SameSecond(const CalendarTime& time, const std::tm& other) {
-  return time.year == other.tm_year + 1900 && time.month == other.tm_mon + 1 &&
-         time.day == other.tm_mday && time.hour == other.tm_hour && time.minute == other.tm_min &&
-         time.second == other.tm_sec;
+std::array<int, 6> Fields(const std::tm& time) {
+  return {time.tm_year + 1900, time.tm_mon + 1, time.tm_mday,
+          time.tm_hour,        time.tm_min,     time.tm_sec};
 }
 
 // Follows the time over the turn of a second: what was kept for the last one must not stay.
@@ -58,7 +58,9 @@ TEST(CalendarTime, IsTheSystemsLocalAndUtcTime) {
       EXPECT_TRUE(time.millisecond >= 0 && time.millisecond < 1000);
       // The coarse clock behind time() may still show the second before.
       if (before.tm_sec == after.tm_sec && time.millisecond > 100) {
-        EXPECT_TRUE(SameSecond(time, after)) << time.hour << ':' << time.minute;
+        EXPECT_EQ(
+            (std::array{time.year, time.month, time.day, time.hour, time.minute, time.second}),
+            Fields(after));
         ++checked;
       }
       SystemClock().SleepMs(10);

@@ -34,14 +34,18 @@ TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
   EXPECT_EQ(module.Find("PlatformProbeRuns"), nullptr);
 }
 
+std::filesystem::path CopyProbe(const merovane::test::TempDirectory& folder,
+                                const std::string& name) {
+  const auto copy = folder.Path() / test::LibraryFile(name);
+  std::filesystem::copy_file(ExecutableDirectory() / test::LibraryFile("PlatformProbe"), copy);
+  return copy;
+}
+
 // A station may keep its libraries in another folder than the program that loads the first of them.
 TEST(Module, IsFoundBesideTheLibraryThatLoadsIt) {
   const merovane::test::TempDirectory elsewhere;
-  const std::filesystem::path probe = test::LibraryFile("PlatformProbe");
-  std::filesystem::copy_file(ExecutableDirectory() / probe, elsewhere.Path() / probe);
-  std::filesystem::copy_file(ExecutableDirectory() / probe,
-                             elsewhere.Path() / test::LibraryFile("PlatformOther"));
-  const test::LoadedFile library(elsewhere.Path() / probe);
+  CopyProbe(elsewhere, "PlatformOther");
+  const test::LoadedFile library(CopyProbe(elsewhere, "PlatformProbe"));
   const auto finds = reinterpret_cast<bool (*)(const char*)>(library.Find("PlatformProbeFinds"));
   ASSERT_NE(finds, nullptr);
   EXPECT_TRUE(finds("PlatformOther"));
@@ -64,9 +68,7 @@ TEST(Module, IsLoadedAndUnloadedWithoutWaitingInVainForItsThreads) {
 
 TEST(Module, StaysInMemoryWithAThreadThatItGaveUp) {
   const merovane::test::TempDirectory elsewhere;
-  const std::filesystem::path probe = test::LibraryFile("PlatformProbe");
-  std::filesystem::copy_file(ExecutableDirectory() / probe, elsewhere.Path() / probe);
-  std::optional<test::LoadedFile> library(std::in_place, elsewhere.Path() / probe);
+  std::optional<test::LoadedFile> library(std::in_place, CopyProbe(elsewhere, "PlatformProbe"));
   const auto runs = reinterpret_cast<bool (*)()>(library->Find("PlatformProbeRuns"));
   const auto giveUp = reinterpret_cast<void (*)()>(library->Find("PlatformProbeGiveUp"));
   ASSERT_TRUE(runs && giveUp);

@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "handset/handset.h"
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
@@ -16,24 +15,14 @@ using handset::HandsetOptions;
 using handset::Reply;
 using handset::TransportKind;
 using merovane::test::kQuiet;
+using merovane::test::OnTheLine;
+using merovane::test::Running;
+using merovane::test::StartedHandset;
 using merovane::test::WireStation;
 using testing::ElementsAre;
 using namespace std::chrono_literals;
 
-struct Misbehaving : testing::Test {
-  static HandsetOptions Options() {
-    HandsetOptions options;
-    options.startMode = 1;
-    return options;
-  }
-  static Handset& Started(Handset& handset) {
-    handset.Start();
-    return handset;
-  }
-
-  Handset phone{Options()};
-  WireStation line{Started(phone).Address()};
-};
+struct Misbehaving : testing::Test, OnTheLine {};
 
 TEST_F(Misbehaving, FaultsStrikeExactlyTheNextAnswers) {
   phone.SetFault("duplicate=next:1");
@@ -95,10 +84,7 @@ TEST_F(Misbehaving, CorruptAnswersKeepTheirFlags) {
 }
 
 TEST_F(Misbehaving, DisconnectsInsteadOfAnswering) {
-  HandsetOptions options = Options();
-  options.transport = TransportKind::Tcp;
-  Handset tcp(options);
-  tcp.Start();
+  StartedHandset tcp(Running(TransportKind::Tcp));
   for (Handset* each : {&phone, &tcp}) {
     each->SetFault("disconnect=next:1");
     WireStation cut(each->Address());
@@ -114,7 +100,7 @@ TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
   const auto run = [](std::uint64_t seed) {
     // What was done to each answer, as the transcript tells it.
     std::vector<std::string> answers;
-    HandsetOptions options = Options();
+    HandsetOptions options = Running();
     options.seed = seed;
     options.faults = {"drop=0.3", "duplicate=0.2", "corrupt=0.2"};
     options.traceInterval = 1ms;  // Their number differs between runs.
@@ -122,15 +108,14 @@ TEST_F(Misbehaving, TheSameSeedRepeatsARun) {
       const std::size_t answer = text.find("<- 28/");
       if (answer != std::string::npos) answers.push_back(text.substr(answer));
     };
-    Handset each(options);
-    WireStation listener(Started(each).Address());
-    listener.Send(2, 6);
+    OnTheLine each(options);
+    each.line.Send(2, 6);
     for (int i = 0; i < 60; ++i) {
-      listener.Send(28, static_cast<std::uint8_t>(i % 2));
-      EXPECT_TRUE(each.NextFrame(28, static_cast<std::uint8_t>(i % 2)));
+      each.line.Send(28, static_cast<std::uint8_t>(i % 2));
+      EXPECT_TRUE(each.phone.NextFrame(28, static_cast<std::uint8_t>(i % 2)));
     }
-    each.State();  // The last one has been carried out.
-    each.Stop();
+    each.phone.State();  // The last one has been carried out.
+    each.phone.Stop();
     return answers;
   };
   const auto first = run(11);
@@ -167,13 +152,12 @@ TEST_F(Misbehaving, ScriptsGiveAnyAnswer) {
 }
 
 TEST_F(Misbehaving, TheJournalKeepsWhatWasHeard) {
-  HandsetOptions options = Options();
+  HandsetOptions options = Running();
   options.journalCapacity = 2;
-  Handset forgetful(options);
-  WireStation other(Started(forgetful).Address());
-  other.WriteRaw(handset::FromHex("7e 00 00 00 00 00 99 1c 00 7e"));
-  for (std::uint8_t subtype = 50; subtype <= 52; ++subtype)
-    EXPECT_TRUE(other.Ask(200, subtype, {7}));
+  OnTheLine other(options);
+  Handset& forgetful = other.phone;
+  other.line.WriteRaw(handset::FromHex("7e 00 00 00 00 00 99 1c 00 7e"));
+  for (std::uint8_t each = 50; each <= 52; ++each) EXPECT_TRUE(other.line.Ask(200, each, {7}));
   EXPECT_EQ(forgetful.ReceivedCount(200, 50), 0u);
   EXPECT_EQ(forgetful.Received().size(), 2u);
   EXPECT_EQ(forgetful.NextFrame(200, 52), (Frame{200, 52, {7}}));

@@ -5,8 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "handset/handset.h"
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
@@ -16,6 +15,7 @@ using handset::HandsetState;
 using handset::TransportKind;
 using merovane::test::kPatience;
 using merovane::test::Running;
+using merovane::test::StartedHandset;
 using merovane::test::WireStation;
 
 TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
@@ -26,8 +26,7 @@ TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
     came += line.ends_with("station connected");
     gone += line.ends_with("station gone");
   };
-  Handset phone(options);
-  phone.Start();
+  StartedHandset phone(options);
   for (int stations = 1; stations <= 2; ++stations) {
     EXPECT_TRUE(WireStation(phone.Address()).Ask(28, 0));
     ASSERT_TRUE(
@@ -39,12 +38,10 @@ TEST(HandsetLifecycle, EachStationComesAndGoesOnce) {
 }
 
 TEST(HandsetLifecycle, ATcpPortThatWasTakenMeanwhileComesBackOnceItIsFree) {
-  Handset phone(Running(TransportKind::Tcp));
-  phone.Start();
+  StartedHandset phone(Running(TransportKind::Tcp));
   auto number = static_cast<std::uint16_t>(std::stoi(phone.Address().substr(10)));
   phone.UnplugPort();
-  Handset other(Running(TransportKind::Tcp, number));
-  other.Start();
+  StartedHandset other(Running(TransportKind::Tcp, number));
   EXPECT_THROW(phone.PlugPort(), std::runtime_error);
   other.Stop();
   phone.PlugPort();

@@ -9,9 +9,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "handset/handset.h"
 #include "parts/memory/crc16.h"
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
@@ -22,21 +21,14 @@ using handset::Handset;
 using handset::HandsetOptions;
 using handset::SerialLayout;
 using handset::ToHex;
-using merovane::test::kPatience;
-using merovane::test::WireStation;
+using merovane::test::OnTheLine;
+using merovane::test::Running;
 using testing::StartsWith;
-
-HandsetOptions Running(ByteOrder order = ByteOrder::Big) {
-  HandsetOptions options;
-  options.startMode = 1;
-  options.byteOrder = order;
-  return options;
-}
 
 std::string Zeros(std::size_t count) { return ToHex(Bytes(count)); }
 
 // A handset and a station, talking in transcripts: "13/0 00 05".
-struct Talk {
+struct Talk : OnTheLine {
   struct Exchange {
     std::string request, answer;
     const char* why = "";
@@ -46,9 +38,7 @@ struct Talk {
     const char* why = "";
   };
 
-  explicit Talk(const HandsetOptions& options = Running())
-      : phone(options),
-        line((phone.Start(), phone.Address()), options.byteOrder == ByteOrder::Big) {}
+  using OnTheLine::OnTheLine;
 
   std::string Ask(const std::string& request) {
     Send(request);
@@ -81,16 +71,6 @@ struct Talk {
               static_cast<std::uint8_t>(std::stoi(request.substr(slash + 1, blank - slash))),
               FromHex(request.substr(blank)));
   }
-  void Restart() {
-    const std::string boots = std::to_string(std::stoi(phone.Status("session.boots")) + 1);
-    phone.Restart();
-    EXPECT_TRUE(phone.WaitForState(
-        [](const auto& state) { return state.power == handset::Power::Running; }, kPatience));
-    EXPECT_EQ(phone.Status("session.boots"), boots);
-  }
-
-  Handset phone;
-  WireStation line;
 };
 
 TEST(Parts, ARestartKeepsFlashAndDropsMemory) {
@@ -191,17 +171,17 @@ TEST(Parts, FixedNvWritesTheFieldsOfItsMaskOnly) {
 
 TEST(Parts, SwitchesShowWhatTheyShare) {
   Talk talk;
-  const auto shown = [&](const char* name) {
-    return talk.phone.Status("peripherals." + std::string(name));
+  const auto shown = [&](std::initializer_list<const char*> switches) {
+    for (const char* each : switches) talk.Tell(each);
+    std::string all;
+    for (const std::string name : {"led", "lcd", "vibrator", "key_light"}) {
+      all += talk.phone.Status("peripherals." + name) + " ";
+    }
+    return all;
   };
-  talk.Tell("17/4");
-  talk.Tell("17/3");
-  EXPECT_EQ(shown("led") + shown("lcd") + shown("vibrator"), "ononon");
-  talk.Tell("17/0");
-  EXPECT_EQ(shown("led") + shown("lcd") + shown("vibrator"), "offonoff");
-  talk.Tell("17/8");
-  talk.Tell("17/16");
-  EXPECT_EQ(shown("lcd") + shown("key_light"), "offon");
+  EXPECT_EQ(shown({"17/4", "17/3"}), "on on on off ");
+  EXPECT_EQ(shown({"17/0"}), "off on off off ");
+  EXPECT_EQ(shown({"17/8", "17/16"}), "off off off on ");
 }
 
 TEST(Parts, MeasuredValuesMoveAndTheSeedRepeatsThem) {
@@ -220,7 +200,9 @@ TEST(Parts, MeasuredValuesMoveAndTheSeedRepeatsThem) {
 }
 
 TEST(Parts, SomeWifiWordsNeverFollowTheHandsetsOrder) {
-  Talk talk(Running(ByteOrder::Little));
+  HandsetOptions options = Running();
+  options.byteOrder = ByteOrder::Little;
+  Talk talk(options);
   talk.Follow({{"54/0 01 00 00 00", "54/0 00 00 00 00"},
                {"54/7 00 00 00 01 00 00 01 02", "54/7 00 00 00 00"},
                {"54/11 00 00 00 00 00 00 00 05 00 00 01 02", "54/11 00 00 00 00"},
@@ -234,17 +216,17 @@ TEST(Parts, SomeWifiWordsNeverFollowTheHandsetsOrder) {
 
 TEST(Parts, WifiCountsPacketsWhileTheReceiverIsOn) {
   Talk talk;
+  const auto countAfter = [&](const char* command) {
+    talk.Ask(command);
+    return talk.Ask("54/9");
+  };
   const std::string none = "54/9 " + Zeros(12);
-  talk.Ask("54/0 00 00 00 01");
-  EXPECT_EQ(talk.Ask("54/9"), none);
-  talk.Ask("54/8 00 00 00 01");
-  EXPECT_NE(talk.Ask("54/9"), none);
-  talk.Ask("54/8 00 00 00 00");
-  const std::string counted = talk.Ask("54/9");
+  EXPECT_EQ(countAfter("54/0 00 00 00 01"), none);
+  EXPECT_NE(countAfter("54/8 00 00 00 01"), none);
+  const std::string counted = countAfter("54/8 00 00 00 00");
   EXPECT_NE(counted, none);
   EXPECT_EQ(talk.Ask("54/9"), counted);
-  talk.Ask("54/8 00 00 00 02");
-  EXPECT_EQ(talk.Ask("54/9"), none);
+  EXPECT_EQ(countAfter("54/8 00 00 00 02"), none);
 }
 
 TEST(Parts, ANewHandsetHasItsOwnNumbers) {

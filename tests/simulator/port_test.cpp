@@ -9,18 +9,17 @@
 #include <thread>
 
 #include "companions/posix/pty_peer.h"
-#include "handset/handset.h"
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
 using handset::Bytes;
-using handset::Handset;
 using handset::HandsetOptions;
 using handset::HandsetState;
 using handset::TransportKind;
 using merovane::test::kPatience;
 using merovane::test::Running;
+using Started = merovane::test::StartedHandset;
 using merovane::test::WireStation;
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
@@ -30,10 +29,6 @@ HandsetOptions Booting() {
   options.startFrameInterval = 1ms;
   return options;
 }
-
-struct Started : Handset {
-  explicit Started(HandsetOptions options = Running()) : Handset(std::move(options)) { Start(); }
-};
 
 TEST(PtyPort, LinkIsReplacedAndRemovedButNothingElseIs) {
   HandsetOptions options = Running();

@@ -2,10 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <optional>
 #include <vector>
 
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
@@ -14,16 +13,7 @@ using handset::Frame;
 
 constexpr std::uint8_t kRefused = 2;
 
-class RadioWire : public testing::Test {
- protected:
-  RadioWire() {
-    handset::HandsetOptions options;
-    options.startMode = 1;
-    phone.emplace(options);
-    phone->Start();
-    station.emplace(phone->Address());
-  }
-
+struct RadioWire : testing::Test, merovane::test::OnTheLine {
   static Bytes Words(const std::vector<unsigned>& words) {
     Bytes bytes;
     for (const unsigned word : words) {
@@ -42,13 +32,11 @@ class RadioWire : public testing::Test {
     return Words(words);
   }
   Frame Ask(std::uint8_t type, std::uint8_t subtype, const Bytes& payload) {
-    return station->Ask(type, subtype, payload).value();
+    return line.Ask(type, subtype, payload).value();
   }
   std::uint8_t Tell(std::uint8_t type, std::uint8_t subtype, const Bytes& payload) {
     return Ask(type, subtype, payload).subtype;
   }
-  std::optional<handset::Handset> phone;
-  std::optional<merovane::test::WireStation> station;
 };
 
 TEST_F(RadioWire, CalibrationLayerGuardsTheRadio) {
@@ -56,14 +44,14 @@ TEST_F(RadioWire, CalibrationLayerGuardsTheRadio) {
   EXPECT_EQ(Tell(10, 0, afc), kRefused) << "not active yet";
   EXPECT_EQ(Tell(10, 0, Message(0xA101, {})), 0);
   EXPECT_EQ(Tell(10, 0, afc), 0);
-  EXPECT_EQ(phone->Status("radio.transmitter"), "on");
+  EXPECT_EQ(phone.Status("radio.transmitter"), "on");
   EXPECT_EQ(Tell(10, 0, Message(0xA114, {62, 5, 4096})), kRefused) << "two bytes short";
   EXPECT_EQ(Tell(10, 0, Message(0xA103, {0, 2})), kRefused) << "no such band";
   EXPECT_EQ(Tell(10, 0, Message(0xA1FF, {})), kRefused);
   EXPECT_EQ(Tell(10, 0, {0xA1}), kRefused);
   // The layer may as well be left through its item.
   EXPECT_EQ(Tell(32, 0, Words({0, 0, 27, 0, 2, 0})), 0);
-  EXPECT_EQ(phone->Status("radio.transmitter"), "off");
+  EXPECT_EQ(phone.Status("radio.transmitter"), "off");
   EXPECT_EQ(Tell(10, 0, afc), kRefused);
 }
 
@@ -107,14 +95,11 @@ TEST_F(RadioWire, WildAddressesAreRefusedAndChangeNothing) {
 
 TEST_F(RadioWire, RestartDropsWhatWasNotCommitted) {
   Tell(32, 0, Words({0, 0, 2, 0, 2, 4000}));
-  phone->Restart();
-  ASSERT_TRUE(
-      phone->WaitForState([](const auto& state) { return state.power == handset::Power::Running; },
-                          merovane::test::kPatience));
+  Restart();
   EXPECT_EQ(Read({0, 0, 2, 0, 2}), 4096U);
   Tell(32, 0, Words({0, 0, 2, 0, 2, 4000}));
   EXPECT_EQ(Tell(32, 0, Words({1, 0, 32, 0, 0})), 0);
-  EXPECT_EQ(phone->Stored("calibration/0/2"), Words({4000})) << "the answer came before the commit";
+  EXPECT_EQ(phone.Stored("calibration/0/2"), Words({4000})) << "the answer came before the commit";
 }
 
 }  // namespace

@@ -6,15 +6,13 @@
 #include <string>
 #include <vector>
 
-#include "handset/handset.h"
-#include "support/wire_station.h"
+#include "simulator/on_the_line.h"
 
 namespace {
 
 using handset::Frame;
 using handset::Power;
 using merovane::test::kQuiet;
-using merovane::test::WireStation;
 using namespace std::chrono_literals;
 
 struct Session : testing::Test {
@@ -24,13 +22,14 @@ struct Session : testing::Test {
     options.startFrameInterval = 20ms;
     options.traceInterval = 5ms;
     options.startMode = mode;
-    phone.emplace(options);
-    phone->Start();
-    line.emplace(phone->Address());
+    both.emplace(options);
+    phone = &both->phone;
+    line = &both->line;
   }
 
-  std::optional<handset::Handset> phone;
-  std::optional<WireStation> line;
+  std::optional<merovane::test::OnTheLine> both;
+  handset::Handset* phone = nullptr;
+  merovane::test::WireStation* line = nullptr;
 };
 
 TEST_F(Session, BootsUntilAStartModeIsChosen) {

@@ -44,24 +44,6 @@ TEST_F(ThreadQueue, ARangeIsTakenOutOfTurn) {
   EXPECT_EQ(threadqueue_take(&message, 20), 0);
 }
 
-// Each hop waits for the other's post, so a post that woke nobody would hang.
-TEST_F(ThreadQueue, APostWakesAWaitingTake) {
-  constexpr std::uint32_t kRounds = 2000;
-  Thread echo;
-  ASSERT_TRUE(echo.Start([self = self] {
-    THREADQUEUE_MESSAGE received{};
-    while (received.id < kRounds && threadqueue_take(&received, kNoLimit)) {
-      threadqueue_post(self, received.id, received.first + 1, 0);
-    }
-  }));
-  for (std::uint32_t i = 1; i <= kRounds; ++i) {
-    ASSERT_EQ(threadqueue_post(echo.Id(), i, i, 0), 1);
-    ASSERT_EQ(threadqueue_take(&message, kNoLimit), 1);
-    ASSERT_EQ(message.first, i + 1);
-  }
-  EXPECT_TRUE(echo.WaitMs(kLongMs));
-}
-
 TEST_F(ThreadQueue, PostsRaceWithTheEndOfTheirThread) {
   for (int round = 0; round < 50; ++round) {
     Thread brief;
