@@ -53,8 +53,10 @@ class AppendFile {
 bool SetReadOnly(const std::filesystem::path& path, bool readOnly);
 bool IsReadOnly(const std::filesystem::path& path);
 
-// Puts `data` in place of the file's content as one step: on failure (false) the old file stands
-// whole. A file that is read-only is not written.
+// Puts `data` in place of the file's content: on failure (false) the old file stands whole. It is
+// one step, except for a file whose folder takes no second one and, on Windows, for one that
+// another program holds open for reading and lets be written; those are written in place. A file
+// that is read-only is not written. Owner, access rights and attributes stay.
 bool ReplaceFile(const std::filesystem::path& path, std::span<const char> data);
 
 }  // namespace merovane::platform

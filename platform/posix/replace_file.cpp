@@ -76,7 +76,8 @@ bool OverwriteInReservedRoom(const std::filesystem::path& path, off_t oldSize,
   const off_t room = std::max(size, oldSize);
   if (room > 0 && fallocate(file.Get(), FALLOC_FL_KEEP_SIZE, 0, room) != 0) return false;
   if (WriteAt(file.Get(), data, 0) && ftruncate(file.Get(), size) == 0) return true;
-  static_cast<void>(WriteAt(file.Get(), *old, 0) && ftruncate(file.Get(), oldSize) == 0);
+  WriteAt(file.Get(), *old, 0);
+  static_cast<void>(ftruncate(file.Get(), oldSize) == 0);
   return false;
 }
 

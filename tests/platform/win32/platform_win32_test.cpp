@@ -66,6 +66,31 @@ TEST(Win32Files, AreAbsoluteWithADriveOrAShareOnly) {
   }
 }
 
+UniqueHandle OpenForReading(const std::filesystem::path& path, DWORD sharedWith) {
+  return FileHandle(
+      CreateFileW(path.c_str(), GENERIC_READ, sharedWith, nullptr, OPEN_EXISTING, 0, nullptr));
+}
+
+TEST(Win32Files, AreReplacedAsFarAsOneThatReadsThemLetsThemBeWritten) {
+  const TempDirectory directory;
+  const auto path = directory / "nv.bin";
+  directory.Write("nv.bin", "old content");
+  {
+    const UniqueHandle reader = OpenForReading(path, FILE_SHARE_READ);
+    EXPECT_FALSE(ReplaceFile(path, std::string(100'000, 'x')));
+  }
+  EXPECT_EQ(FileText(path), "old content");
+  for (const DWORD sharedWith : {FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE}) {
+    const UniqueHandle reader = OpenForReading(path, sharedWith);
+    for (const std::string& content : {std::string(100'000, 'x'), std::string("short")}) {
+      EXPECT_TRUE(ReplaceFile(path, content)) << sharedWith;
+      EXPECT_EQ(FileText(path), content);
+    }
+  }
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(directory.Path()), {}), 1);
+}
+
 TEST(Win32Files, AreNamedInTheAnsiCodePage) {
   const TempDirectory directory;
   const std::wstring wide = L"\u00E9.txt";
