@@ -78,9 +78,10 @@ Layout::Placed Layout::PlaceStructure(ItemStore& items, const ItemStore::Module&
 
 Layout::Placed Layout::PlaceArray(ItemStore& items, const ItemStore::Module& module,
                                   std::uint32_t position) {
+  // As it is now: an element of the same index takes its place meanwhile.
+  Item array = items[module.first + position];
   // The size is a number in a file: there need not be so many items.
-  const std::uint32_t size = items[module.first + position].size;
-  const std::uint32_t next = position + 1 + std::min(size, module.count - position - 1);
+  const std::uint32_t next = position + 1 + std::min(array.size, module.count - position - 1);
   std::uint32_t at = 0;
   std::uint32_t lastLength = 0;
   for (std::uint32_t i = position + 1; i < next; ++i) {
@@ -91,8 +92,9 @@ Layout::Placed Layout::PlaceArray(ItemStore& items, const ItemStore::Module& mod
     items.SetPlace(module, module.first + i, width > 0 ? at : element.offset, element.length);
     at += width;
   }
-  const std::uint32_t length = lastLength * size;
-  items.SetPlace(module, module.first + position, items[module.first + position].offset, length);
+  const std::uint32_t length = lastLength * array.size;
+  array.length = length;
+  items.StoreBack(module, std::move(array));
   return {next, length};
 }
 

@@ -99,18 +99,27 @@ TEST(Layout, ARunGoesOnFromTheAlignmentsOfTheLast) {
   EXPECT_THAT(Places(*nested), ElementsAre(Pair(0, 4), Pair(4, 4), Pair(1, 0), Pair(0, 0)));
 }
 
-TEST(Layout, AStructureReturnsToThePlaceThatAMemberOfItsIndexTook) {
-  const auto parser =
-      Load({{{.name = "s", .type = kStruct, .id = 1},
-             {.name = "x", .type = kArray, .parent = 0, .size = 1, .index = 0},
-             {.name = "l", .type = kLong, .parent = 0, .content = "0xAABBCCDD"},
-             {.name = "t", .type = kShort, .length = 2, .content = "0x2222", .id = 4}}});
-  for (int run = 0; run < 2; ++run) {
-    std::vector<std::uint8_t> image;
-    ASSERT_EQ(Generate(*parser, image), Result::Success);
-    EXPECT_THAT(std::vector(image.begin() + 4, image.end()),
-                ElementsAre(0, 1, 0, 4, 0xAA, 0xBB, 0xCC, 0xDD, 0, 4, 0, 2, 0x22, 0x22, 0, 0));
-    EXPECT_EQ(parser->Items()[0].fullPath, "s");
+TEST(Layout, AStructureOrArrayReturnsToThePlaceThatAMemberOfItsIndexTook) {
+  const TestItem value = {.name = "l", .type = kLong, .parent = 0, .content = "0xAABBCCDD"};
+  const TestItem last = {.name = "t", .type = kShort, .length = 2, .content = "0x2222", .id = 4};
+  TestItem element = value;
+  element.length = 4;
+  element.index = 0;
+  const std::vector<std::vector<TestItem>> modules = {
+      {{.name = "s", .type = kStruct, .id = 1},
+       {.name = "x", .type = kArray, .parent = 0, .size = 1, .index = 0},
+       value,
+       last},
+      {{.name = "s", .type = kArray, .id = 1, .size = 1}, element, last}};
+  for (const auto& items : modules) {
+    const auto parser = Load({items});
+    for (int run = 0; run < 2; ++run) {
+      std::vector<std::uint8_t> image;
+      ASSERT_EQ(Generate(*parser, image), Result::Success);
+      EXPECT_THAT(std::vector(image.begin() + 4, image.end()),
+                  ElementsAre(0, 1, 0, 4, 0xAA, 0xBB, 0xCC, 0xDD, 0, 4, 0, 2, 0x22, 0x22, 0, 0));
+      EXPECT_EQ(parser->Items()[0].fullPath, "s");
+    }
   }
 }
 
