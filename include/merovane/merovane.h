@@ -1021,8 +1021,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_FastReadNvInfo_MT(
  *   bytes that did not arrive read as 0
  * @param capacity  room at `serial_number` (1 to 2147483647)
  * @retval PC_ERR_INVALID_PARAM  `serial_number` is null; `capacity` outside 1 to 2147483647
- * @retval PC_ERR_BUFFER_TOO_SMALL  it was cut; or, with nothing stored, the production block has
- *   more than 256 bytes
+ * @retval PC_ERR_BUFFER_TOO_SMALL  it was cut; or, with nothing stored, the handset sent more than
+ *   was asked for, or the production block has more than 256 bytes
  * @retval PC_ERR_WRONG_DATA_LENGTH  as QV_ReadFlash and QV_FastReadProduct give it
  * @retval PC_ERR_CHECKSUM_MISMATCH  as QV_FastReadProduct gives it
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -4706,7 +4706,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
     MEROVANE_IN_TEXT const char *text);
 
 /** Builds the NV image: a time stamp, then every top-level item with its id, length and data. A
- * number too wide for its item keeps its low bits; a STRING or NONE item takes no room.
+ * number too wide for its item keeps its low bits. A top-level STRING or NONE item has no header,
+ * and zeros where it would stand; one inside a structure or an array takes no room.
  * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes
  * @retval PC_ERR_INVALID_PARAM  a null pointer
