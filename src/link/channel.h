@@ -17,7 +17,7 @@ class Channel {
   virtual ~Channel() = default;
 
   // Waits until at least one byte is there and takes what is there, at most `into`'s size. 6 when
-  // nothing came in time.
+  // nothing came in time; 27 when nothing will come any more, which may be before the time.
   virtual Result Read(std::span<std::uint8_t> into, std::uint32_t timeLimitMs,
                       std::size_t& got) = 0;
   // 3 when not all of it was taken.

@@ -130,6 +130,8 @@ Result PhoneLink::Read(std::span<std::uint8_t> into, const platform::Deadline& d
   for (;;) {
     if (MustEnd()) return OrEnded(Result::NoData);
     const Result result = channel_.Read(into, std::min(remainingMs, kCancelPollMs), got);
+    // A dead channel counts as a silent one, and gives nothing to wait for.
+    if (result == Result::DriverError) return Result::NoData;
     if (result != Result::NoData) return result;
     remainingMs = deadline.RemainingMs();
     if (remainingMs == 0) return result;

@@ -30,11 +30,12 @@ Result SerialChannel::Read(std::span<std::uint8_t> into, std::uint32_t timeLimit
   got = 0;
   const std::int32_t count =
       channel_->Read(into.data(), static_cast<std::uint32_t>(into.size()), timeLimitMs, 0);
-  if (count < 1) {
-    // A dead channel fails at once, and callers try again until their limit.
-    if (count < 0 && timeLimitMs > 0) clock_.SleepMs(1);
-    return Result::NoData;
+  if (count < 0) {
+    // It fails at once, and callers try again until their limit.
+    if (timeLimitMs > 0) clock_.SleepMs(1);
+    return Result::DriverError;
   }
+  if (count == 0) return Result::NoData;
   got = std::min(static_cast<std::size_t>(count), into.size());
   return Result::Success;
 }

@@ -22,6 +22,10 @@ TEST_F(ReceiveTiming, SilencePassesTheChannelsCodeUp) {
   EXPECT_EQ(elapsedMs, 250u);
   EXPECT_EQ(Receive(0), Result::NoFrame);
   EXPECT_EQ(elapsedMs, 0u);
+  // A dead channel has nothing to wait for.
+  handset.SetGone(true);
+  EXPECT_EQ(Receive(250), Result::NoData);
+  EXPECT_EQ(elapsedMs, 1u);
 }
 
 TEST_F(ReceiveTiming, ReadsSixtyFourBytesAtMost) {
