@@ -19,6 +19,9 @@ namespace merovane {
 class ChannelPort {
  public:
   ChannelPort(const LinkEnvironment& environment, platform::Clock& clock, ChannelLibrary library);
+  ~ChannelPort() { static_cast<void>(Close()); }
+  ChannelPort(const ChannelPort&) = delete;
+  ChannelPort& operator=(const ChannelPort&) = delete;
 
   // 4 for a port or baud rate below 1, 2 when the channel cannot be made or opened.
   Result Open(std::int32_t port, std::int32_t baudRate);

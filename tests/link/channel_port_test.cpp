@@ -72,6 +72,17 @@ TEST_F(ChannelPortTest, IsLoggedFromOpenToClose) {
   EXPECT_EQ(usefulLog.File().parent_path().parent_path().filename(), "Log");
 }
 
+TEST_F(ChannelPortTest, IsClosedAtItsEndAtTheLatest) {
+  settings.allLog = true;
+  {
+    PhoneLink link(environment, clock, handset.Library());
+    ASSERT_EQ(link.Open(port, 9600), Result::Success);
+  }
+  EXPECT_FALSE(handset.IsOpen());
+  EXPECT_EQ(handset.ChannelsHeld(), 0);
+  EXPECT_THAT(allLog.Take(), ElementsAre(OpenLine(), "Close"));
+}
+
 TEST_F(ChannelPortTest, IsSilentWhileTheLogsAreOff) {
   settings.usefulLog = false;
   ASSERT_EQ(phone.link.Open(port, 9600), Result::Success);
