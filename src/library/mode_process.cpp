@@ -144,9 +144,9 @@ std::optional<Result> ModeProcess::Worker::SetMode(PhoneObject& phone) {
   const Turn turn(phone.commandTurns);
   if (!turn) return std::nullopt;
   const PhoneLink::CancelScope scope(phone.link, stop_);
-  if (!Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate)) || stop_.IsSet())
-    return std::nullopt;
-  const Result mode = commands::SetPhoneStartMode(phone, request_.mode);
+  if (!Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate))) return std::nullopt;
+  const Result mode = stop_.IsSet() ? Result::NoAnswer
+                                    : commands::SetPhoneStartMode(phone, request_.mode);
   static_cast<void>(phone.link.Close());
   return mode;
 }

@@ -1,5 +1,6 @@
 #include <atomic>
 #include <deque>
+#include <future>
 #include <mutex>
 #include <thread>
 
@@ -214,6 +215,19 @@ TEST_F(ArrivingPort, ThatCannotBeOpenedEndsTheWaiting) {
   EXPECT_EQ(object->modeProcess.Run(object, request), Result::EnterModeFailed);
   arrival.join();
   EXPECT_FALSE(event.IsSet());
+}
+
+TEST_F(ArrivingPort, IsLetGoOfWhenTheWaitingIsStoppedWhileItOpens) {
+  std::promise<void> opening;
+  handset.WhileItOpens([&] {
+    opening.set_value();
+    while (!object->link.StartDeadline(100'000).Passed()) std::this_thread::yield();
+  });
+  ASSERT_EQ(Start(PortRequest(3)), Result::Success);
+  monitor->Arrive(port);
+  opening.get_future().wait();
+  object->modeProcess.Stop();
+  EXPECT_FALSE(object->link.IsOpen());
 }
 
 TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {

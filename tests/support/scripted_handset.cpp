@@ -125,6 +125,7 @@ std::int32_t ScriptedHandset::Open(const CassorindOpenParameters* parameters) {
   const std::lock_guard lock(mutex_);
   EXPECT_FALSE(open_) << "opened twice";
   openedWith_ = *parameters;
+  if (whileItOpens_) whileItOpens_();
   if (failOpen_) return 0;
   open_ = openedWith_;
   gone_ = false;

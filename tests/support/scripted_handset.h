@@ -6,9 +6,11 @@
 #include <atomic>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <list>
 #include <mutex>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "link/serial_channel.h"
@@ -96,6 +98,7 @@ class ScriptedHandset final : private CassorindChannel {
   // The device.
   void FailCreate(bool fails) { failCreate_ = fails; }
   void FailOpen(bool fails) { failOpen_ = fails; }
+  void WhileItOpens(std::function<void()> run) { whileItOpens_ = std::move(run); }
   void SetGone(bool gone) { gone_ = gone; }
   bool IsOpen() const { return open_.has_value(); }
   int ChannelsHeld() const { return channelsHeld_; }
@@ -136,6 +139,7 @@ class ScriptedHandset final : private CassorindChannel {
   CassorindOpenParameters openedWith_{};
   bool failCreate_ = false;
   bool failOpen_ = false;
+  std::function<void()> whileItOpens_;
   bool gone_ = false;
   std::atomic<int> channelsHeld_{0};
   int clears_ = 0;
