@@ -1,7 +1,9 @@
-// Lets threads at one thing one after another, in the order in which they come, until it ends.
+// Lets threads at one thing one after another, in the order in which they come, until it ends. A
+// thread may enter again inside: while it shows a message box, the system runs its caller's handlers.
 #pragma once
 
 #include <cstdint>
+#include <thread>
 
 #include "platform/mutex.h"
 
@@ -22,7 +24,9 @@ class Turnstile {
   platform::ConditionVariable changed_;
   std::uint64_t nextTicket_ MEROVANE_GUARDED_BY(mutex_) = 0;
   std::uint64_t serving_ MEROVANE_GUARDED_BY(mutex_) = 0;
-  bool inside_ MEROVANE_GUARDED_BY(mutex_) = false;
+  // How often the thread that is inside has entered; 0 when none is.
+  int entries_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::thread::id inside_ MEROVANE_GUARDED_BY(mutex_);
   bool ended_ MEROVANE_GUARDED_BY(mutex_) = false;
 };
 

@@ -240,6 +240,19 @@ TEST_F(ArrivingPort, ThatNeverComesEndsByTheLimit) {
   time.join();
 }
 
+// As when a message box inside runs a handler of the caller's.
+TEST(Turnstile, LetsAThreadThatIsInsideEnterAgain) {
+  library::Turnstile turnstile;
+  {
+    const library::Turn turn(turnstile);
+    ASSERT_TRUE(turn);
+    EXPECT_TRUE(library::Turn(turnstile));
+    EXPECT_FALSE(turnstile.End(0)) << "still inside";
+    EXPECT_FALSE(library::Turn(turnstile));
+  }
+  EXPECT_TRUE(turnstile.End(0));
+}
+
 struct ResetProcess : ArrivingPort {
   void SetUp() override { OpenPort(); }
   Result Reset(bool throughPort, std::uint32_t kind = 1) {
