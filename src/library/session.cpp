@@ -15,14 +15,6 @@ namespace {
 
 using PhonePointer = SessionRegistry::PhonePointer;
 
-enum Property : std::uint32_t {
-  kUsefulLog = 0,
-  kSaveReceivedData = 1,
-  kChannelServer = 2,
-  kReceiveMode = 3,
-  kBigEndian = 4,
-};
-
 // How long the end of a port waits for a command that does not return although its link has ended.
 constexpr std::uint32_t kEndLimitMs = 3300;
 
@@ -170,20 +162,20 @@ std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uin
   LinkSettings& settings = environment.settings;
   return Reported(Guarded([&] {
     switch (property) {
-      case kUsefulLog:
+      case QV_PROPERTY_USEFUL_LOG:
         settings.usefulLog = value2 != 0;
         break;
-      case kSaveReceivedData:
+      case QV_PROPERTY_SAVE_RECEIVED_DATA:
         // NOLINTNEXTLINE(performance-no-int-to-ptr): this property's value is an address
         SaveRecvData(static_cast<std::uint32_t>(value1), reinterpret_cast<const char*>(value2));
         break;
-      case kChannelServer:
+      case QV_PROPERTY_CHANNEL_SERVER:
         environment.server.Use(value2 != 0);
         break;
-      case kReceiveMode:
+      case QV_PROPERTY_RECEIVE_MODE:
         SetRecvMode(static_cast<std::uint32_t>(value2));
         break;
-      case kBigEndian:
+      case QV_PROPERTY_BIG_ENDIAN:
         settings.SetOrder(value2 != 0 ? ByteOrder::Big() : ByteOrder::Little());
         break;
       default:
@@ -194,7 +186,7 @@ std::int32_t SetProperty(std::uint32_t property, std::uintptr_t value1, std::uin
 }
 
 std::int32_t GetProperty(std::uint32_t property, std::uintptr_t, std::uint32_t* value) {
-  if (property != kBigEndian) return Reported(Result::Success);
+  if (property != QV_PROPERTY_BIG_ENDIAN) return Reported(Result::Success);
   if (!value) return Reported(Result::InvalidParam);
   *value = TheLibrary().environment.settings.Order().IsBig() ? 1 : 0;
   return Reported(Result::Success);

@@ -100,7 +100,6 @@ class PhoneLink {
    public:
     bool Passed() const { return link_.MustEnd() || limit_.Passed(); }
     std::uint32_t RemainingMs() const { return link_.MustEnd() ? 0 : limit_.RemainingMs(); }
-    void ExtendFromNow(std::uint32_t extraMs) { limit_.ExtendFromNow(extraMs); }
 
    private:
     friend class PhoneLink;
