@@ -21,6 +21,7 @@ const QV_TD_TX_SWEEP kSweep{0x01020304, 5, 6, 2, {{0x0708, 9}, {10, 11}, {12, 13
 const QV_TD_TX_START kStart{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 14, 0x0F10}};
 const QV_TD_POWER_SWEEP kPower{0x01020304, 5, 6, 0x0708090A, {11, 12, 13, 0x0F10}};
 const QV_NON_SIGNAL_COMMAND kNonSignal{0xAAAA0102, 0x10005, 0xBBBB0506, {11, 12, 13, 0x1415}};
+const QV_TD_PARAMETERS kParameters{0x01020304, 2, {0x0506, 7}};
 const std::uint16_t kUp[20] = {0x0102};
 const std::uint16_t kDown[16] = {0x0304, 5};
 std::uint16_t temperature[5] = {1, 2, 3, 4, 0x7E7D};
@@ -80,6 +81,9 @@ std::vector<Row> CalibrationRows(const Fields& message) {
        Does(PwrStepFactorSweepSet_TD, &kPower)},
       {{"PwrStepFactorSet_TD:"}, 173, 1000, {10, 0, power(0xA119, 32).U32(0x0708090A).Zeros(4)},
        {0, {}}, "", Does(PwrStepFactorSet_TD, &kStep)},
+      {{"WriteTDCalParam:"}, 181, 1000,
+       {36, 1, Words(Fields(message).U32(0x01020304), {2, 0x0506, 7})},
+       {1, Fields(message).U32(0).U16(2).U16(0)}, "", Does(WriteTDCalParam, &kParameters), failing},
       // Full power, which awaits nothing.
       {{"EnterMaxTxPowerStatus:"}, 59, 0, {17, 6, {}}, {}, "", Does(EnterMaxTxPowerStatus)},
       {{"LeaveMaxTxPowerStatus:"}, 60, 0, {17, 0, {}}, {}, "", Does(LeaveMaxTxPowerStatus)},

@@ -1,5 +1,7 @@
+#include <algorithm>
 #include <cstring>
 #include <memory>
+#include <tuple>
 
 #include "commands/calibration/calibration_fixture.h"
 #include "declared/td_calibration.h"
@@ -96,28 +98,18 @@ TEST_F(TdParameters, AreReadAsManyAsAnAnswerCarries) {
   EXPECT_EQ(ToHex(std::span(large.Data() + 4 + std::size_t{2} * kMost, 2)), "02 01");
 }
 
-TEST_F(TdParameters, AreWrittenAndCounted) {
+TEST_F(TdParameters, AreCountedWhenTheyAreWritten) {
   auto record = std::make_unique<QV_TD_PARAMETERS>();
-  InBothByteOrders([&] {
-    record->count = 3073;
-    Fields request = handset.Message().U32(record->selector = 0x01020304).U16(3073);
-    for (unsigned at = 0; at < 3073; ++at) {
-      request.U16(record->values[at] = static_cast<std::uint16_t>(at));
-    }
-    handset.Expect(36, 1, request).Answer(36, 1, handset.Message().U32(0).U16(3073).U16(0));
-    EXPECT_EQ(WriteTDCalParam(phone, record.get()), Result::Success);
-    EXPECT_EQ(OperationOf(Result::Success), 181U);
-    ExpectLogged({"WriteTDCalParam:"});
-  });
-  record->count = 2;
-  handset.ExpectAnyPayload(36, 1).Silent();
-  ExpectTakes(1000U, Result::NoAnswer, [&] { return WriteTDCalParam(phone, record.get()); });
-  for (const auto& [answer, expected] : {std::pair{"00 00 00 00 02 00 00", Result::ParseFailed},
-                                         {"00 00 00 00 01 00 00 00", Result::WrongDataLength},
-                                         {"00 00 00 00 03 00 00 00", Result::WrongDataLength}}) {
-    handset.ExpectAnyPayload(36, 1).Answer(36, 1, answer);
+  std::ranges::fill(record->values, 0x7E7D);
+  for (const auto& [count, answered, expected] : {std::tuple{3073, 3073, Result::Success},
+                                                  {2, 1, Result::WrongDataLength},
+                                                  {2, 3, Result::WrongDataLength}}) {
+    record->count = static_cast<std::uint16_t>(count);
+    const Payload counted = handset.Message().U32(0).U16(static_cast<unsigned>(answered)).U16(0);
+    handset.ExpectAnyPayload(36, 1).Answer(36, 1, counted);
     EXPECT_EQ(WriteTDCalParam(phone, record.get()), expected);
     EXPECT_EQ(LogNames().back(), ResultLine(expected));
+    EXPECT_EQ(handset.Heard().back().payload.size(), 6U + 2 * record->count);
   }
 }
 

@@ -6,17 +6,15 @@ namespace {
 
 using ::testing::ElementsAre;
 
-Bytes Text(std::string_view text) { return Bytes(text.begin(), text.end()); }
-
 struct AtCommand : CommandFixture {
   // The request and its acknowledgement; the lines that answer it are added by the caller.
   Exchange& ExpectAt(std::string_view command) {
-    return handset.Expect(104, 0, Text(command)).Answer(213, 0, "00");
+    return handset.Expect(104, 0, handset::ToBytes(command)).Answer(213, 0, "00");
   }
   // Answers the request with these frames.
   void Give(std::string_view command, std::initializer_list<std::string_view> frames) {
     Exchange& exchange = ExpectAt(command);
-    for (const std::string_view frame : frames) exchange.Answer(156, 0, Text(frame));
+    for (const std::string_view frame : frames) exchange.Answer(156, 0, handset::ToBytes(frame));
   }
   // With all that comes, or with its lines only.
   Result Send(bool lines, std::uint32_t capacity = 64) {
@@ -32,13 +30,13 @@ struct AtCommand : CommandFixture {
 
 TEST_F(AtCommand, CollectsFramesUntilTheFinalOk) {
   ExpectAt("AT+X\r\n")
-      .Answer(156, 0, Text("\r\n+X: OK\r\n1\r\n"))
+      .Answer(156, 0, handset::ToBytes("\r\n+X: OK\r\n1\r\n"))
       .Answer(9, 9)
       .Answer(156, 2)  // a failed wait does not end the collecting
       .After(400)
-      .Answer(156, 0, Text("a"))
+      .Answer(156, 0, handset::ToBytes("a"))
       .After(450)  // a further frame may take the whole limit
-      .Answer(156, 0, Text("\r\nOK\r\n"));
+      .Answer(156, 0, handset::ToBytes("\r\nOK\r\n"));
   EXPECT_EQ(Send(false), Result::Success);
   EXPECT_EQ(OperationOf(Result::Success), 15u);
   EXPECT_EQ(Answered(), "\r\n+X: OK\r\n1\r\na\r\nOK\r\n");
@@ -75,10 +73,10 @@ TEST_F(AtCommand, GivesWhatFittedAndNothingWhenNoAnswerComes) {
 }
 
 TEST_F(AtCommand, WithoutAnAcknowledgementNothingElseIsTouched) {
-  handset.Expect(104, 0, Text("AT+X\r\n")).Answer(156, 0, Text("OK\r\n"));
+  handset.Expect(104, 0, handset::ToBytes("AT+X\r\n")).Answer(156, 0, handset::ToBytes("OK\r\n"));
   ExpectTakes(1000, Result::NoAnswer, [&] { return Send(false); });
   EXPECT_EQ(length, 77u);
-  handset.Expect(104, 0, Text("AT\r\n")).Answer(213, 2);
+  handset.Expect(104, 0, handset::ToBytes("AT\r\n")).Answer(213, 2);
   EXPECT_EQ(commands::SendAtCommand(phone, "AT", 2, 0, nullptr, 0, nullptr, 10), Result::Refused);
 }
 

@@ -11,8 +11,6 @@ constexpr std::size_t kItemBytes = 1752;
 constexpr const char* kItemMagic = "35 30 56 51";
 constexpr const char* kBlockMagic = "39 30 56 51";
 
-Bytes Text(std::string_view text) { return Bytes(text.begin(), text.end()); }
-
 // Storage in which every byte tells its place.
 Bytes Storage(std::size_t bytes, const Bytes& magic) {
   Bytes storage(bytes);
@@ -65,8 +63,8 @@ struct SerialNumber : CommandFixture {
   }
   Result Write() { return Write(WriteSN, number); }
 
-  const Bytes number = Text("SN-0123456789-ABCDEFGHI");  // 23 bytes
-  const Bytes shortNumber = Text("S1");
+  const Bytes number = handset::ToBytes("SN-0123456789-ABCDEFGHI");  // 23 bytes
+  const Bytes shortNumber = handset::ToBytes("S1");
   const Bytes item = Storage(kItemBytes, Hex(kItemMagic));
   const Bytes block = Storage(256, Hex(kBlockMagic));
   const Bytes blank = Bytes(kItemBytes);
