@@ -6,7 +6,6 @@
 
 #include "nvproject/project_input.h"
 #include "nvproject/support.h"
-#include "project-generator/project_generator.h"
 
 namespace merovane::nvproject::testing {
 namespace {
@@ -24,18 +23,6 @@ TEST(BadInput, CorpusRuns) {
     ++files;
   }
   EXPECT_GT(files, 5);
-}
-
-TEST(BadInput, ProjectCutAnywhereLoadsOrFails) {
-  const auto generated = projectgen::Generate({.items = 0});
-  const std::string& text = generated.files[1].text;
-  for (std::size_t size = 0; size < text.size(); size += 4999) {
-    fuzzing::RunProjectInput("MODULE = m0\n%%\n" + text.substr(0, size));
-  }
-  const std::string& project = generated.files[0].text;
-  for (std::size_t size = 0; size < project.size(); ++size) {
-    fuzzing::RunProjectInput(project.substr(0, size));
-  }
 }
 
 TEST(BadInput, FilesThatAreNone) {
