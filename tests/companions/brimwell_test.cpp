@@ -56,22 +56,21 @@ TEST_F(Brimwell, ClearingTheLastLeavesEarlierModulesAlone) {
 }
 
 TEST_F(Brimwell, ReportsFromManyThreadsAreAllCounted) {
-  constexpr std::uint32_t kThreads = 4;
-  constexpr std::uint32_t kReports = 500;
   Spec_SetErrorCode(kModule, 1, 1, 0);
   const std::uint32_t before = Last().sequence;
-  std::vector<std::thread> threads;
-  for (std::uint32_t i = 0; i < kThreads; ++i) {
-    threads.emplace_back([i] {
-      for (std::uint32_t n = 0; n < kReports; ++n) {
-        Spec_SetErrorCode(static_cast<E_MODULE_TYPE>(i), n, 1, 0);
-        Spec_ClearErrorCode(BRIMWELL_ERRORS_LAST);
-      }
-    });
+  {
+    std::vector<std::jthread> threads;
+    for (std::uint32_t i = 0; i < 4; ++i) {
+      threads.emplace_back([i] {
+        for (std::uint32_t n = 0; n < 500; ++n) {
+          Spec_SetErrorCode(static_cast<E_MODULE_TYPE>(i), n, 1, 0);
+          Spec_ClearErrorCode(BRIMWELL_ERRORS_LAST);
+        }
+      });
+    }
   }
-  for (auto& thread : threads) thread.join();
   Spec_SetErrorCode(kModule, 1, 1, 0);
-  EXPECT_EQ(Last().sequence, before + kThreads * kReports + 1);
+  EXPECT_EQ(Last().sequence, before + 4 * 500 + 1);
 }
 
 }  // namespace

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstring>
 #include <deque>
+#include <functional>
 #include <random>
 #include <span>
 
@@ -20,25 +20,23 @@ class ChunkArenaTest : public testing::Test {
     ChunkArena::Clock::time_point committed;
   };
 
-  // Writes all the room of the next chunk and keeps `wanted` bytes of it, if it has as many.
-  void Post(std::size_t wanted) {
-    const auto mark = static_cast<std::byte>(++posted);
-    const auto room = arena.Reserve();
-    ASSERT_GE(room.size(), ChunkArena::kMinRoom);
-    const std::size_t count = std::min(wanted, room.size());
-    std::memset(room.data(), std::to_integer<int>(mark), room.size());
-    arena.Commit(count);
-    kept.push_back({room.first(count), mark, now});
-    keptBytes += count;
-  }
-  void ForgetOldest() {
-    keptBytes -= kept.front().bytes.size();
-    kept.pop_front();
-  }
-  void ExpectKeptAsTheyWere() {
-    for (const Kept& chunk : kept) {
-      ASSERT_EQ(chunk.bytes.front(), chunk.mark);
-      ASSERT_EQ(chunk.bytes.back(), chunk.mark);
+  // Takes chunk after chunk and writes all its room. Those that are not spent stay as they were.
+  void Take(unsigned pauseMs, const std::function<bool(const Kept&)>& spent) {
+    for (int i = 0; i < 3000; ++i) {
+      now += std::chrono::milliseconds(random() % pauseMs);
+      const auto room = arena.Reserve();
+      ASSERT_GE(room.size(), ChunkArena::kMinRoom);
+      const std::size_t wanted = 1 + random() % (i % 3 == 0 ? 8192 : 100);
+      const auto bytes = room.first(std::min(wanted, room.size()));
+      std::ranges::fill(room, static_cast<std::byte>(i));
+      arena.Commit(bytes.size());
+      kept.push_back({bytes, static_cast<std::byte>(i), now});
+      keptBytes += bytes.size();
+      for (; spent(kept.front()); kept.pop_front()) keptBytes -= kept.front().bytes.size();
+      for (const Kept& chunk : kept) {
+        ASSERT_EQ(chunk.bytes.front(), chunk.mark);
+        ASSERT_EQ(chunk.bytes.back(), chunk.mark);
+      }
     }
   }
 
@@ -47,25 +45,17 @@ class ChunkArenaTest : public testing::Test {
   std::mt19937 random{20250611};
   std::deque<Kept> kept;
   std::size_t keptBytes = 0;
-  int posted = 0;
 };
 
 TEST_F(ChunkArenaTest, ChunksStayForTheTimePromised) {
-  for (int i = 0; i < 3000; ++i) {
-    now += std::chrono::milliseconds(random() % 200);
-    Post(1 + random() % (i % 3 == 0 ? 8192 : 100));
-    while (now - kept.front().committed >= ChunkArena::kKeptFor) ForgetOldest();
-    ExpectKeptAsTheyWere();
-  }
+  Take(200, [&](const Kept& oldest) { return now - oldest.committed >= ChunkArena::kKeptFor; });
 }
 
 TEST_F(ChunkArenaTest, AFloodTakesNoMoreThanItsBound) {
   const std::size_t idle = arena.HeldBytes();
-  for (int i = 0; i < 3000; ++i) {
-    Post(1 + random() % 8192);
-    while (keptBytes - kept.front().bytes.size() >= ChunkArena::kMaxBytes) ForgetOldest();
-    if (i % 16 == 0) ExpectKeptAsTheyWere();
-  }
+  Take(1, [&](const Kept& oldest) {
+    return keptBytes - oldest.bytes.size() >= ChunkArena::kMaxBytes;
+  });
   EXPECT_LE(arena.HeldBytes(), 5 * ChunkArena::kMaxBytes / 4 + 2 * idle);
 }
 
