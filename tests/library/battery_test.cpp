@@ -23,7 +23,6 @@ class Battery : public StationTest, public ::testing::WithParamInterface<Paramet
     options.transport = transport;
     options.byteOrder = order;
     options.startFrameInterval = 20ms;
-    options.traceInterval = 5ms;
     SwitchOn(options);
     QV_SetProperty(4, 0, order == handset::ByteOrder::Big);
     QV_SetProperty(3, 0, receiveMode);
@@ -83,25 +82,6 @@ TEST_P(Battery, AtCommandsAreCarried) {
   QV_CELL_INFO cell = {};
   EXPECT_EQ(QV(GetCurrCellInfo, &cell), 0);
   EXPECT_THAT(cell.values, ::testing::ElementsAre(460, 0, 6334, 1021, 62, 48, -71, 2));
-}
-
-TEST_P(Battery, TracesStreamWhileCommandsRun) {
-  BeginRunning();
-  EXPECT_EQ(QV(EnableArmLog, 1), 0);
-  EXPECT_EQ(QV(EnableDspLog, 1), 0);
-  for (int i = 0; i < 20; ++i) EXPECT_EQ(Mode(), 0x81);
-  uint8_t frame[256];
-  bool arm = false;
-  bool dsp = false;
-  for (int i = 0; i < 100 && !(arm && dsp); ++i) {
-    uint32_t length = sizeof frame;
-    ASSERT_EQ(QV(Read, frame, &length, 10000), 0);
-    arm = arm || frame[6] == 152;
-    dsp = dsp || frame[6] == 153;
-  }
-  EXPECT_TRUE(arm && dsp);
-  EXPECT_EQ(QV(EnableArmLog, 0), 0);
-  EXPECT_EQ(QV(EnableDspLog, 0), 0);
 }
 
 TEST_P(Battery, RawBytesGoBothWaysAndAreRecorded) {

@@ -13,11 +13,6 @@ PortOf::PortOf(const Handset& handset, std::int32_t port)
 
 PortOf::~PortOf() { ::unsetenv(variable_.c_str()); }
 
-RunningHandset::RunningHandset(std::uint8_t mode, std::int32_t port) : phone(RunningIn(mode)) {
-  phone.Start();
-  device.emplace(phone, port);
-}
-
 Reported LastReported() {
   BRIMWELL_ERROR error{};
   EXPECT_EQ(Spec_GetLastError(BRIMWELL_MODULE_PHONE_COMMAND, &error), 1);

@@ -30,10 +30,11 @@ class PortOf {
 
 // A handset that is up, and its port.
 struct RunningHandset {
-  RunningHandset(std::uint8_t mode, std::int32_t port);
+  RunningHandset(std::uint8_t mode, std::int32_t port)
+      : phone(RunningIn(mode)), device((phone.Start(), phone), port) {}
 
   Handset phone;
-  std::optional<PortOf> device;
+  PortOf device;
 };
 
 // What the error-code library was told last.
