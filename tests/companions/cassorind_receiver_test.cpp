@@ -55,13 +55,17 @@ TEST_P(CassorindReceiver, TakesOverFromReadsAndBack) {
   EXPECT_FALSE(TakeMessage(message, 0));
 }
 
-TEST_P(CassorindReceiver, ChunksOutliveTheClose) {
+TEST_P(CassorindReceiver, ChunksAndTheReceiverOutliveTheClose) {
   OpenWithReceiver();
   peer->Send("kept");
   Message message;
   ASSERT_TRUE(TakeMessage(message, kPatienceMs));
   EXPECT_NE(channel->Close(), 0);
   EXPECT_TRUE(std::string_view("kept").starts_with(ChunkOf(message)));
+  EmptyQueue();
+  Open();
+  peer->Send("again");
+  EXPECT_EQ(TakeChunks(5), "again");
 }
 
 TEST_P(CassorindReceiver, AFullQueueDelaysAndLosesNothing) {
