@@ -10,12 +10,12 @@ namespace {
 TEST(NameClaim, KeepsItsNameFromOthersForAsLongAsItLasts) {
   // No other run of this test has it.
   const std::string name = "merovane-test-" + std::to_string(CurrentThreadId());
-  auto first = ClaimName(name);
+  auto first = ClaimName(name + "a");
   EXPECT_TRUE(first);
-  EXPECT_FALSE(ClaimName(name));
-  EXPECT_TRUE(ClaimName(name + "0"));
+  EXPECT_FALSE(ClaimName(name + "a"));
+  EXPECT_TRUE(ClaimName(name + "b"));
   first.reset();
-  EXPECT_TRUE(ClaimName(name));
+  EXPECT_TRUE(ClaimName(name + "a"));
 }
 
 }  // namespace
