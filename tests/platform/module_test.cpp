@@ -36,7 +36,7 @@ TEST(Module, IsFoundBesideTheProgramWhateverTheWorkingDirectory) {
 
 std::filesystem::path CopyProbe(const merovane::test::TempDirectory& folder,
                                 const std::string& name) {
-  const auto copy = folder.Path() / test::LibraryFile(name);
+  std::filesystem::path copy = folder.Path() / test::LibraryFile(name);
   std::filesystem::copy_file(ExecutableDirectory() / test::LibraryFile("PlatformProbe"), copy);
   return copy;
 }
