@@ -37,14 +37,34 @@ class ByteStream {
   virtual bool Clear() = 0;
 };
 
-// Each gives a stream that is the caller's, or null when it cannot be opened.
+// Why a stream did not open, and the system's own error number, 0 when it gave none.
+struct OpenTrouble {
+  enum class Why {
+    None,
+    NoDevice,           // the system has no device of that name
+    Taken,              // another channel or program has it
+    Denied,             // this user may not open it
+    NoSerialDevice,     // the name stands for a file or a folder
+    Pipe,               // the name stands for a pipe
+    RateRefused,        // the rate is beyond the device's, or ours
+    HostUnknown,        // the host's name does not resolve
+    ConnectionRefused,  // nothing listens there, or it cannot be reached in time
+    Other,
+  };
+  Why why = Why::None;
+  std::int32_t systemError = 0;
+};
+
+// Each gives a stream that is the caller's, or null when it cannot be opened, which `trouble`
+// explains.
 
 // A serial port by its name, as DeviceOfPort gives it: 8 data bits, no parity, 1 stop bit, nothing
 // interpreted, no flow control. What it had received before is dropped. Null also when another has
 // the device, and for a rate of 0 or above kMaxBaudRate.
-std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate);
+std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate,
+                                             OpenTrouble& trouble);
 // `service` is the TCP port. Resolving the host's name may take longer than the limit.
 std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
-                                       std::uint32_t limitMs);
+                                       std::uint32_t limitMs, OpenTrouble& trouble);
 
 }  // namespace merovane::platform

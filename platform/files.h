@@ -47,6 +47,10 @@ class AppendFile {
   std::intptr_t handle_ = -1;
 };
 
+// Whether files can be made in a folder, or in it once it has been made. Tries it, with a file that
+// is gone again.
+bool CanMakeFilesIn(std::filesystem::path folder);
+
 // The read-only attribute, every other attribute bit left as it is. False when the attributes
 // cannot be read or set. On Linux: nobody may write the file, the superuser included; clearing it
 // gives its owner the right.

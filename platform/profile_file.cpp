@@ -26,7 +26,7 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-bool SameName(std::string_view a, std::string_view b) {
+bool SameText(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, ToLower, ToLower);
 }
 
@@ -57,10 +57,10 @@ std::optional<std::string_view> Find(std::string_view text, std::string_view sec
       // Only the first section of a name counts.
       if (inSection) return std::nullopt;
       line.remove_prefix(1);
-      inSection = SameName(Trim(line.substr(0, line.find(']'))), section);
+      inSection = SameText(Trim(line.substr(0, line.find(']'))), section);
     } else if (inSection) {
       const std::size_t equals = line.find('=');
-      if (equals != std::string_view::npos && SameName(Trim(line.substr(0, equals)), key)) {
+      if (equals != std::string_view::npos && SameText(Trim(line.substr(0, equals)), key)) {
         return Unquoted(Trim(line.substr(equals + 1)));
       }
     }
@@ -77,16 +77,16 @@ std::uint32_t TakeBase(std::string_view& digits) {
   return base;
 }
 
-std::uint32_t IntegerOf(std::string_view value) {
+// Takes the number off the value's head.
+std::uint32_t TakeInteger(std::string_view& value) {
   while (!value.empty() && value.front() >= 0 && value.front() <= ' ') value.remove_prefix(1);
   const bool negative = value.starts_with('-');
   if (negative || value.starts_with('+')) value.remove_prefix(1);
   const std::uint32_t base = TakeBase(value);
   std::uint32_t number = 0;
-  for (const char c : value) {
-    const std::uint32_t digit = DigitValue(c);
-    if (digit >= base) break;
-    number = number * base + digit;
+  while (!value.empty() && DigitValue(value.front()) < base) {
+    number = number * base + DigitValue(value.front());
+    value.remove_prefix(1);
   }
   return negative ? 0U - number : number;
 }
@@ -137,8 +137,39 @@ std::string ProfileFile::Text(std::string_view section, std::string_view key,
 
 std::uint32_t ProfileFile::Integer(std::string_view section, std::string_view key,
                                    std::uint32_t fallback) const {
-  const auto value = Find(text_, section, key);
-  return value && !value->empty() ? IntegerOf(*value) : fallback;
+  auto value = Find(text_, section, key);
+  return value && !value->empty() ? TakeInteger(*value) : fallback;
 }
+
+std::vector<ProfileFile::Entry> ProfileFile::Entries() const {
+  std::vector<Entry> entries;
+  std::string section;
+  std::string_view rest = text_;
+  for (std::string_view line = NextLine(rest); !line.empty(); line = NextLine(rest)) {
+    if (line.front() == '[') {
+      line.remove_prefix(1);
+      section = Trim(line.substr(0, line.find(']')));
+      entries.push_back({section, {}, {}, false});
+      continue;
+    }
+    const std::size_t equals = line.find('=');
+    const std::string key(Trim(line.substr(0, equals)));
+    const std::string_view value =
+        equals == std::string_view::npos ? "" : Unquoted(Trim(line.substr(equals + 1)));
+    // The very one that is found, not another of the same names.
+    const auto found = Find(text_, section, key);
+    entries.push_back({section, key, std::string(value), found && found->data() == value.data()});
+  }
+  return entries;
+}
+
+bool ProfileFile::IsInteger(std::string_view value) {
+  const std::size_t before = value.size();
+  std::string_view rest = value;
+  TakeInteger(rest);
+  return rest.empty() && before > 0 && DigitValue(value.back()) < 16;
+}
+
+bool ProfileFile::SameName(std::string_view a, std::string_view b) { return SameText(a, b); }
 
 }  // namespace merovane::platform

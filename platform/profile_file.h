@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace merovane::platform {
 
@@ -25,6 +26,18 @@ class ProfileFile {
   // without digits, `fallback` when the key is missing or empty.
   std::uint32_t Integer(std::string_view section, std::string_view key,
                         std::uint32_t fallback) const;
+
+  struct Entry {
+    std::string section;
+    std::string key;
+    std::string value;
+    bool counts = false;  // whether Text and Integer find it under its names
+  };
+  // All that the file says, in its order. A section without keys is one entry without a key.
+  std::vector<Entry> Entries() const;
+  // Whether Integer takes all of the value for a number.
+  static bool IsInteger(std::string_view value);
+  static bool SameName(std::string_view a, std::string_view b);
 
  private:
   std::string text_;

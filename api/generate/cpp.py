@@ -1,6 +1,8 @@
 """The C++ faces: prototypes that bodies must match, what comes ahead of each body, the exported functions."""
+import json
 import re
 
+import header
 from model import BANDS, camel
 
 MADE = "// Made by api/generate from api/exports/*.api.\n"
@@ -257,14 +259,28 @@ def call(export):
             f"{{ return nvproject::{declaration.name}({', '.join(first + names)}); }})")
 
 
+def exported(export):
+    """One exported function. What returns a result is a Call, whose failure is kept."""
+    declaration = export.declaration
+    parameters = ", ".join(argument.cpp_parameter() for argument in export.arguments)
+    kind = "void" if declaration.returns == "void" else "std::int32_t"
+    signature = f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n"
+    if not declaration.returns_result:
+        return f"{signature}  return {call(export)};\n}}\n\n"
+    port = next(("port" for argument in export.arguments if argument.name == "port"), "0")
+    limit = next((camel(argument.name) for argument in export.arguments if argument.type == "ms"), "0")
+    refusals = "; ".join(header.refused(export))
+    return (f"{signature}  static constexpr library::ExportInfo kInfo{{\"{export.name}\", {declaration.operation or 0},\n"
+            f"      {json.dumps(refusals, ensure_ascii=False)}}};\n"
+            f"  library::Call call(kInfo, {port}, {limit});\n"
+            f"  return call.Returned({call(export)});\n}}\n\n")
+
+
 def exports_source(api):
-    out = [MADE, '#define MEROVANE_BUILD\n#include "merovane/merovane.h"\n\n#include "library/export_frame.h"\n']
+    out = [MADE, '#define MEROVANE_BUILD\n#include "merovane/merovane.h"\n\n#include "library/call.h"\n#include "library/export_frame.h"\n']
     out += [f'#include "declared/{unit}.h"\n' for unit in units(api, ("command", "project", "session"))]
     out.append('\nusing namespace merovane;\n\nextern "C" {\n\n')
-    for export in api.exports:
-        parameters = ", ".join(argument.cpp_parameter() for argument in export.arguments)
-        kind = "void" if export.declaration.returns == "void" else "std::int32_t"
-        out.append(f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n  return {call(export)};\n}}\n\n")
+    out += [exported(export) for export in api.exports]
     return "".join(out) + '}  // extern "C"\n'
 
 
@@ -285,6 +301,17 @@ def items_header(api):
     out.append("\n}  // namespace items\n\ninline constexpr std::array kCalibrationItems{\n")
     out += [f"    &items::{item['name']},\n" for item in api.items]
     return "".join(out) + "};\n\n}  // namespace merovane::commands\n"
+
+
+def names_header(api):
+    """The names under which callers know results and operations."""
+    results = "".join(f'    "{code.short_name}",\n' for code in api.result_codes)
+    operations = "".join(f'    OperationName{{{number}, "{name}"}},\n' for number, name in api.operation_names)
+    return (MADE + "#pragma once\n\n#include <array>\n#include <cstdint>\n\nnamespace merovane::library {\n\n"
+            "// By code.\ninline constexpr std::array kResultNames{\n" + results + "};\n\n"
+            "struct OperationName {\n  std::uint32_t id;\n  const char* name;\n};\n"
+            "// By rising id.\ninline constexpr std::array kOperationNames{\n" + operations + "};\n\n"
+            "}  // namespace merovane::library\n")
 
 
 def checks_header():

@@ -25,13 +25,14 @@ def outputs(api):
         "exports.cpp": cpp.exports_source(api),
         "commands/argument_checks.h": cpp.checks_header(),
         "declared/calibration_items.h": cpp.items_header(api),
+        "declared/names.h": cpp.names_header(api),
         "Merovane-x86.def": tables.module_definition(api, stdcall=True),
         "Merovane-x64.def": tables.module_definition(api, stdcall=False),
         "Merovane-import-x86.def": tables.import_definition(api, stdcall=True),
         "Merovane-import-x64.def": tables.import_definition(api, stdcall=False),
         "exports.map": tables.version_script(api),
-        "exports-windows.txt": "".join(f"{export.windows_name}\n" for export in api.exports),
-        "exports-linux.txt": "".join(f"{export.name}\n" for export in api.exports),
+        "exports-windows.txt": "".join(f"{export.windows_name}\n" for export in api.published),
+        "exports-linux.txt": "".join(f"{export.name}\n" for export in api.published),
         "api.json": tables.api_json(api),
     }
     for unit in api.includes:
@@ -46,7 +47,8 @@ def main():
     parser.add_argument("--headers", type=pathlib.Path)
     parser.add_argument("--check", type=pathlib.Path)
     options = parser.parse_args()
-    api = reader.read_api(HERE.parent / "exports", HERE.parent / "result_codes.def")
+    api = reader.read_api(HERE.parent / "exports", HERE.parent / "result_codes.def",
+                          HERE.parent.parent / "include/merovane/diagnostics.h")
     headers = {"merovane.h": header.merovane_h(api, HERE), "result_codes.h": header.result_codes_h(api)}
     if options.check:
         stale = [name for name, text in headers.items() if (options.check / name).read_text() != text]

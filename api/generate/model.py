@@ -165,6 +165,7 @@ class ResultCode:
     internal: str
     name: str                    # in logs; may be empty
     meaning: str
+    advice: str
 
     @property
     def short_name(self):
@@ -178,11 +179,26 @@ class ResultCode:
 
 
 @dataclass
+class DiagnosticFunction:
+    """A function of diagnostics.h, which declares itself there."""
+    name: str
+    argument_bytes: int          # as an export's
+
+    @property
+    def windows_name(self):
+        return self.name
+
+    def symbol(self, stdcall):
+        return self.name + (f"@{self.argument_bytes}" if stdcall else "")
+
+
+@dataclass
 class Api:
     declarations: list
     items: list                  # calibration items
     result_codes: list
     includes: dict               # unit: headers that its `runs` and `require` expressions need
+    diagnostics: list            # functions beside the exports
 
     @property
     def exports(self):
@@ -190,6 +206,20 @@ class Api:
             yield Export(declaration, False)
             if declaration.has_twin:
                 yield Export(declaration, True)
+
+    @property
+    def published(self):
+        """Everything that the library lets others link against."""
+        return [*self.exports, *self.diagnostics]
+
+    @property
+    def operation_names(self):
+        """(id, name of the first declaration that records it), by id."""
+        names = {}
+        for declaration in self.declarations:
+            if declaration.operation and not declaration.reported_as:
+                names.setdefault(declaration.operation, declaration.name)
+        return sorted(names.items())
 
     def result(self, internal):
         return next(code for code in self.result_codes if code.internal == internal)

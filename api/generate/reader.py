@@ -3,7 +3,7 @@ import re
 import sys
 
 import items
-from model import TYPES, USES, Api, Argument, Declaration, ResultCode, camel
+from model import TYPES, USES, Api, Argument, Declaration, DiagnosticFunction, ResultCode, camel
 
 FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results"}, "session": {"void", "number"},
          "project": {"plain", "image", "holder", "project-first"}}
@@ -160,16 +160,22 @@ def read_documentation(declaration, lines, codes, where):
 
 
 def read_result_codes(path):
-    rows = re.findall(r'RESULT\((\d+), (\w+), "(\w*)",\s*"(.*)"\)', path.read_text())
-    codes = [ResultCode(int(code), internal, name, meaning) for code, internal, name, meaning in rows]
+    rows = re.findall(r'RESULT\((\d+), (\w+), "(\w*)",\s*"(.*)",\s*"(.*)"\)', path.read_text())
+    codes = [ResultCode(int(code), *texts) for code, *texts in rows]
     if [code.code for code in codes] != list(range(40)):
         fail(path.name, "the codes do not run from 0 to 39")
     return codes
 
 
-def read_api(exports, result_codes):
+def read_diagnostics(path):
+    rows = re.findall(r"MEROVANE_API [\w *]+?MEROVANE_CALL\s+(Merovane_\w+)\(([^)]*)\);", path.read_text())
+    return [DiagnosticFunction(name, 0 if arguments.strip() == "void" else 4 * len(arguments.split(",")))
+            for name, arguments in rows]
+
+
+def read_api(exports, result_codes, diagnostics):
     codes = read_result_codes(result_codes)
-    api = Api([], [], codes, {})
+    api = Api([], [], codes, {}, read_diagnostics(diagnostics))
     for path in sorted(exports.glob("*.api")):
         unit = re.sub(r"^\d+_", "", path.stem)
         api.includes[unit] = []

@@ -6,17 +6,17 @@ from model import TYPES
 
 
 def module_definition(api, stdcall):
-    rows = (f"  {export.windows_name} = {export.symbol(stdcall)}\n" for export in api.exports)
+    rows = (f"  {export.windows_name} = {export.symbol(stdcall)}\n" for export in api.published)
     return "LIBRARY Merovane\nEXPORTS\n" + "".join(rows)
 
 
 def import_definition(api, stdcall):
-    rows = (f"  {export.symbol(stdcall)} == {export.windows_name}\n" for export in api.exports)
+    rows = (f"  {export.symbol(stdcall)} == {export.windows_name}\n" for export in api.published)
     return "LIBRARY Merovane.dll\nEXPORTS\n" + "".join(rows)
 
 
 def version_script(api):
-    return "{\n  global:\n" + "".join(f"    {export.name};\n" for export in api.exports) + "  local: *;\n};\n"
+    return "{\n  global:\n" + "".join(f"    {export.name};\n" for export in api.published) + "  local: *;\n};\n"
 
 
 def argument_json(argument):
@@ -46,7 +46,9 @@ def api_json(api):
     items = [{key: value for key, value in item.items() if key != "exports"} |
              {"exports": [cell and {"name": f"QV_{cell[0]}", "operation": cell[1]} for cell in item["exports"]]}
              for item in api.items]
-    codes = [{"code": code.code, "name": code.public_name, "short_name": code.short_name, "meaning": code.meaning}
+    codes = [{"code": code.code, "name": code.public_name, "short_name": code.short_name, "meaning": code.meaning,
+              "advice": code.advice}
              for code in api.result_codes]
     return json.dumps({"exports": [export_json(export, api) for export in api.exports], "calibration_items": items,
-                       "result_codes": codes}, indent=1) + "\n"
+                       "result_codes": codes,
+                       "operations": [{"id": number, "name": name} for number, name in api.operation_names]}, indent=1) + "\n"

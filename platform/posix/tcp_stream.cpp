@@ -53,38 +53,39 @@ class TcpStream final : public DescriptorStream {
   }
 };
 
-// True when the connection stands before `deadline`.
-bool Connect(int descriptor, const addrinfo& address, SteadyClock::time_point deadline) {
-  if (connect(descriptor, address.ai_addr, address.ai_addrlen) == 0) return true;
-  if (errno != EINPROGRESS && errno != EINTR) return false;
+// 0 when the connection stands before `deadline`, else why not.
+int Connect(int descriptor, const addrinfo& address, SteadyClock::time_point deadline) {
+  if (connect(descriptor, address.ai_addr, address.ai_addrlen) == 0) return 0;
+  if (errno != EINPROGRESS && errno != EINTR) return errno;
   pollfd connecting{descriptor, POLLOUT, 0};
   for (;;) {
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - SteadyClock::now());
     const int count =
         poll(&connecting, 1, static_cast<int>(std::max<std::int64_t>(left.count(), 0)));
-    if (count == 0) return false;
+    if (count == 0) return ETIMEDOUT;
     if (count > 0) break;
-    if (errno != EINTR) return false;
+    if (errno != EINTR) return errno;
   }
   int error = 0;
   socklen_t size = sizeof(error);
-  return getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 && error == 0;
+  return getsockopt(descriptor, SOL_SOCKET, SO_ERROR, &error, &size) == 0 ? error : errno;
 }
 
 }  // namespace
 
 std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
-                                       std::uint32_t limitMs) {
+                                       std::uint32_t limitMs, OpenTrouble& trouble) {
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
-  return FirstConnected(
-      host, service, [deadline](const addrinfo& address) -> std::unique_ptr<ByteStream> {
-        UniqueDescriptor descriptor(
-            socket(address.ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-        if (!descriptor || !Connect(descriptor.Get(), address, deadline)) return nullptr;
-        const int on = 1;
-        setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
-        return std::make_unique<TcpStream>(std::move(descriptor));
-      });
+  const auto connect = [&](const addrinfo& address) -> std::unique_ptr<ByteStream> {
+    UniqueDescriptor descriptor(
+        socket(address.ai_family, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+    trouble.systemError = descriptor ? Connect(descriptor.Get(), address, deadline) : errno;
+    if (trouble.systemError != 0) return nullptr;
+    const int on = 1;
+    setsockopt(descriptor.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    return std::make_unique<TcpStream>(std::move(descriptor));
+  };
+  return FirstConnected(host, service, connect, trouble);
 }
 
 }  // namespace merovane::platform

@@ -10,6 +10,7 @@ namespace merovane::platform {
 namespace {
 
 using Outcome = OverlappedTransfer::Outcome;
+using Why = OpenTrouble::Why;
 
 constexpr DWORD kQueueBytes = 64 * 1024;
 constexpr std::size_t kWritePiece = 4096;
@@ -78,10 +79,13 @@ std::size_t SerialPort::Write(std::span<const std::byte> data, const Event& stop
 }
 
 // 8 data bits, no parity, 1 stop bit, nothing interpreted, no flow control.
-bool SetUp(HANDLE device, std::uint32_t baudRate) {
+OpenTrouble SetUp(HANDLE device, std::uint32_t baudRate) {
+  const auto failed = [](Why why) {
+    return OpenTrouble{why, static_cast<std::int32_t>(GetLastError())};
+  };
   DCB settings{};
   settings.DCBlength = sizeof(settings);
-  if (!GetCommState(device, &settings)) return false;
+  if (!GetCommState(device, &settings)) return failed(Why::NoSerialDevice);
   settings = {};
   settings.DCBlength = sizeof(settings);
   settings.BaudRate = baudRate;
@@ -93,20 +97,45 @@ bool SetUp(HANDLE device, std::uint32_t baudRate) {
   settings.StopBits = ONESTOPBIT;
   COMMTIMEOUTS none{};
   SetupComm(device, kQueueBytes, kQueueBytes);
-  return SetCommState(device, &settings) && SetCommTimeouts(device, &none) &&
-         PurgeComm(device, PURGE_RXCLEAR);
+  if (!SetCommState(device, &settings)) return failed(Why::RateRefused);
+  const bool ready = SetCommTimeouts(device, &none) && PurgeComm(device, PURGE_RXCLEAR);
+  return ready ? OpenTrouble{} : failed(Why::Other);
+}
+
+OpenTrouble NotOpened(DWORD error) {
+  const auto number = static_cast<std::int32_t>(error);
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_PATHNAME:
+      return {Why::NoDevice, number};
+    // Windows says so of a port that another program has.
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+      return {Why::Taken, number};
+    default:
+      return {Why::Other, number};
+  }
 }
 
 }  // namespace
 
-std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate) {
+std::unique_ptr<ByteStream> OpenSerialDevice(const std::string& name, std::uint32_t baudRate,
+                                             OpenTrouble& trouble) {
+  trouble = {Why::RateRefused, 0};
   if (baudRate == 0 || baudRate > kMaxBaudRate) return nullptr;
   // The device name space, without which names above COM9 are not found.
   const std::string path = name.starts_with(R"(\\)") ? name : R"(\\.\)" + name;
   UniqueHandle device =
       FileHandle(CreateFileW(WideFromNarrow(path).c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr,
                              OPEN_EXISTING, FILE_FLAG_OVERLAPPED, nullptr));
-  if (!device || !SetUp(device.get(), baudRate)) return nullptr;
+  if (!device) {
+    trouble = NotOpened(GetLastError());
+    return nullptr;
+  }
+  trouble = SetUp(device.get(), baudRate);
+  if (trouble.why != Why::None) return nullptr;
   return std::make_unique<SerialPort>(std::move(device), baudRate);
 }
 

@@ -124,12 +124,20 @@ class TcpStream final : public ByteStream {
   OverlappedTransfer writing_;
 };
 
-// True when the connection stands before `deadline`.
-bool Connect(SOCKET socket, const addrinfo& address, SteadyClock::time_point deadline) {
+// Why a connection did not come about.
+int ErrorOf(SOCKET socket) {
+  int error = 0;
+  int size = sizeof error;
+  getsockopt(socket, SOL_SOCKET, SO_ERROR, reinterpret_cast<char*>(&error), &size);
+  return error != 0 ? error : WSAECONNREFUSED;
+}
+
+// 0 when the connection stands before `deadline`, else why not.
+int Connect(SOCKET socket, const addrinfo& address, SteadyClock::time_point deadline) {
   u_long nonBlocking = 1;
   ioctlsocket(socket, FIONBIO, &nonBlocking);
   if (connect(socket, address.ai_addr, static_cast<int>(address.ai_addrlen)) != 0) {
-    if (WSAGetLastError() != WSAEWOULDBLOCK) return false;
+    if (WSAGetLastError() != WSAEWOULDBLOCK) return WSAGetLastError();
     const auto left = std::max<std::int64_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(deadline - SteadyClock::now())
             .count(),
@@ -141,32 +149,33 @@ bool Connect(SOCKET socket, const addrinfo& address, SteadyClock::time_point dea
     FD_ZERO(&failed);
     FD_SET(socket, &connected);
     FD_SET(socket, &failed);
-    if (select(0, nullptr, &connected, &failed, &limit) <= 0 || !FD_ISSET(socket, &connected)) {
-      return false;
-    }
+    if (select(0, nullptr, &connected, &failed, &limit) <= 0) return WSAETIMEDOUT;
+    if (!FD_ISSET(socket, &connected)) return ErrorOf(socket);
   }
   nonBlocking = 0;
   ioctlsocket(socket, FIONBIO, &nonBlocking);
-  return true;
+  return 0;
 }
 
 }  // namespace
 
 std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::string& service,
-                                       std::uint32_t limitMs) {
+                                       std::uint32_t limitMs, OpenTrouble& trouble) {
   const auto deadline = SteadyClock::now() + std::chrono::milliseconds(limitMs);
   const Winsock winsock;
+  trouble = {OpenTrouble::Why::Other, WSAGetLastError()};
   if (!winsock.Started()) return nullptr;
-  return FirstConnected(host, service,
-                        [deadline](const addrinfo& address) -> std::unique_ptr<ByteStream> {
-                          Socket socket(WSASocketW(address.ai_family, SOCK_STREAM, IPPROTO_TCP,
-                                                   nullptr, 0, WSA_FLAG_OVERLAPPED));
-                          if (!socket.IsValid() || !Connect(socket.Get(), address, deadline))
-                            return nullptr;
-                          const char on = 1;
-                          setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
-                          return std::make_unique<TcpStream>(std::move(socket));
-                        });
+  const auto connect = [&](const addrinfo& address) -> std::unique_ptr<ByteStream> {
+    Socket socket(WSASocketW(address.ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0,
+                             WSA_FLAG_OVERLAPPED));
+    trouble.systemError =
+        socket.IsValid() ? Connect(socket.Get(), address, deadline) : WSAGetLastError();
+    if (trouble.systemError != 0) return nullptr;
+    const char on = 1;
+    setsockopt(socket.Get(), IPPROTO_TCP, TCP_NODELAY, &on, sizeof(on));
+    return std::make_unique<TcpStream>(std::move(socket));
+  };
+  return FirstConnected(host, service, connect, trouble);
 }
 
 }  // namespace merovane::platform

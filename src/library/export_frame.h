@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "library/call.h"
 #include "library/library.h"
 #include "link/result.h"
 #include "nvproject/nv_image.h"
@@ -36,9 +37,11 @@ template <typename Command>
 std::int32_t RunCommand(PhoneObject& phone, Command&& command) noexcept {
   const Turn turn(phone.commandTurns);
   if (!turn) return ReportedUnreached(Result::PortNotOpen);
-  const Result result = Guarded([&] { return command(phone); });
+  Result result = Guarded([&] { return command(phone); });
   // A command may make something else of it, or nothing.
-  return Reported(phone.link.WasCutShort() ? Result::PortNotOpen : result);
+  if (phone.link.WasCutShort()) result = Result::PortNotOpen;
+  if (!Succeeded(result)) Call::Note(phone.link);
+  return Reported(result);
 }
 
 template <typename Operation>

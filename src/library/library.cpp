@@ -9,6 +9,21 @@ Library::Library() : environment(platform::ExecutableDirectory()) {}
 
 Library::~Library() { CloseAll(*this); }
 
+SessionRegistry::PhonePointer Library::MakePhone() {
+  {
+    const platform::MutexLock lock(folderMutex_);
+    folderStays_ = true;
+  }
+  return std::make_shared<PhoneObject>(environment);
+}
+
+bool Library::SetFolder(const std::filesystem::path& folder) {
+  const platform::MutexLock lock(folderMutex_);
+  if (folderStays_) return false;
+  environment.ReadSettings(folder);
+  return true;
+}
+
 Library& TheLibrary() {
   static Library library;
   return library;

@@ -18,7 +18,7 @@ using PhonePointer = SessionRegistry::PhonePointer;
 // How long the end of a port waits for a command that does not return although its link has ended.
 constexpr std::uint32_t kEndLimitMs = 3300;
 
-PhonePointer MakePhone() { return std::make_shared<PhoneObject>(TheLibrary().environment); }
+PhonePointer MakePhone() { return TheLibrary().MakePhone(); }
 
 // Runs a session export that makes objects; out of memory gives 2, as where a port is opened.
 template <typename Export>
@@ -41,6 +41,7 @@ std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
     if (!library.registry.Enter(port, phone)) return Reported(Result::PortAlreadyOpened);
     const Result opened = phone->link.Open(port, baudRate);
     if (!Succeeded(opened)) {
+      Call::Note(phone->link);
       library.registry.Remove(port, phone);
       // Whoever waits for this turn finds no port.
       static_cast<void>(phone->commandTurns.End(0));
@@ -54,8 +55,9 @@ std::int32_t Begin(std::int32_t port, std::int32_t baudRate, bool asDefault) {
 // Ends what other threads do with the phone, which is in the registry no more, then closes it.
 Result Close(PhoneObject& phone) {
   phone.link.End();
-  const bool commandsLeft = phone.commandTurns.End(kEndLimitMs);
-  const bool projectLeft = phone.projectTurns.End(kEndLimitMs);
+  const platform::Deadline deadline(platform::SystemClock(), kEndLimitMs);
+  const bool commandsLeft = phone.commandTurns.End(deadline.RemainingMs());
+  const bool projectLeft = phone.projectTurns.End(deadline.RemainingMs());
   phone.modeProcess.End();
   // Whoever is still inside owns the phone, too, and closes it by letting go of it.
   if (!commandsLeft || !projectLeft) return Result::CannotCloseAllPorts;
@@ -85,8 +87,13 @@ Result StartMode(const PhonePointer& phone, const ModeStart& start,
   request.event = start.event.value_or(platform::CallerEvent());
   request.timeLimitMs = start.timeLimitMs;
   request.expectedPort = expectedPort;
-  return start.event ? phone->modeProcess.Start(phone, request)
-                     : phone->modeProcess.Run(phone, request);
+  const Result result = start.event ? phone->modeProcess.Start(phone, request)
+                                    : phone->modeProcess.Run(phone, request);
+  if (result == Result::EnterModeFailed) {
+    const Turn turn(phone->commandTurns);
+    if (turn) Call::Note(phone->link);
+  }
+  return result;
 }
 
 std::int32_t EnterMode(const ModeStart& start) {

@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <utility>
 
+#include "platform/serial_ports.h"
+
 namespace merovane {
 
 ChannelPort::ChannelPort(const LinkEnvironment& environment, platform::Clock& clock,
@@ -14,6 +16,10 @@ Result ChannelPort::Open(std::int32_t port, std::int32_t baudRate) {
   if (port < 1 || baudRate < 1) return Result::InvalidParam;
   if (channel_) return Result::PortAlreadyOpened;
   auto serial = SerialChannel::Make(library_, clock_);
+  opened_ = {};
+  opened_.port = port;
+  opened_.device = platform::DeviceOfPort(port);
+  opened_.trouble = OpenTrouble::NoReason;
   if (!serial) return Result::CannotOpenPort;
   SerialChannel& device = *serial;
 
@@ -24,7 +30,7 @@ Result ChannelPort::Open(std::int32_t port, std::int32_t baudRate) {
     std::array<char, 40> name;
     std::snprintf(name.data(), name.size(), "Com%d_AllLog.txt", static_cast<int>(port));
     taps.allLog = std::make_unique<PortLog>();
-    if (!taps.allLog->Open(name.data())) taps.allLog.reset();
+    if (!taps.allLog->Open(settings.Folder(), name.data())) taps.allLog.reset();
   }
   if (settings.SavesReceivedData()) {
     taps.recording = std::make_unique<platform::AppendFile>();
@@ -34,7 +40,12 @@ Result ChannelPort::Open(std::int32_t port, std::int32_t baudRate) {
   const auto line = std::make_shared<TappedChannel>(std::move(serial), settings, std::move(taps));
   std::shared_ptr<Channel> channel = line;
   if (server || settings.receiveMode == 1) channel = ThreadedChannel::Start(line, device, server);
-  if (!channel || !device.Open(port, baudRate)) return Result::CannotOpenPort;
+  if (!channel) return Result::CannotOpenPort;
+  if (!device.Open(port, baudRate)) {
+    device.ExplainOpening(opened_);
+    return Result::CannotOpenPort;
+  }
+  opened_.trouble = OpenTrouble::None;
   line->Opened(port, baudRate);
   line_ = line;
   channel_ = std::move(channel);

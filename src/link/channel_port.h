@@ -8,6 +8,7 @@
 
 #include "link/channel.h"
 #include "link/link_environment.h"
+#include "link/link_evidence.h"
 #include "link/result.h"
 #include "link/serial_channel.h"
 #include "link/tapped_channel.h"
@@ -37,6 +38,9 @@ class ChannelPort {
   void DropHeld();
   void DropFetched();
 
+  // What is known of the last open.
+  const LinkEvidence& Opened() const { return opened_; }
+
   // True once after an assert report was seen, also when the port is closed meanwhile. For any
   // thread.
   bool TakeAssert() { return asserted_->exchange(false); }
@@ -48,6 +52,7 @@ class ChannelPort {
   // The same one twice on a port without a receive thread.
   std::shared_ptr<Channel> line_;
   std::shared_ptr<Channel> channel_;
+  LinkEvidence opened_;
   const std::shared_ptr<std::atomic<bool>> asserted_ = std::make_shared<std::atomic<bool>>(false);
 };
 

@@ -12,11 +12,13 @@ TollvaneServer* LoadServer(platform::Module& library) {
   return init ? init() : nullptr;
 }
 
-std::shared_ptr<ServerConnection> ServerConnection::Make(std::uint32_t port, MakeServer make) {
+std::shared_ptr<ServerConnection> ServerConnection::Make(std::uint32_t port, MakeServer make,
+                                                         bool& hasLibrary) {
   const std::shared_ptr<ServerConnection> connection(new ServerConnection);
   const platform::MutexLock lock(connection->mutex_);
   connection->server_ = make(connection->library_);
-  if (!connection->server_) return nullptr;
+  hasLibrary = connection->server_ != nullptr;
+  if (!hasLibrary) return nullptr;
   const TollvaneConnectParameters parameters{port, {0, 0}};
   // Only 0 keeps the interface.
   return connection->server_->Connect(&parameters) == 0 ? connection : nullptr;
@@ -63,10 +65,23 @@ void ChannelServer::Use(bool on) {
     connected_ = false;
     if (connection_) connection_->End();
     connection_.reset();
+    missing_ = Missing::Nothing;
   } else if (!connection_) {
-    connection_ = ServerConnection::Make(port_, make_);
+    bool hasLibrary = false;
+    connection_ = ServerConnection::Make(port_, make_, hasLibrary);
     connected_ = connection_ != nullptr;
+    missing_ = connection_ ? Missing::Nothing : hasLibrary ? Missing::Server : Missing::Library;
   }
+}
+
+void ChannelServer::SetPort(std::uint32_t port) {
+  const platform::MutexLock lock(mutex_);
+  port_ = port;
+}
+
+ChannelServer::Missing ChannelServer::WhyNot() const {
+  const platform::MutexLock lock(mutex_);
+  return missing_;
 }
 
 std::shared_ptr<ServerConnection> ChannelServer::Connection() const {

@@ -26,8 +26,9 @@ TollvaneServer* LoadServer(platform::Module& library);
 // asked of it reaches the server object, which another connection may have got again.
 class ServerConnection {
  public:
-  // Null when the library is missing or does not connect.
-  static std::shared_ptr<ServerConnection> Make(std::uint32_t port, MakeServer make);
+  // Null when the library is missing or does not connect; `hasLibrary` tells which.
+  static std::shared_ptr<ServerConnection> Make(std::uint32_t port, MakeServer make,
+                                                bool& hasLibrary);
   ~ServerConnection();
   ServerConnection(const ServerConnection&) = delete;
   ServerConnection& operator=(const ServerConnection&) = delete;
@@ -54,20 +55,26 @@ class ServerConnection {
 class ChannelServer {
  public:
   explicit ChannelServer(std::uint32_t port, MakeServer make = LoadServer)
-      : port_(port), make_(make) {}
+      : make_(make), port_(port) {}
 
   // Connects when it is not connected; a failure is silent. Or disconnects, after every port has
   // let go of the server, and lets the socket library go.
   void Use(bool on);
+  // Of the server, from the next connection on.
+  void SetPort(std::uint32_t port);
   // Null while there is none.
   std::shared_ptr<ServerConnection> Connection() const;
   bool IsConnected() const { return connected_; }
+  // What the last attempt to connect did not find.
+  enum class Missing { Nothing, Library, Server };
+  Missing WhyNot() const;
 
  private:
-  const std::uint32_t port_;
   const MakeServer make_;
   std::atomic<bool> connected_{false};
   mutable platform::Mutex mutex_;
+  std::uint32_t port_ MEROVANE_GUARDED_BY(mutex_);
+  Missing missing_ MEROVANE_GUARDED_BY(mutex_) = Missing::Nothing;
   std::shared_ptr<ServerConnection> connection_ MEROVANE_GUARDED_BY(mutex_);
 };
 

@@ -15,6 +15,13 @@ struct LinkEnvironment {
       : settings(directory), server(settings.serverPort, make) {
     if (settings.connectServer) server.Use(true);
   }
+  // Does the same anew; no link may stand.
+  void ReadSettings(const std::filesystem::path& directory) {
+    server.Use(false);
+    settings.Read(directory);
+    server.SetPort(settings.serverPort);
+    if (settings.connectServer) server.Use(true);
+  }
 
   // Whether ports that are opened now receive through a thread of their own.
   bool ReceivesThroughThread() const { return settings.receiveMode == 1 || server.IsConnected(); }

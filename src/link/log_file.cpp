@@ -86,8 +86,9 @@ std::string NameSuffix(std::uint32_t flags) {
 std::filesystem::path Resolve(const LogDirectory& directory) {
   using Kind = LogDirectory::Kind;
   if (directory.kind == Kind::Given) return platform::PathFromText(directory.folder);
-  std::filesystem::path path = directory.kind == Kind::Executable ? platform::ExecutableDirectory()
-                                                                  : platform::TemporaryDirectory();
+  std::filesystem::path path = directory.kind == Kind::Temporary ? platform::TemporaryDirectory()
+                               : directory.home.empty() ? platform::ExecutableDirectory()
+                                                        : directory.home;
   path /= "Log";
   if (!directory.folder.empty()) path /= platform::PathFromText(directory.folder);
   return path;

@@ -33,6 +33,8 @@ struct LogDirectory {
   };
   Kind kind = Kind::Executable;
   std::string folder;
+  // In place of the executable's directory, when not empty.
+  std::filesystem::path home = {};
   friend bool operator==(const LogDirectory&, const LogDirectory&) = default;
 };
 

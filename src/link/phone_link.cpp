@@ -50,13 +50,15 @@ Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
     std::array<char, 64> text;
     std::snprintf(text.data(), text.size(), "Com%d_UsefulLog.txt", static_cast<int>(port));
     usefulLog_ = std::make_unique<PortLog>();
-    if (usefulLog_->Open(text.data())) {
+    if (usefulLog_->Open(environment_.settings.Folder(), text.data())) {
       usefulLog_->Opened(port, baudRate);
     } else {
       usefulLog_.reset();
     }
   }
   ring_.Clear();
+  sightings_ = {};
+  deviceGone_ = false;
   const Result result = channel_.Open(port, baudRate);
   // Open and close name their result "SUCCESS" whatever it is.
   if (PortLog* log = UsefulLog()) log->Result(result, "SUCCESS");
@@ -97,6 +99,7 @@ Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
   }
   channel_.DropFetched();
   ring_.Clear();
+  sightings_.BeginWait();
 
   const Result result = channel_.Write(frame);
   if (Succeeded(result)) {
@@ -130,8 +133,10 @@ Result PhoneLink::Read(std::span<std::uint8_t> into, const platform::Deadline& d
   for (;;) {
     if (MustEnd()) return OrEnded(Result::NoData);
     const Result result = channel_.Read(into, std::min(remainingMs, kCancelPollMs), got);
+    sightings_.SawBytes(got);
     // A dead channel counts as a silent one, and gives nothing to wait for.
-    if (result == Result::DriverError) return Result::NoData;
+    deviceGone_ = result == Result::DriverError;
+    if (deviceGone_) return Result::NoData;
     if (result != Result::NoData) return result;
     remainingMs = deadline.RemainingMs();
     if (remainingMs == 0) return result;
@@ -177,6 +182,7 @@ Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs
   while (!deadline.Passed()) {
     if (!Succeeded(Receive(frame, deadline.RemainingMs())) || frame.bytes_ < kHeaderBytes) continue;
     if (frame.Id() == awaited) {
+      sightings_.SawAnswer();
       LogReceived(frame.Bytes());
       return Result::Success;
     }
@@ -205,7 +211,11 @@ Result PhoneLink::Receive(Frame& frame, std::uint32_t timeoutMs) {
         search_.Extract([&](std::span<const std::uint8_t> encoded) {
           frame.bytes_ = DecodeFrame(encoded, frame.storage_);
         });
-    if (outcome.found) return frame.bytes_ == 0 ? Result::DecodeFailed : Result::Success;
+    if (outcome.found) {
+      if (frame.bytes_ == 0) return Result::DecodeFailed;
+      sightings_.SawFrame(frame.Bytes(), frame.order_);
+      return Result::Success;
+    }
     // Once a chunk, of which a long frame has many.
     remainingMs = deadline.RemainingMs();
     timeLeft = remainingMs > 0;
@@ -221,6 +231,8 @@ Result PhoneLink::Receive(Frame& frame, std::uint32_t timeoutMs) {
 Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header,
                                     std::uint32_t timeoutMs) {
   const auto pattern = StartFrame(Order());
+  const auto otherPattern = StartFrame(Order().IsBig() ? ByteOrder::Little() : ByteOrder::Big());
+  sightings_.BeginWait();
   const Deadline deadline = StartDeadline(timeoutMs);
   std::array<std::uint8_t, kMaxFrameBytes> chunk;
   while (!deadline.Passed()) {
@@ -229,6 +241,7 @@ Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header
     ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     bool found = false;
     ring_.Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {
+      if (std::ranges::search(held, otherPattern)) sightings_.SawStartFrame(true);
       return SearchStartFrame(held, pattern, found);
     });
     if (!found) continue;
@@ -262,6 +275,13 @@ Result PhoneLink::ReceiveMulti(FrameId id, std::uint8_t* const* buffers, std::ui
   }
   *count = received;
   return OrEnded(received < 1 ? Result::NoData : Result::Success);
+}
+
+LinkEvidence PhoneLink::Evidence() const {
+  LinkEvidence evidence = channel_.Opened();
+  evidence.deviceGone = deviceGone_;
+  evidence.sightings = sightings_;
+  return evidence;
 }
 
 void PhoneLink::LogLine(std::string_view text) {

@@ -14,6 +14,7 @@
 #include "link/frame.h"
 #include "link/frame_codec.h"
 #include "link/frame_search.h"
+#include "link/link_evidence.h"
 #include "link/link_environment.h"
 #include "link/port_log.h"
 #include "link/result.h"
@@ -109,12 +110,17 @@ class PhoneLink {
     platform::Deadline limit_;
   };
   Deadline StartDeadline(std::uint32_t limitMs) const { return {*this, limitMs}; }
+  // The one that time limits go by. For any thread.
+  platform::Clock& Clock() const { return clock_; }
 
   // Results are reported under this id from now on.
   void BeginOperation(std::uint32_t id) { environment_.errors.BeginOperation(id); }
 
   // True once after the handset reported an assert. For any thread.
   bool IsAssert() { return channel_.TakeAssert(); }
+
+  // What can be told of why the last open or wait failed.
+  LinkEvidence Evidence() const;
 
   // The Useful log, silent when it is off.
   void LogLine(std::string_view text);
@@ -144,6 +150,8 @@ class PhoneLink {
   ByteRing ring_;
   FrameSearch search_{ring_};
   std::unique_ptr<PortLog> usefulLog_;
+  Sightings sightings_;
+  bool deviceGone_ = false;  // by the last read
   std::atomic<std::uint32_t> nextSequence_{0};
   // Where requests are framed; kept, to spare allocations.
   std::vector<std::uint8_t> sendBuffer_;

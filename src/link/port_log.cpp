@@ -23,8 +23,13 @@ std::string DayFolder() {
 
 }  // namespace
 
-bool PortLog::Open(std::string_view fileName) {
-  file_.SetOption(LogOption::Directory, LogDirectory{LogDirectory::Kind::Executable, DayFolder()});
+std::filesystem::path PortLog::FolderOfToday(const std::filesystem::path& home) {
+  return home / "Log" / DayFolder();
+}
+
+bool PortLog::Open(const std::filesystem::path& home, std::string_view fileName) {
+  file_.SetOption(LogOption::Directory,
+                  LogDirectory{LogDirectory::Kind::Executable, DayFolder(), home});
   if (!file_.Open(fileName, kPortLogFlags, kPortLogFirst, kPortLogSecond)) return false;
   file_.Raw("\r\n" + std::string(60, '-') + "\r\n");
   return true;

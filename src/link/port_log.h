@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <span>
 #include <string_view>
 
@@ -12,8 +13,11 @@ namespace merovane {
 
 class PortLog {
  public:
-  // Opens `fileName` in the folder of the day; false when that cannot be done.
-  bool Open(std::string_view fileName);
+  // Opens `fileName` in the folder "Log" of `home`, there in that of the day; false when that
+  // cannot be done.
+  bool Open(const std::filesystem::path& home, std::string_view fileName);
+  // Where the logs of a day stand.
+  static std::filesystem::path FolderOfToday(const std::filesystem::path& home);
   void Line(std::string_view text);
   void Opened(std::int32_t port, std::int32_t baudRate);
   void Data(std::span<const std::uint8_t> bytes, bool sent);

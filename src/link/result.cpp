@@ -8,10 +8,11 @@ namespace {
 struct ResultText {
   std::string_view name;
   std::string_view meaning;
+  std::string_view advice;
 };
 
 constexpr std::array kResultTexts = {
-#define RESULT(code, name, publicName, meaning) ResultText{publicName, meaning},
+#define RESULT(code, name, publicName, meaning, advice) ResultText{publicName, meaning, advice},
 #include "api/result_codes.def"
 #undef RESULT
 };
@@ -31,7 +32,12 @@ std::string_view ResultName(Result result) {
 
 std::string_view ResultMeaning(Result result) {
   const ResultText* text = FindText(result);
-  return text ? text->meaning : std::string_view{};
+  return text ? text->meaning : std::string_view("");
+}
+
+std::string_view ResultAdvice(Result result) {
+  const ResultText* text = FindText(result);
+  return text ? text->advice : std::string_view("");
 }
 
 }  // namespace merovane

@@ -7,7 +7,7 @@
 namespace merovane {
 
 enum class Result : std::int32_t {
-#define RESULT(code, name, publicName, meaning) name = code,
+#define RESULT(code, name, publicName, meaning, advice) name = code,
 #include "api/result_codes.def"
 #undef RESULT
 };
@@ -17,7 +17,9 @@ constexpr bool Succeeded(Result result) { return result == Result::Success; }
 // The public name of a code that the table holds (empty for 39); "SUCCESS" for any other.
 std::string_view ResultName(Result result);
 
-// One line for people; empty for a code that the table does not hold.
+// For people; empty for a code that the table does not hold: what it says, and what to look at then.
+// Both end with a zero.
 std::string_view ResultMeaning(Result result);
+std::string_view ResultAdvice(Result result);
 
 }  // namespace merovane

@@ -6,6 +6,7 @@
 
 #include "cassorind/cassorind.h"
 #include "link/channel.h"
+#include "link/link_evidence.h"
 #include "platform/clock.h"
 
 namespace merovane {
@@ -17,6 +18,8 @@ inline constexpr std::uint32_t kChannelDataMessage = 1124;
 struct ChannelLibrary {
   std::int32_t(COMPANION_CALL* create)(CassorindChannel**, std::uint32_t kind) = CreateChannel;
   void(COMPANION_CALL* release)(CassorindChannel*) = ReleaseChannel;
+  // Null: whatever the loaded channel library offers. Others than ours may offer nothing.
+  std::int32_t(COMPANION_CALL* explain)(CassorindFailure*) = nullptr;
 };
 
 class SerialChannel final : public Channel {
@@ -26,6 +29,8 @@ class SerialChannel final : public Channel {
   ~SerialChannel() override;
 
   bool Open(std::int32_t port, std::int32_t baudRate);
+  // After an Open that failed, on the same thread: why, and on which device, as far as is known.
+  void ExplainOpening(LinkEvidence& evidence) const;
   // From now on data is not kept for Read but posted to this thread, as messages 1124.
   void PostTo(std::uint32_t threadId);
 

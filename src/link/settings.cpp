@@ -1,22 +1,29 @@
 #include "link/settings.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "platform/profile_file.h"
 
 namespace merovane {
 
-LinkSettings::LinkSettings(const std::filesystem::path& directory)
-    : file_(directory / "Merovane.ini") {
-  const auto file = platform::ProfileFile::Load(file_);
-  receiveIncrementMs = file.Integer("Inc Recv Timeout", "Timeout", 0);
-  usefulLog = file.Integer("Record Comm Log", "Record Useful Log", 0) != 0;
-  allLog = file.Integer("Record Comm Log", "Record All Log", 0) != 0;
-  SetOrder(file.Integer("Endian Control", "Big Endian", 1) != 0 ? ByteOrder::Big()
-                                                                : ByteOrder::Little());
-  connectServer = file.Integer("Socket", "Connect ChannelServer", 0) != 0;
-  serverPort = file.Integer("Socket", "Port", 36667);
+void LinkSettings::Read(const std::filesystem::path& folder) {
+  {
+    const platform::MutexLock lock(mutex_);
+    folder_ = folder;
+  }
+  const auto file = platform::ProfileFile::Load(File());
+  const auto number = [&](const SettingKey& key) {
+    const auto fallback = static_cast<std::uint32_t>(std::atoi(key.fallback));
+    return file.Integer(key.section, key.key, fallback);
+  };
+  receiveIncrementMs = number(setting::kReceiveIncrement);
+  usefulLog = number(setting::kUsefulLog) != 0;
+  allLog = number(setting::kAllLog) != 0;
+  SetOrder(number(setting::kBigEndian) != 0 ? ByteOrder::Big() : ByteOrder::Little());
+  connectServer = number(setting::kConnectServer) != 0;
+  serverPort = number(setting::kServerPort);
 }
 
 std::uint32_t LinkSettings::WithIncrement(std::uint32_t timeoutMs) const {
@@ -37,7 +44,13 @@ std::filesystem::path LinkSettings::ReceivedDataPath() const {
 }
 
 std::string LinkSettings::SerialNumberMagic() const {
-  return platform::ProfileFile::Load(file_).Text("WRITESN_DEFAULT_MAGIC", "MAGIC_NUMBER", "QV05");
+  const SettingKey& key = setting::kSerialNumberMagic;
+  return platform::ProfileFile::Load(File()).Text(key.section, key.key, key.fallback);
+}
+
+std::filesystem::path LinkSettings::Folder() const {
+  const platform::MutexLock lock(mutex_);
+  return folder_;
 }
 
 }  // namespace merovane

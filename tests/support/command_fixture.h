@@ -54,8 +54,8 @@ class CommandFixture : public ::testing::Test {
   FakeClock clock;
   LinkEnvironment environment{directory.Path()};
   LinkSettings& settings = environment.settings;
-  LogReader usefulLog{port, "UsefulLog"};
-  LogReader allLog{port, "AllLog"};
+  LogReader usefulLog{port, "UsefulLog", directory.Path()};
+  LogReader allLog{port, "AllLog", directory.Path()};
   ScriptedHandset handset{clock};
   std::shared_ptr<Phone> owner = std::make_shared<Phone>(environment, clock, handset.Library());
   Phone& phone = *owner;

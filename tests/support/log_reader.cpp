@@ -9,8 +9,8 @@
 
 namespace merovane::test {
 
-LogReader::LogReader(int port, std::string_view name)
-    : folder_(platform::ExecutableDirectory() / "Log"),
+LogReader::LogReader(int port, std::string_view name, const std::filesystem::path& home)
+    : folder_((home.empty() ? platform::ExecutableDirectory() : home) / "Log"),
       fileName_("Com" + std::to_string(port) + "_" + std::string(name) + ".txt") {}
 
 LogReader::~LogReader() {

@@ -11,8 +11,9 @@ namespace merovane::test {
 
 class LogReader {
  public:
-  // Of the log "Com<port>_<name>.txt" of this test program, whatever its day's folder.
-  LogReader(int port, std::string_view name);
+  // Of the log "Com<port>_<name>.txt" in the folder "Log" of `home`, by default this program's,
+  // whatever its day's folder.
+  LogReader(int port, std::string_view name, const std::filesystem::path& home = {});
   ~LogReader();
   LogReader(const LogReader&) = delete;
   LogReader& operator=(const LogReader&) = delete;

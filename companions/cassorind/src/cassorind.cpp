@@ -11,6 +11,12 @@ std::int32_t CreateChannel(CassorindChannel** channel, std::uint32_t kind) {
   return *channel ? 1 : 0;
 }
 
+std::int32_t CassorindLastFailure(CassorindFailure* failure) {
+  if (!failure || cassorind::LastFailure().device[0] == '\0') return 0;
+  *failure = cassorind::LastFailure();
+  return 1;
+}
+
 void ReleaseChannel(CassorindChannel* channel) {
   if (!channel) return;
   auto* const own = static_cast<cassorind::Channel*>(channel);

@@ -12,6 +12,12 @@ namespace cassorind {
 
 using platform::MutexLock;
 
+CassorindFailure& LastFailure() {
+  // Without a destructor: threads may outlive the library.
+  thread_local CassorindFailure failure{};
+  return failure;
+}
+
 namespace {
 
 // Operations end as soon as their session does, unless the system killed their threads.
@@ -94,8 +100,9 @@ std::int32_t Channel::Open(const CassorindOpenParameters* parameters) {
 std::shared_ptr<Session> Channel::OpenSession(const CassorindOpenParameters& parameters) {
   const auto port = static_cast<std::int32_t>(parameters.port);
   std::shared_ptr<platform::ByteStream> stream =
-      OpenDevice(platform::DeviceOfPort(port), parameters.baudRate);
+      OpenDevice(platform::DeviceOfPort(port), parameters.baudRate, LastFailure());
   if (!stream) return nullptr;
+  LastFailure() = {};
   auto session = std::make_shared<Session>(std::move(stream));
   std::optional<companions::Receiver> receiver;
   std::shared_ptr<companions::ChunkArena> arena;

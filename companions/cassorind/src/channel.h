@@ -11,6 +11,9 @@
 
 namespace cassorind {
 
+// Of the last Open on the calling thread; without a device when that one succeeded.
+CassorindFailure& LastFailure();
+
 class Channel final : public CassorindChannel {
  public:
   std::int32_t SetReceiver(std::uint32_t messageId, std::int32_t enabled,

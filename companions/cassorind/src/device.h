@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "cassorind/cassorind.h"
 #include "platform/byte_stream.h"
 
 namespace cassorind {
@@ -12,7 +13,8 @@ namespace cassorind {
 namespace platform = merovane::platform;
 
 // "socket://host:port" and "socket://[address]:port" are TCP connections, anything else is a serial
-// device. Null when it cannot be opened.
-std::unique_ptr<platform::ByteStream> OpenDevice(const std::string& name, std::uint32_t baudRate);
+// device. Null when it cannot be opened, which `failure` explains.
+std::unique_ptr<platform::ByteStream> OpenDevice(const std::string& name, std::uint32_t baudRate,
+                                                 CassorindFailure& failure);
 
 }  // namespace cassorind

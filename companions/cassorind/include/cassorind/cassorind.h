@@ -5,7 +5,7 @@
 //
 // Port n is the device named by the environment variable CASSORIND_COM<n>: a
 // tty path, "socket://host:port" for a TCP stream or, on Windows, a name like
-// "COM12". Without the variable it is /dev/ttyS<n-1> (Windows: \\.\COM<n>).
+// "COM12". Without the variable, or with an empty one, it is /dev/ttyS<n-1> (Windows: \\.\COM<n>).
 #ifndef CASSORIND_CASSORIND_H
 #define CASSORIND_CASSORIND_H
 
@@ -63,7 +63,30 @@ class CassorindChannel {
   ~CassorindChannel() = default;
 };
 
+// Why an Open failed.
+enum CassorindReason : std::int32_t {
+  CASSORIND_NO_REASON = 0,
+  CASSORIND_NO_DEVICE = 1,           // the system has no device of that name
+  CASSORIND_DEVICE_TAKEN = 2,        // another channel or program has it
+  CASSORIND_DEVICE_DENIED = 3,       // this user may not open it
+  CASSORIND_NO_SERIAL_DEVICE = 4,    // the name stands for a plain file or a folder
+  CASSORIND_PIPE = 5,                // it stands for a FIFO
+  CASSORIND_RATE_REFUSED = 6,        // the device, or this library, does not take the rate
+  CASSORIND_ADDRESS_MALFORMED = 7,   // "socket://" is not followed by host:port
+  CASSORIND_HOST_UNKNOWN = 8,        // the host's name does not resolve
+  CASSORIND_CONNECTION_REFUSED = 9,  // nothing listens there, or it cannot be reached in time
+};
+
+struct CassorindFailure {
+  std::int32_t reason;       // a CassorindReason
+  std::int32_t systemError;  // errno, or GetLastError's; 0 when the system said nothing
+  char device[256];          // what the port stands for, as it was looked up; ends with a zero
+};
+
 extern "C" {
+// Why the last Open on the calling thread failed; 0 when none did. Callers look it up by its name:
+// other versions of this library lack it.
+CASSORIND_API std::int32_t COMPANION_CALL CassorindLastFailure(CassorindFailure* failure);
 // Stores a new, closed channel. Non-zero on success, 0 for a null pointer or a kind other than 0.
 CASSORIND_API std::int32_t COMPANION_CALL CreateChannel(CassorindChannel** channel,
                                                         std::uint32_t kind);

@@ -1,0 +1,12 @@
+// Tells in JSON what the settings are, where they come from, and what is wrong with them.
+#pragma once
+
+#include <string>
+
+#include "link/link_environment.h"
+
+namespace merovane::library {
+
+std::string SettingsReport(const LinkEnvironment& environment);
+
+}  // namespace merovane::library
