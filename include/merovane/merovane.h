@@ -44,6 +44,7 @@ extern "C" {
  *   variable CASSORIND_COMn names; where that is empty or not set, for COMn on Windows, else for
  *   the n-th of /dev/ttyS0, /dev/ttyS1 and so on
  * @param baud_rate  bits per second (1 and up)
+ * @retval PC_ERR_PORT_NOT_OPEN  another thread ended the port while it was being opened
  * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
  * @retval PC_ERR_PORT_ALREADY_OPENED  the port has a phone object already, which stays as it is,
@@ -55,6 +56,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_BeginPhoneTest(int32_t port, int32_t baud_
  * port that cannot be opened leaves its "Open" line and the result in the Useful log.
  * @param port  as in QV_BeginPhoneTest (1 and up)
  * @param baud_rate  bits per second (1 and up)
+ * @retval PC_ERR_PORT_NOT_OPEN  another thread ended the port while it was being opened
  * @retval PC_ERR_CANNOT_OPEN_PORT  the device cannot be opened, or memory is short
  * @retval PC_ERR_INVALID_PARAM  `port` below 1; `baud_rate` below 1
  * @retval PC_ERR_PORT_ALREADY_OPENED  the port has a phone object already, which stays as it is,
@@ -257,7 +259,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ResetModeProcess_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_GetUsbPort(void);
 
 /** Sets what every mode process from now on puts into the sequence field of the first frame that it
- * sends. The restart of QV_ResetModeProcess carries none. Needs no open port.
+ * sends. The restart of QV_ResetModeProcess carries none. Needs no open port. The result is
+ * reported under operation id 0.
  * @param camp_parameter  0 at first, and for none
  * @return 0 (PC_ERR_SUCCESS) */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetCampParam(uint32_t camp_parameter);

@@ -7,6 +7,7 @@
 #include "declared/session.h"
 #include "library/phone_object.h"
 #include "link/frame_codec.h"
+#include "platform/clock.h"
 #include "platform/message_queue.h"
 
 namespace merovane::library {
@@ -84,7 +85,7 @@ class ModeProcess::Worker {
 
 bool ModeProcess::Worker::WorkOnOpenLink(PhoneObject& phone) {
   const bool limited = request_.timeLimitMs != 0;
-  const auto deadline = phone.link.StartDeadline(request_.timeLimitMs);
+  const platform::Deadline deadline(phone.link.Clock(), request_.timeLimitMs);
   while (!stop_.IsSet() && !(limited && deadline.Passed())) {
     // A turn each, so that commands of other threads come in between.
     const Turn turn(phone.commandTurns);
@@ -109,7 +110,7 @@ bool ModeProcess::Worker::CatchOnOpenLink(PhoneObject& phone) {
 
 bool ModeProcess::Worker::WorkOnArrivingPort(PhoneObject& phone) {
   const bool limited = request_.timeLimitMs != 0;
-  const auto deadline = phone.link.StartDeadline(request_.timeLimitMs);
+  const platform::Deadline deadline(phone.link.Clock(), request_.timeLimitMs);
   int arrivals = 0;
   for (;;) {
     if (stop_.WaitMs(1) || (limited && deadline.Passed())) return false;

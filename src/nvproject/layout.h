@@ -12,8 +12,9 @@ namespace merovane::nvproject {
 struct TopLevelItem {
   std::uint32_t item = kNoItem;
   std::uint32_t module = 0;
-  // Of its data, as if each item's record stood after the one before. In the image a record without
-  // data takes no room: from there on the places differ.
+  // Of its data, as if each item's record stood after the one before, the first at the start. In
+  // the image a record without data takes no room, and DSP code stands ahead of all: the places
+  // differ then.
   std::uint32_t offset = 0;
   std::uint32_t length = 0;  // of its data
 };

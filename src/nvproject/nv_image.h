@@ -73,13 +73,8 @@ class NvImage {
   std::size_t length_ = 0;
 };
 
-// Reverses the bytes of each value in `data`, which begins with the item of that path (letter case
-// counts). The items are laid out. Only values that lie without a gap between them take part: each
-// run between padding is a conversion of its own. Starting at a structure or an array counts as one
-// byte for the structure itself, so data converted right begins at a scalar; one inside the run
-// counts as a byte as well when its alignment happens to be the offset that is due. A value that
-// does not fit into the block whole is left as it is, and all after it. An unknown path changes
-// nothing.
+// What QV_ConvertDataByDataType does to its data, which begins with the item of that path (letter
+// case counts). The items are laid out. An unknown path changes nothing.
 void ConvertBlock(ItemStore& items, std::string_view path, std::span<std::uint8_t> data);
 
 }  // namespace merovane::nvproject

@@ -18,7 +18,7 @@ constexpr std::uint32_t kNextBlockTimeoutMs = 1000;
 constexpr int kTries = 3;
 constexpr std::size_t kBlockHeaderBytes = 20;
 constexpr std::size_t kBlockCountOffset = 16;
-// A shorter answer may be followed by the block; one of this length is the last block.
+// After a shorter answer the block may still come; a block of exactly this length is the last.
 constexpr std::size_t kShortBlockBytes = 500;
 
 static_assert(offsetof(QV_EXTENDED_AFC, report) == 16 && sizeof(QV_EXTENDED_AFC::report) == 27648);

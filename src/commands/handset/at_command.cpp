@@ -19,7 +19,7 @@ constexpr FrameId kAtAnswer{156, 0};
 constexpr std::uint32_t kAcknowledgementMs = 1000;
 constexpr std::uint32_t kCellInfoMs = 2000;
 constexpr std::string_view kLineEnd = "\r\n";
-// A command's text is built in a frame's room.
+// A command's text is at most as long as a frame.
 constexpr std::size_t kMaxCommandBytes = kMaxFrameBytes;
 
 Result SendCommand(PhoneLink& link, std::string_view command) {

@@ -11,6 +11,7 @@
 #include "commands/imei.h"
 #include "commands/storage_frames.h"
 #include "declared/identity.h"
+#include "platform/ascii.h"
 
 namespace merovane::commands {
 namespace {
@@ -37,20 +38,13 @@ constexpr Field kSecondAddress{66, 0x40};
 constexpr Field kImei3{74, 0x10};
 constexpr Field kImei4{82, 0x20};
 
-std::optional<std::uint8_t> HexDigit(char character) {
-  if (character >= '0' && character <= '9') return static_cast<std::uint8_t>(character - '0');
-  const char small = static_cast<char>(character | 0x20);
-  if (small >= 'a' && small <= 'f') return static_cast<std::uint8_t>(small - 'a' + 10);
-  return std::nullopt;
-}
-
 // Only the first twelve characters are read, and none after one that is no digit.
 std::optional<Address> ParseAddress(const char* text) {
   Address address{};
   for (std::size_t at = 0; at < 2 * kAddressBytes; ++at) {
-    const auto digit = HexDigit(text[at]);
-    if (!digit) return std::nullopt;
-    address[at / 2] = static_cast<std::uint8_t>(address[at / 2] << 4 | *digit);
+    const unsigned digit = platform::DigitValue(text[at]);
+    if (digit >= 16) return std::nullopt;
+    address[at / 2] = static_cast<std::uint8_t>(address[at / 2] << 4 | digit);
   }
   return address;
 }
@@ -165,8 +159,9 @@ Result body::FastReadNvInfo(Operation& operation, QV_FIXED_NV_INFO& info) {
   Result result = answer.Why();
   if (answer) {
     // An empty or damaged block leaves the record as it was, and is not logged.
+    const bool hasChecksum = payload.size() >= kChecksumBytes;
+    if (hasChecksum && !ChecksumMatches(order, payload)) return Result::ChecksumMismatch;
     if (payload.size() <= kChecksumBytes) return Result::NoData;
-    if (!ChecksumMatches(order, payload)) return Result::ChecksumMismatch;
     if (payload.size() - kChecksumBytes > kMaxBlockBytes) result = Result::BufferTooSmall;
   }
   // After a failed exchange too: the record then reads as an empty block.

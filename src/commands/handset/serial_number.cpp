@@ -1,4 +1,4 @@
-// The steps are commands of their own: they log their names and results and leave their operation
+// Reading and writing a serial number runs other commands, as steps: they log their names and results and leave their operation
 // ids behind; the command that runs them logs its name only.
 #include "commands/handset/serial_number.h"
 

@@ -157,7 +157,7 @@ TEST_F(FixedNv, ReadOfADamagedOrEmptyBlockLeavesTheRecordAndTheLog) {
     settings.usefulLog = false;
     for (std::size_t length = 0; length < whole.size(); ++length) {
       const Bytes cut(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
-      EXPECT_EQ(Read(cut), length < 3 ? Result::NoData : Result::ChecksumMismatch) << length;
+      EXPECT_EQ(Read(cut), length < 2 ? Result::NoData : Result::ChecksumMismatch) << length;
     }
     settings.usefulLog = true;
     EXPECT_EQ(Read({}), Result::NoData);
