@@ -49,11 +49,8 @@ Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
   if (environment_.settings.usefulLog && port >= 1 && baudRate >= 1 && !IsOpen()) {
     std::array<char, 64> text;
     std::snprintf(text.data(), text.size(), "Com%d_UsefulLog.txt", static_cast<int>(port));
-    usefulLog_ = std::make_unique<PortLog>();
-    if (usefulLog_->Open(environment_.settings.Folder(), text.data())) {
-      usefulLog_->Opened(port, baudRate);
-    } else {
-      usefulLog_.reset();
+    if (usefulLog_.Open(environment_.settings.Folder(), text.data())) {
+      usefulLog_.Opened(port, baudRate);
     }
   }
   ring_.Clear();
@@ -62,7 +59,7 @@ Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
   const Result result = channel_.Open(port, baudRate);
   // Open and close name their result "SUCCESS" whatever it is.
   if (PortLog* log = UsefulLog()) log->Result(result, "SUCCESS");
-  if (!Succeeded(result) && !IsOpen()) usefulLog_.reset();
+  if (!Succeeded(result) && !IsOpen()) usefulLog_.Close();
   return result;
 }
 
@@ -72,7 +69,7 @@ Result PhoneLink::Close() {
     log->Line("Close");
     log->Result(result, "SUCCESS");
   }
-  if (Succeeded(result)) usefulLog_.reset();
+  if (Succeeded(result)) usefulLog_.Close();
   return result;
 }
 

@@ -3,7 +3,6 @@
 
 #include <atomic>
 #include <cstdint>
-#include <memory>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -122,7 +121,7 @@ class PhoneLink {
   // What can be told of why the last open or wait failed.
   LinkEvidence Evidence() const;
 
-  // The Useful log, silent when it is off.
+  // The Useful log, silent when it is off. A line may come from any thread.
   void LogLine(std::string_view text);
   void LogResult(Result result);
 
@@ -139,9 +138,7 @@ class PhoneLink {
   Result Receive(Frame& frame, std::uint32_t timeoutMs);
   Result Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs);
   void LogReceived(std::span<const std::uint8_t> decodedFrame);
-  PortLog* UsefulLog() const {
-    return environment_.settings.usefulLog ? usefulLog_.get() : nullptr;
-  }
+  PortLog* UsefulLog() { return environment_.settings.usefulLog ? &usefulLog_ : nullptr; }
 
   LinkEnvironment& environment_;
   platform::Clock& clock_;
@@ -149,7 +146,7 @@ class PhoneLink {
   // Bytes received and not yet taken as frames.
   ByteRing ring_;
   FrameSearch search_{ring_};
-  std::unique_ptr<PortLog> usefulLog_;
+  PortLog usefulLog_;
   Sightings sightings_;
   bool deviceGone_ = false;  // by the last read
   std::atomic<std::uint32_t> nextSequence_{0};

@@ -11,11 +11,13 @@
 
 namespace merovane {
 
+// For any thread. While it is not open, what is written to it is lost.
 class PortLog {
  public:
   // Opens `fileName` in the folder "Log" of `home`, there in that of the day; false when that
   // cannot be done.
   bool Open(const std::filesystem::path& home, std::string_view fileName);
+  void Close() { file_.Close(); }
   // Where the logs of a day stand.
   static std::filesystem::path FolderOfToday(const std::filesystem::path& home);
   void Line(std::string_view text);
