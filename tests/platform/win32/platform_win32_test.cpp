@@ -5,6 +5,7 @@
 #include <fstream>
 #include <random>
 
+#include "platform/com_components.h"
 #include "platform/console.h"
 #include "platform/device_handle.h"
 #include "platform/files.h"
@@ -169,6 +170,16 @@ TEST(Win32Console, IsMadeWrittenAndReleased) {
   WriteConsole("lost");
   EXPECT_EQ(ConsoleText(), L"");
   AttachConsole(ATTACH_PARENT_PROCESS);
+}
+
+TEST(Win32Components, AreFoundByTheNameThatTheyAreRegisteredUnder) {
+  constexpr wchar_t kId[] = L"{6C1B5C5E-2F0D-4B0E-9C1A-4D65726F7661}";
+  EXPECT_FALSE(IsComponentRegistered("Merovane.Probe"));
+  ASSERT_EQ(
+      RegSetKeyValueW(HKEY_CLASSES_ROOT, L"Merovane.Probe\\CLSID", L"", REG_SZ, kId, sizeof kId),
+      ERROR_SUCCESS);
+  EXPECT_TRUE(IsComponentRegistered("Merovane.Probe"));
+  EXPECT_EQ(RegDeleteTreeW(HKEY_CLASSES_ROOT, L"Merovane.Probe"), ERROR_SUCCESS);
 }
 
 }  // namespace
