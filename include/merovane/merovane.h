@@ -4236,6 +4236,46 @@ MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_MChip_MT(
     int32_t port, uint32_t start, MEROVANE_IN const QV_AGC_PARAMETERS *parameters,
     MEROVANE_OUT_OPT QV_AGC_RESULT *measured) MEROVANE_READS(3) MEROVANE_WRITES(4);
 
+/** Makes the handset transmit at full power, as QV_EnterMaxTxPowerStatus does. Waits for nothing:
+ * success means that the request was written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MChip(void);
+
+/** QV_EnterMaxTxPowerStatus_MChip for the port `port`, with the same effect and results.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxTxPowerStatus_MChip_MT(int32_t port);
+
+/** Makes the handset leave full power, as QV_LeaveMaxTxPowerStatus does. Waits for nothing: success
+ * means that the request was written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MChip(void);
+
+/** QV_LeaveMaxTxPowerStatus_MChip for the port `port`, with the same results. Makes the handset
+ * leave full power, as QV_LeaveMaxTxPowerStatus does. Waits for nothing: success means that the
+ * request was written.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxTxPowerStatus_MChip_MT(int32_t port);
+
+/** Makes the handset receive at full power, as QV_EnterMaxRxPowerStatus does. Waits for nothing:
+ * success means that the request was written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MChip(void);
+
+/** QV_EnterMaxRxPowerStatus_MChip for the port `port`, with the same effect and results.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_EnterMaxRxPowerStatus_MChip_MT(int32_t port);
+
+/** Makes the handset leave full power, as QV_LeaveMaxRxPowerStatus does. Waits for nothing: success
+ * means that the request was written.
+ * @return 0 (PC_ERR_SUCCESS), PC_ERR_PORT_NOT_OPEN or PC_ERR_WRITE_FAILED */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MChip(void);
+
+/** QV_LeaveMaxRxPowerStatus_MChip for the port `port`, with the same results. Makes the handset
+ * leave full power, as QV_LeaveMaxRxPowerStatus does. Waits for nothing: success means that the
+ * request was written.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MChip_MT(int32_t port);
+
 /** Measures the receiver's direct-current offset on channel 61 of QV_BAND_GSM. That band stays
  * chosen for multi-chip handsets, and that channel is the one that was sent last. Steps wait 1000
  * ms, the measurement itself, 100 ms later, 3000 ms. The receiver is switched off at the end
