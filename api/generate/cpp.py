@@ -18,8 +18,14 @@ def subject(declaration):
         return ["Phone& phone"]
     if declaration.kind == "project":
         holder = ["std::unique_ptr<CFileParser>& holder"] if "holder" in declaration.flags else ["CFileParser* project"]
-        return holder + (["const ImageContext& context"] if "image" in declaration.flags else [])
+        return holder + context_parameters(declaration)
     return []
+
+
+def context_parameters(declaration):
+    """What a project function gets of the library beside its project."""
+    image = ["const ImageContext& context"] if "image" in declaration.flags else []
+    return image + (["const LogLine& log"] if declaration.log_names else [])
 
 
 def returned(declaration):
@@ -58,7 +64,7 @@ def body_parameters(declaration):
     elif "holder" in declaration.flags:
         parameters = ["std::unique_ptr<CFileParser>& holder"]
     else:
-        parameters = ["CFileParser& project"] + (["const ImageContext& context"] if "image" in declaration.flags else [])
+        parameters = ["CFileParser& project"] + context_parameters(declaration)
     for argument in declaration.arguments:
         if declaration.counts(argument):
             continue
@@ -182,8 +188,8 @@ def definition(declaration):
         first = {"command": ["operation"], "project": ["*project"]}[declaration.kind]
         if "holder" in declaration.flags:
             first = ["holder"]
-        elif "image" in declaration.flags:
-            first.append("context")
+        elif declaration.kind == "project":
+            first += [parameter.split()[-1] for parameter in context_parameters(declaration)]
         given = [argument_for_body(argument) for argument in declaration.arguments if not declaration.counts(argument)]
         call = f"body::{declaration.name}({', '.join(first + given)})"
     out.append(f"  return {call};\n}}\n\n")
@@ -252,10 +258,12 @@ def call(export):
         frame = "OnPhone(port, " if export.twin else "OnDefaultPhone("
         return f"library::{frame}[&](auto& phone) {{ return commands::{declaration.name}({', '.join(['phone'] + names)}); }})"
     frame = "OnProjectOf(port, " if export.twin else "OnDefaultProject("
-    first = ["holder"] if "holder" in declaration.flags else ["holder.get()"]
+    first = ["phone.project"] if "holder" in declaration.flags else ["phone.project.get()"]
     if "image" in declaration.flags:
         first.append("library::ImageContextNow()")
-    return (f"library::{frame}{declaration.operation}, [&](auto& holder) "
+    if declaration.log_names:
+        first.append("library::UsefulLogOf(phone)")
+    return (f"library::{frame}{declaration.operation}, [&](auto& phone) "
             f"{{ return nvproject::{declaration.name}({', '.join(first + names)}); }})")
 
 

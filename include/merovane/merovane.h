@@ -5133,6 +5133,89 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2_MT(
     MEROVANE_IN_N(16) const uint16_t *afc_range, MEROVANE_IN_N(16) const uint16_t *slope_value,
     MEROVANE_IN_N(16) const uint16_t *slope_reciprocal) MEROVANE_READS(5) MEROVANE_READS(6) MEROVANE_READS(7);
 
+/** Reads the TD-SCDMA parameters. Which they are, their order, and that they stand in a structure
+ * "rf_td_param_dsp_use" beside those of the GSM bands, is this library's own choice.
+ * @param agc_words  its agc_ctrl_word (91 values)
+ * @param gain_index  its max_rf_gain_index
+ * @param step_factor  its rf_ramppwr_step_factor (80 values)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_DSP_Use_TD(
+    MEROVANE_OUT_N(91) uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
+    MEROVANE_OUT_N(80) uint16_t *step_factor) MEROVANE_WRITES(1) MEROVANE_WRITES(2) MEROVANE_WRITES(3);
+
+/** QV_GetNvValue_DSP_Use_TD for the port `port`, with the same effect and results.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param agc_words  its agc_ctrl_word (91 values)
+ * @param gain_index  its max_rf_gain_index
+ * @param step_factor  its rf_ramppwr_step_factor (80 values) */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_DSP_Use_TD_MT(
+    int32_t port, MEROVANE_OUT_N(91) uint16_t *agc_words, MEROVANE_OUT uint16_t *gain_index,
+    MEROVANE_OUT_N(80) uint16_t *step_factor) MEROVANE_WRITES(2) MEROVANE_WRITES(3) MEROVANE_WRITES(4);
+
+/** Writes the TD-SCDMA parameters.
+ * @param agc_words  as QV_GetNvValue_DSP_Use_TD reads them, as are the others (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param step_factor  as the items have them (80 values)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer
+ * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_DSP_Use_TD(
+    MEROVANE_IN_N(91) const uint16_t *agc_words, uint16_t gain_index,
+    MEROVANE_IN_N(80) const uint16_t *step_factor) MEROVANE_READS(1) MEROVANE_READS(3);
+
+/** QV_SetNvValue_DSP_Use_TD for the port `port`, with the same results. Writes the TD-SCDMA
+ * parameters.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param agc_words  as QV_GetNvValue_DSP_Use_TD reads them, as are the others (91 values)
+ * @param gain_index  the maximum RF gain index
+ * @param step_factor  as the items have them (80 values) */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_DSP_Use_TD_MT(
+    int32_t port, MEROVANE_IN_N(91) const uint16_t *agc_words, uint16_t gain_index,
+    MEROVANE_IN_N(80) const uint16_t *step_factor) MEROVANE_READS(2) MEROVANE_READS(4);
+
+/** Reads one of a band's ramp tables under "RF_ramp_table_T". A line in the port's Useful log tells
+ * of each point that the project lacks. That a table has 20 points, as in the handset, the order of
+ * the arguments and the numbers of the bands are this library's own choice.
+ * @param points  the table's points (20 values)
+ * @param stage  the number in the table's name: 1 is "stage1"
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  `points` is null; `band` above 3
+ * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Multi_Ramp(
+    MEROVANE_OUT_N(20) uint16_t *points, uint32_t stage, uint32_t band) MEROVANE_WRITES(1);
+
+/** QV_GetNvValue_Multi_Ramp for the port `port`, with the same effect and results.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param points  the table's points (20 values)
+ * @param stage  the number in the table's name: 1 is "stage1"
+ * @param band  a QV_NV_BAND (0 to 3) */
+MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Multi_Ramp_MT(
+    int32_t port, MEROVANE_OUT_N(20) uint16_t *points, uint32_t stage,
+    uint32_t band) MEROVANE_WRITES(2);
+
+/** Writes one of a band's ramp tables under "RF_ramp_table_T".
+ * @param points  as QV_GetNvValue_Multi_Ramp reads them (20 values)
+ * @param stage  the number in the table's name
+ * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_INVALID_PARAM  `points` is null; `band` above 3
+ * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Multi_Ramp(
+    MEROVANE_IN_N(20) const uint16_t *points, uint32_t stage, uint32_t band) MEROVANE_READS(1);
+
+/** QV_SetNvValue_Multi_Ramp for the port `port`, with the same results. Writes one of a band's ramp
+ * tables under "RF_ramp_table_T".
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
+ * @param points  as QV_GetNvValue_Multi_Ramp reads them (20 values)
+ * @param stage  the number in the table's name
+ * @param band  a QV_NV_BAND (0 to 3) */
+MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Multi_Ramp_MT(
+    int32_t port, MEROVANE_IN_N(20) const uint16_t *points, uint32_t stage,
+    uint32_t band) MEROVANE_READS(2);
+
 #ifdef __cplusplus
 }
 #endif

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string_view>
 #include <utility>
 
 #include "library/call.h"
@@ -49,7 +50,7 @@ std::int32_t RunProject(PhoneObject& phone, std::uint32_t id, Operation&& operat
   const Turn turn(phone.projectTurns);
   if (!turn) return ReportedUnreached(Result::PortNotOpen);
   TheLibrary().environment.errors.BeginOperation(id);
-  return Reported(Guarded([&] { return operation(phone.project); }));
+  return Reported(Guarded([&] { return operation(phone); }));
 }
 
 template <typename Run>
@@ -75,7 +76,7 @@ std::int32_t OnPhone(std::int32_t port, Command&& command) noexcept {
   return OnObjectOf(port, [&](PhoneObject& phone) { return RunCommand(phone, command); });
 }
 
-// `operation` gets what holds the object's NV project.
+// `operation` gets the object for its NV project.
 template <typename Operation>
 std::int32_t OnDefaultProject(std::uint32_t id, Operation&& operation) noexcept {
   return OnDefaultObject([&](PhoneObject& phone) { return RunProject(phone, id, operation); });
@@ -88,6 +89,11 @@ std::int32_t OnProjectOf(std::int32_t port, std::uint32_t id, Operation&& operat
 
 inline nvproject::ImageContext ImageContextNow() {
   return {TheLibrary().environment.settings.Order(), platform::SystemClock().NowMs()};
+}
+
+// For what a project function has to say. Commands may run meanwhile.
+inline nvproject::LogLine UsefulLogOf(PhoneObject& phone) {
+  return [&phone](std::string_view line) { phone.link.LogLine(line); };
 }
 
 }  // namespace merovane::library

@@ -2,6 +2,7 @@
 #include <array>
 #include <cstring>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -166,6 +167,46 @@ Result SetNvValue_Afc_2(CFileParser& project, std::uint16_t slopeLength, std::ui
   parameters.Write(CommonArray::AfcRange, Signed(afcRange));
   parameters.Write(CommonArray::SlopeValue, Signed(slopeValue));
   parameters.Write(CommonArray::SlopeReciprocal, Signed(slopeReciprocal));
+  return Result::Success;
+}
+
+Result GetNvValue_DSP_Use_TD(CFileParser& project, std::span<std::uint16_t, 91> agcWords,
+                             std::uint16_t& gainIndex, std::span<std::uint16_t, 80> stepFactor) {
+  CalibrationParameters& parameters = project.Calibration();
+  parameters.LoadTd();
+  Deliver(parameters.Cached(Band::Td, BandArray::AgcControlWord), agcWords);
+  Deliver(parameters.CachedGainIndex(Band::Td), gainIndex);
+  Deliver(parameters.Cached(Band::Td, BandArray::StepFactor), stepFactor);
+  return Result::Success;
+}
+
+Result SetNvValue_DSP_Use_TD(CFileParser& project, std::span<const std::uint16_t, 91> agcWords,
+                             std::uint16_t gainIndex,
+                             std::span<const std::uint16_t, 80> stepFactor) {
+  CalibrationParameters& parameters = project.Calibration();
+  parameters.Write(Band::Td, BandArray::AgcControlWord, Signed(agcWords));
+  parameters.WriteGainIndex(Band::Td, gainIndex);
+  parameters.Write(Band::Td, BandArray::StepFactor, Signed(stepFactor));
+  return Result::Success;
+}
+
+Result GetNvValue_Multi_Ramp(CFileParser& project, const LogLine& log,
+                             std::span<std::uint16_t, kRampPoints> points, std::uint32_t stage,
+                             std::uint32_t band) {
+  ItemArray ramp = RampStage(kBands[band], stage);
+  std::array<std::int16_t, kRampPoints> values;
+  ramp.Read(project.Items(), values);
+  Deliver(values, points);
+  for (const std::string& path : ramp.MissingPaths(project.Items())) {
+    log("Get NV Item Value Error! Module = 0, Path = " + path);
+  }
+  return Result::Success;
+}
+
+Result SetNvValue_Multi_Ramp(CFileParser& project,
+                             std::span<const std::uint16_t, kRampPoints> points,
+                             std::uint32_t stage, std::uint32_t band) {
+  RampStage(kBands[band], stage).Write(project.Items(), Signed(points));
   return Result::Success;
 }
 

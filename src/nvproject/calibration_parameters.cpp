@@ -13,10 +13,10 @@ constexpr std::size_t Number(Enum value) {
   return static_cast<std::size_t>(value);
 }
 
-constexpr std::array kAllBands = {Band::Gsm, Band::Dcs, Band::Pcs, Band::Gsm850};
+constexpr std::array kGsmBands = {Band::Gsm, Band::Dcs, Band::Pcs, Band::Gsm850};
 
 std::string BandPath(Band band) {
-  constexpr std::array kNames = {"gsm", "dcs", "pcs", "gsm850"};
+  constexpr std::array kNames = {"gsm", "dcs", "pcs", "gsm850", "td"};
   return std::string("calibration_param_T.rf_param_dsp_use.rf_") + kNames[Number(band)] +
          "_param_dsp_use.";
 }
@@ -108,13 +108,18 @@ ItemArray ItemsOf(std::string structure, const ArrayParameter& array) {
 
 }  // namespace
 
+ItemArray RampStage(Band band, std::uint32_t stage) {
+  const std::string table = BandPath(band) + "RF_ramp_table_T.stage" + std::to_string(stage);
+  return ItemArray(table, kRampPoints, IndexNotation::Decimal);
+}
+
 bool HasAreoSpelling(ItemStore& items) {
   const ValueParameter& probe = kCommonValues[Number(CommonValue::SlopeLength)];
   return items.Find(RootPath(probe.root, true).append(probe.path)) != kNoItem;
 }
 
 CalibrationParameters::CalibrationParameters(ItemStore& items, bool areoSpelling) : items_(&items) {
-  for (const Band band : kAllBands) {
+  for (const Band band : {Band::Gsm, Band::Dcs, Band::Pcs, Band::Gsm850, Band::Td}) {
     BandParameters parameters{{}, {ItemValue(BandPath(band).append(kMaxGainIndex))}};
     for (const ArrayParameter& array : kBandArrays) {
       parameters.arrays.push_back({ItemsOf(BandPath(band), array), Values(array.count)});
@@ -131,10 +136,8 @@ CalibrationParameters::CalibrationParameters(ItemStore& items, bool areoSpelling
 
 void CalibrationParameters::LoadAgc(Band band) {
   LoadBands(band, BandArray::AgcControlWord);
-  for (const Band each : kAllBands) {
-    Value& gainIndex = Of(each).gainIndex;
-    const auto content = gainIndex.item.Read(*items_);
-    gainIndex.value = content ? static_cast<std::uint32_t>(ParseNumber(*content, 16)) : 0;
+  for (const Band each : kGsmBands) {
+    LoadGainIndex(each);
     Load(each, BandArray::TxBoundary);
     Load(each, BandArray::RxBoundary);
   }
@@ -147,6 +150,12 @@ void CalibrationParameters::LoadApc(Band band) {
         BandArray::StepFactor}) {
     LoadBands(band, array);
   }
+}
+
+void CalibrationParameters::LoadTd() {
+  Load(Band::Td, BandArray::AgcControlWord);
+  LoadGainIndex(Band::Td);
+  Load(Band::Td, BandArray::StepFactor);
 }
 
 void CalibrationParameters::LoadCharging() {
@@ -198,8 +207,14 @@ void CalibrationParameters::Load(CommonArray array) {
   target.items.Read(*items_, target.values);
 }
 
+void CalibrationParameters::LoadGainIndex(Band band) {
+  Value& gainIndex = Of(band).gainIndex;
+  const auto content = gainIndex.item.Read(*items_);
+  gainIndex.value = content ? static_cast<std::uint32_t>(ParseNumber(*content, 16)) : 0;
+}
+
 void CalibrationParameters::LoadBands(Band band, BandArray array) {
-  for (const Band each : kAllBands) {
+  for (const Band each : kGsmBands) {
     if (each != Band::Pcs || band == Band::Pcs) Load(each, array);
   }
 }
@@ -233,10 +248,14 @@ void CalibrationParameters::Write(CommonValue value, std::uint32_t number) {
 
 void CalibrationParameters::WriteGainIndex(Band band, std::uint16_t gainIndex) {
   Of(band).gainIndex.value = gainIndex;
-  for (const Band each : kAllBands) {
-    if (each == Band::Pcs && band != Band::Pcs) continue;
-    Of(each).gainIndex.item.Write(*items_, HexText(HexForm::UpperLower, CachedGainIndex(each)));
+  if (band == Band::Td) return StoreGainIndex(band);
+  for (const Band each : kGsmBands) {
+    if (each != Band::Pcs || band == Band::Pcs) StoreGainIndex(each);
   }
+}
+
+void CalibrationParameters::StoreGainIndex(Band band) {
+  Of(band).gainIndex.item.Write(*items_, HexText(HexForm::UpperLower, CachedGainIndex(band)));
 }
 
 }  // namespace merovane::nvproject

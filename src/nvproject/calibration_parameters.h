@@ -13,7 +13,8 @@
 
 namespace merovane::nvproject {
 
-enum class Band { Gsm, Dcs, Pcs, Gsm850 };
+// TD-SCDMA's stands apart: what is done to other bands with one of GSM leaves it alone.
+enum class Band { Gsm, Dcs, Pcs, Gsm850, Td };
 
 // Arrays that every band has.
 enum class BandArray {
@@ -49,6 +50,12 @@ enum class CommonValue {
   VoltageWarning,
 };
 
+// How many points a ramp table under "RF_ramp_table_T" has.
+inline constexpr std::size_t kRampPoints = 20;
+
+// The points of such a table; a band may have any number of them.
+ItemArray RampStage(Band band, std::uint32_t stage);
+
 // Which of the two spellings of the AFC structure's name the items have.
 bool HasAreoSpelling(ItemStore& items);
 
@@ -62,6 +69,7 @@ class CalibrationParameters {
   // indices and the boundaries of AGC.
   void LoadAgc(Band band);
   void LoadApc(Band band);
+  void LoadTd();
   void Load(Band band, BandArray array);
   void LoadCharging();
   void LoadAfcStructure();
@@ -81,8 +89,8 @@ class CalibrationParameters {
     Write(arrays_[static_cast<std::size_t>(array)], values);
   }
   void Write(CommonValue value, std::uint32_t number);
-  // Writes the cached gain indices of the other bands too (of PCS only when it is the band): those
-  // that were never loaded are 0.
+  // Writes the cached gain indices of the other GSM bands too (of PCS only when it is the band):
+  // those that were never loaded are 0. That of TD-SCDMA is written alone.
   void WriteGainIndex(Band band, std::uint16_t gainIndex);
 
  private:
@@ -101,6 +109,8 @@ class CalibrationParameters {
   };
 
   void Load(CommonArray array);
+  void LoadGainIndex(Band band);
+  void StoreGainIndex(Band band);
   // GSM, DCS and GSM850 always, PCS when it is the band.
   void LoadBands(Band band, BandArray array);
   // Loads a value; `missing` when the project does not have it.

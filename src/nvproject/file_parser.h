@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -19,6 +20,9 @@
 #include "nvproject/nv_image.h"
 
 namespace merovane::nvproject {
+
+// Takes a line for the log of the port that the project belongs to.
+using LogLine = std::function<void(std::string_view)>;
 
 // Holds the whole project in memory from its load on; nothing goes to disk unless it is saved.
 // Texts longer than their fields are cut. Not for use by several threads at once.

@@ -56,6 +56,15 @@ void ItemArray::Write(ItemStore& items, std::span<const std::int16_t> values) {
   }
 }
 
+std::vector<std::string> ItemArray::MissingPaths(ItemStore& items) {
+  Locate(items);
+  std::vector<std::string> paths;
+  for (std::size_t k = 0; k < count_; ++k) {
+    if (elements_[k] == kNoItem) paths.push_back(prefix_ + IndexName(k, first_));
+  }
+  return paths;
+}
+
 std::uint32_t ItemValue::Locate(ItemStore& items) {
   if (locatedRevision_ != items.PathRevision()) {
     item_ = items.Find(path_);

@@ -28,6 +28,8 @@ class ItemArray {
   void Read(ItemStore& items, std::span<std::int16_t> values);
   // An element that the project does not have is skipped.
   void Write(ItemStore& items, std::span<const std::int16_t> values);
+  // The paths of those elements.
+  std::vector<std::string> MissingPaths(ItemStore& items);
 
  private:
   void Locate(ItemStore& items);

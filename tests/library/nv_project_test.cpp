@@ -1,7 +1,9 @@
 // The functions of NV projects as stations call them.
 #include <array>
 
+#include "support/log_reader.h"
 #include "support/station.h"
+#include "support/temp_directory.h"
 
 namespace merovane::test {
 namespace {
@@ -37,10 +39,32 @@ TEST_F(NvProjects, AreReportedUnderTheirOperations) {
   expect(207, QV_GetNvValue_Afc_2(u, u, u, u, u, u));
   expect(208, QV_SetNvValue_Afc_2(1, 2, 3, u, u, u));
   expect(209, QV_GetNvValue_NvVersion_TD(u));
+  expect(210, QV_GetNvValue_DSP_Use_TD(u, u, u));
+  expect(211, QV_SetNvValue_DSP_Use_TD(u, 1, u));
+  expect(212, QV_GetNvValue_Multi_Ramp(u, 0, 0));
+  expect(213, QV_SetNvValue_Multi_Ramp(u, 0, 0));
   expect(214, QV_GetNvValue(0, "a", text.data(), 8));
   expect(215, QV_SetNvValue(0, "a", "1"));
   expect(216, QV_GetItemOffsetAndSize("a", d.data()));
   expect(217, QV_ConvertDataByDataType("a", image.data(), 8));
+}
+
+TEST_F(NvProjects, WriteToTheUsefulLogOfTheirPort) {
+  const TempDirectory directory;
+  directory.Write("p", "MODULE = m\n");
+  directory.Write("m", "");
+  QV_SetProperty(QV_PROPERTY_USEFUL_LOG, 0, 1);
+  ASSERT_EQ(QV_BeginPhoneTest(7, 115200), 0);
+  ASSERT_EQ(QV_OpenPrjFile((directory / "p").string().c_str()), 0);
+  LogReader log(7, "UsefulLog");
+  log.TakeText();
+  std::array<uint16_t, 20> points;
+  EXPECT_EQ(QV_GetNvValue_Multi_Ramp_MT(7, points.data(), 0, 0), 0);
+  const auto lines = log.TakeText();
+  ASSERT_EQ(lines.size(), 20u);
+  EXPECT_EQ(lines.back(),
+            "Get NV Item Value Error! Module = 0, Path = calibration_param_T.rf_param_dsp_use."
+            "rf_gsm_param_dsp_use.RF_ramp_table_T.stage0[19]");
 }
 
 }  // namespace

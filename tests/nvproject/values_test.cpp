@@ -91,6 +91,79 @@ TEST(Commands, OpenReplacesAndAFailedOpenLeavesNone) {
   EXPECT_EQ(ClosePrjFile(project), Result::Success);
 }
 
+// Items of a project's radio parameters, with the value 0x12.
+struct RadioItems {
+  std::vector<TestItem> items = {{.name = "calibration_param_T", .type = kStruct},
+                                 {.name = "rf_param_dsp_use", .type = kStruct, .parent = 0}};
+
+  int Add(const std::string& name, int type, int parent = 1) {
+    items.push_back({.name = name, .type = type, .parent = parent, .content = "0x12"});
+    return static_cast<int>(items.size()) - 1;
+  }
+  static std::string Path(const std::string& name) {
+    return "calibration_param_T.rf_param_dsp_use." + name;
+  }
+};
+
+TEST(CalibrationCommands, TellWhichPointsOfARampTableAreMissing) {
+  RadioItems radio;
+  const int band = radio.Add("rf_dcs_param_dsp_use", kStruct);
+  const int stage = radio.Add("stage1", kArray, radio.Add("RF_ramp_table_T", kStruct, band));
+  for (const int i : {0, 1, 3, 4, 5}) radio.Add("[" + std::to_string(i) + "]", kShort, stage);
+  const auto parser = Load({radio.items});
+  std::array<std::uint16_t, 20> points;
+  for (std::size_t i = 0; i < 20; ++i) points[i] = static_cast<std::uint16_t>(0x8000 + i);
+  EXPECT_EQ(SetNvValue_Multi_Ramp(parser.get(), points.data(), 1, QV_NV_BAND_DCS), Result::Success);
+  const std::string path = RadioItems::Path("rf_dcs_param_dsp_use.RF_ramp_table_T.stage1");
+  EXPECT_EQ(Content(*parser, path + "[4]"), "0X8004");
+
+  std::vector<std::string> lines;
+  const LogLine log = [&](std::string_view line) { lines.emplace_back(line); };
+  points.fill(0);
+  EXPECT_EQ(GetNvValue_Multi_Ramp(parser.get(), log, points.data(), 1, QV_NV_BAND_DCS),
+            Result::Success);
+  EXPECT_EQ(points[1], 0x8001);
+  EXPECT_EQ(points[2], 0x8001) << "as the one before";
+  EXPECT_EQ(points[19], 0x8005);
+  ASSERT_EQ(lines.size(), 15U);
+  EXPECT_EQ(lines[0], "Get NV Item Value Error! Module = 0, Path = " + path + "[2]");
+  EXPECT_EQ(GetNvValue_Multi_Ramp(parser.get(), log, points.data(), 0, QV_NV_BAND_DCS),
+            Result::Success);
+  EXPECT_EQ(lines.size(), 35U) << "another stage has points of its own";
+}
+
+TEST(CalibrationCommands, KeepTdScdmaApartFromTheGsmBands) {
+  RadioItems radio;
+  const int td = radio.Add("rf_td_param_dsp_use", kStruct);
+  radio.Add("[0x5a]", kShort, radio.Add("agc_ctrl_word", kArray, td));
+  radio.Add("[79]", kShort, radio.Add("rf_ramppwr_step_factor", kArray, td));
+  radio.Add("max_rf_gain_index", kShort, td);
+  radio.Add("max_rf_gain_index", kShort, radio.Add("rf_gsm_param_dsp_use", kStruct));
+  const auto parser = Load({radio.items});
+  const auto content = [&](const std::string& name) {
+    return Content(*parser, RadioItems::Path(name));
+  };
+  std::array<std::uint16_t, 91> words{};
+  std::array<std::uint16_t, 80> factors{};
+  std::uint16_t gain = 0;
+  EXPECT_EQ(GetNvValue_DSP_Use_TD(parser.get(), words.data(), &gain, factors.data()),
+            Result::Success);
+  EXPECT_EQ(words[90], 0x12);
+  EXPECT_EQ(gain, 0x12);
+  EXPECT_EQ(factors[79], 0x12);
+
+  words[90] = 0xFFFE;
+  factors[79] = 3;
+  EXPECT_EQ(SetNvValue_DSP_Use_TD(parser.get(), words.data(), 0x1F, factors.data()),
+            Result::Success);
+  EXPECT_EQ(content("rf_td_param_dsp_use.agc_ctrl_word[0x5a]"), "0XFFFE");
+  EXPECT_EQ(content("rf_td_param_dsp_use.rf_ramppwr_step_factor[79]"), "0X3");
+  EXPECT_EQ(content("rf_td_param_dsp_use.max_rf_gain_index"), "0X1f");
+  EXPECT_EQ(content("rf_gsm_param_dsp_use.max_rf_gain_index"), "0x12");
+  SetNvValue_Agc(parser.get(), words.data(), 0x2A, words.data(), QV_NV_BAND_GSM);
+  EXPECT_EQ(content("rf_td_param_dsp_use.max_rf_gain_index"), "0X1f");
+}
+
 template <typename T>
 T NulledIf(bool nulled, T value) {
   if constexpr (std::is_pointer_v<T>) return nulled ? nullptr : value;
@@ -118,6 +191,7 @@ void ExpectChecks(Result (*command)(CFileParser*, Parameters...), Arguments... a
 }
 
 TEST(Commands, CheckArgumentsBeforeTheProject) {
+  const LogLine noLog = [](std::string_view) {};
   std::array<std::uint16_t, 100> u16{};
   std::array<std::uint32_t, 2> u32{};
   std::vector<char> bytes(kImageCapacity);
@@ -142,10 +216,15 @@ TEST(Commands, CheckArgumentsBeforeTheProject) {
   ExpectChecks(SetNvValue_Afc_1, 1, 2);
   ExpectChecks(GetNvValue_Afc_2, w, w, w, w, w, w);
   ExpectChecks(SetNvValue_Afc_2, 1, 2, 3, w, w, w);
+  ExpectChecks(GetNvValue_DSP_Use_TD, w, w, w);
+  ExpectChecks(SetNvValue_DSP_Use_TD, w, 1, w);
+  ExpectChecks(GetNvValue_Multi_Ramp, noLog, w, 0, 3);
+  ExpectChecks(SetNvValue_Multi_Ramp, w, 0, 3);
   for (const Result result :
        {GetNvValue(nullptr, 0, "a", b, 0), GetNvValue_Agc(nullptr, w, w, w, 4),
         SetNvValue_Agc(nullptr, w, 1, w, 0xFFFFFFFF), GetNvValue_Apc(nullptr, w, w, w, w, w, w, 4),
-        SetNvValue_Apc(nullptr, w, 4)}) {
+        SetNvValue_Apc(nullptr, w, 4), GetNvValue_Multi_Ramp(nullptr, noLog, w, 0, 4),
+        SetNvValue_Multi_Ramp(nullptr, w, 0, 4)}) {
     EXPECT_EQ(result, Result::InvalidParam);
   }
 }
