@@ -4811,8 +4811,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
  * @param data  converted in place (`length` bytes)
- * @param length  how many bytes (above 0)
- * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` of 0
+ * @param length  how many bytes (1 to 2147483647)
+ * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` outside 1 to 2147483647
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType(
@@ -4824,7 +4824,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType(
  * @param path  of the item where the block begins; letter case counts. A structure or array counts
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
  * @param data  converted in place (`length` bytes)
- * @param length  how many bytes (above 0) */
+ * @param length  how many bytes (1 to 2147483647) */
 MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType_MT(
     int32_t port, MEROVANE_IN_TEXT const char *path, MEROVANE_INOUT_N(length) void *data,
     uint32_t length) MEROVANE_UPDATES_N(3, 4);

@@ -237,6 +237,7 @@ TEST(Commands, ThatCheckTheProjectFirst) {
   EXPECT_EQ(ConvertDataByDataType(project.get(), nullptr, &byte, 1), Result::InvalidParam);
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", nullptr, 1), Result::InvalidParam);
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 0), Result::InvalidParam);
+  EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 0x80000000), Result::InvalidParam);
   EXPECT_EQ(ConvertDataByDataType(project.get(), "a", &byte, 1), Result::Success);
   EXPECT_EQ(GetNvValue_Factor(nullptr, nullptr, 2), Result::NvProjectNotOpen);
   EXPECT_EQ(GetNvValue_Factor(project.get(), nullptr, 2), Result::InvalidParam);
