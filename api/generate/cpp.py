@@ -182,7 +182,9 @@ def definition(declaration):
         out.append(no_project)
     if declaration.log:
         out.append(f"  operation.Log({declaration.log});\n")
-    if declaration.runs:
+    if declaration.uses == "unsupported":
+        call = "Result::NotSupported"
+    elif declaration.runs:
         call = declaration.runs
     else:
         first = {"command": ["operation"], "project": ["*project"]}[declaration.kind]
@@ -220,7 +222,7 @@ def declared_header(api, unit):
         declarations = in_unit(api, unit, (kind,))
         out.append(f"\nnamespace {namespace_of(kind)} {{\n\n")
         out += [prototype(d) + ";\n" for d in declarations]
-        bodies = [d for d in declarations if kind != "session" and not d.runs]
+        bodies = [d for d in declarations if kind != "session" and not d.runs and d.uses != "unsupported"]
         if bodies:
             out.append("\n// Their arguments are checked and their names logged.\nnamespace body {\n\n")
             out += [body_prototype(d) + ";\n" for d in bodies]
@@ -316,7 +318,7 @@ def names_header(api):
     results = "".join(f'    "{code.short_name}",\n' for code in api.result_codes)
     operations = "".join(f'    OperationName{{{number}, "{name}"}},\n' for number, name in api.operation_names)
     return (MADE + "#pragma once\n\n#include <array>\n#include <cstdint>\n\nnamespace merovane::library {\n\n"
-            "// By code.\ninline constexpr std::array kResultNames{\n" + results + "};\n\n"
+            "// By code, from -1 on.\ninline constexpr std::array kResultNames{\n" + results + "};\n\n"
             "struct OperationName {\n  std::uint32_t id;\n  const char* name;\n};\n"
             "// By rising id.\ninline constexpr std::array kOperationNames{\n" + operations + "};\n\n"
             "}  // namespace merovane::library\n")

@@ -162,6 +162,12 @@ def description(declaration):
     lines = paragraphs(declaration.brief)
     if declaration.kind == "command" and declaration.operation is None:
         lines[0] += " The result is reported under the operation id of the command before."
+    if declaration.uses == "unsupported":
+        lines[0] += " Not supported: with its port open it sends nothing, changes nothing and fails."
+    if "unknown-arguments" in declaration.flags:
+        beside = ", and its _MT form none beside the port" if declaration.has_twin else ""
+        lines[0] += (f" Its arguments are not known: it takes none{beside}, and a 32-bit Windows program must not pass any, "
+                     "since they would stay on its stack.")
     return lines
 
 
@@ -179,6 +185,8 @@ def comment(export, api):
                      f"QV_{declaration.name} for the port `port`, with the same effect and results.", " *")
     else:
         lines = wrapped(declaration)
+    if export.decorated:
+        lines += wrap(" *", f"On Windows, GetProcAddress finds it as {export.windows_name}.", " *")
     for argument in export.arguments:
         own = facts(argument, declaration)
         text = " ".join(argument.documentation)
@@ -192,7 +200,9 @@ def comment(export, api):
             name = code.short_name
             lines += wrap(f" * @retval {name}  ", text, " *   ")
         if declaration.returns_result:
-            codes = ["0 (PC_ERR_SUCCESS)"] + ["one of the above"] * bool(results(export, api)) + exchange_codes(declaration, api)
+            # Without its arguments it cannot do what it is for.
+            success = [] if "unknown-arguments" in declaration.flags else ["0 (PC_ERR_SUCCESS)"]
+            codes = success + ["one of the above"] * bool(results(export, api)) + exchange_codes(declaration, api)
             lines += wrap(" * @return ", listed(codes), " *   ")
     return "\n".join(lines) + " */\n"
 

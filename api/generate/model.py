@@ -20,6 +20,8 @@ USES = {
     "sends": ("PortNotOpen", "WriteFailed"),
     "listens": ("PortNotOpen", "NoAnswer", "Refused"),
     "local": ("PortNotOpen",),
+    "components": ("PortNotOpen", "DownloadRegister", "DownloadStart"),
+    "unsupported": ("PortNotOpen", "NotSupported"),
 }
 
 

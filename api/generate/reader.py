@@ -5,7 +5,7 @@ import sys
 import items
 from model import TYPES, USES, Api, Argument, Declaration, DiagnosticFunction, ResultCode, camel
 
-FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results"}, "session": {"void", "number"},
+FLAGS = {"command": {"plain", "decorated", "twin-decorated", "own-results", "unknown-arguments"}, "session": {"void", "number"},
          "project": {"plain", "image", "holder", "project-first"}}
 
 
@@ -69,8 +69,9 @@ def read_clauses(declaration, text, where):
             fail(where, f"cannot read '{token}' after the arguments")
         else:
             current.append(token)
-    declaration.log = f'"{declaration.name}:"' if declaration.kind == "command" else None
-    declaration.log_names = [f"{declaration.name}:"] if declaration.kind == "command" else []
+    if declaration.kind == "command" and declaration.uses != "unsupported":
+        declaration.log = f'"{declaration.name}:"'
+        declaration.log_names = [f"{declaration.name}:"]
     for word, *rest in clauses:
         expression = cpp_names(" ".join(rest), declaration.arguments)
         if word in ("log", "logs"):
@@ -111,6 +112,8 @@ def read_statement(text, where):
     if kind == "command" and len(uses) != 1:
         fail(where, f"a command says one of {', '.join(USES)}")
     arguments = [read_argument(part, where) for part in split_arguments(" ".join(rest[:end].split()))]
+    if arguments and "unknown-arguments" in flags:
+        fail(where, "what is not known cannot be listed")
     declaration = Declaration(kind, name, int(operation) if operation.isdigit() else None,
                               operation[3:].strip() if operation.startswith("as") else "",
                               uses[0] if uses else "local", flags, arguments)
@@ -160,10 +163,10 @@ def read_documentation(declaration, lines, codes, where):
 
 
 def read_result_codes(path):
-    rows = re.findall(r'RESULT\((\d+), (\w+), "(\w*)",\s*"(.*)",\s*"(.*)"\)', path.read_text())
+    rows = re.findall(r'RESULT\((-?\d+), (\w+), "(\w*)",\s*"(.*)",\s*"(.*)"\)', path.read_text())
     codes = [ResultCode(int(code), *texts) for code, *texts in rows]
-    if [code.code for code in codes] != list(range(40)):
-        fail(path.name, "the codes do not run from 0 to 39")
+    if [code.code for code in codes] != list(range(-1, 40)):
+        fail(path.name, "the codes do not run from -1 to 39")
     return codes
 
 

@@ -36,6 +36,7 @@ def export_json(export, api):
         "operation": declaration.operation, "reported_as": declaration.reported_as or None, "uses": declaration.uses,
         "log_names": declaration.log_names, "returns": declaration.returns, "returns_result": declaration.returns_result,
         "documentation": "\n".join(header.description(declaration)),
+        "arguments_known": "unknown-arguments" not in declaration.flags,
         "arguments": [argument_json(argument) for argument in export.arguments],
         "results": [{"code": code.code, "name": code.public_name, "short_name": code.short_name, "when": text}
                     for code, text in header.results(export, api)],

@@ -1122,6 +1122,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ReadGuid(MEROVANE_OUT_N(16) uint8_t *guid)
 
 /** QV_ReadGuid for the port `port`, with the same results. Reads the handset's GUID from flash item
  * 0. Waits 4000 ms. The read logs and reports as QV_ReadFlash.
+ * On Windows, GetProcAddress finds it as _QV_ReadGuid_MT@8.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up)
  * @param guid  16 bytes; as the handset holds it; bytes that did not arrive read as 0. Written on
  *   success only */
@@ -1529,6 +1530,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
 /** Enters or leaves the WiFi test mode. Waits 3000 ms. Bytes of a status that did not arrive count
  * as 0, here and in the other WiFi functions: an empty answer is a success, except where a function
  * says otherwise.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_EnterEUTMode@4.
  * @param enter  0: leave
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1536,6 +1538,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LoadBtDacValue_MT(
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_EnterEUTMode(uint32_t enter);
 
 /** Stores the WiFi address. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SaveAddr@4.
  * @param address  6 bytes; reaches the handset reversed, and QV_WIFI_LoadAddr does not turn it
  *   back: what is saved as 01 02 03 04 05 06 is loaded as 06 05 04 03 02 01
  * @retval PC_ERR_INVALID_PARAM  `address` is null
@@ -1546,6 +1549,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SaveAddr(
     MEROVANE_IN_N(6) const uint8_t *address) MEROVANE_READS(1);
 
 /** Reads the WiFi address. Waits 1000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_LoadAddr@4.
  * @param address  6 bytes; as the handset holds it; written on success only
  * @retval PC_ERR_INVALID_PARAM  `address` is null
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure or sent fewer than 6 bytes; not logged
@@ -1555,6 +1559,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(
     MEROVANE_OUT_N(6) uint8_t *address) MEROVANE_WRITES(1);
 
 /** Chooses the channel. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetChannel@4.
  * @param channel  1 to 13; any other value chooses 6
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1562,6 +1567,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_LoadAddr(
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
 
 /** Chooses the data rate. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetDateRat@4.
  * @param rate  Mbit/s, rounded down (1, 2, 5, 6, 7, 9, 11, 12, 13, 18, 19, 24, 26, 36, 39, 48, 52,
  *   54, 58 or 65)
  * @retval PC_ERR_INVALID_PARAM  another `rate`
@@ -1571,6 +1577,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetChannel(uint32_t channel);
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetDateRat(uint32_t rate);
 
 /** Chooses the modulation mode. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetMode@4.
  * @param mode  as the handset numbers its modes (0 to 6)
  * @retval PC_ERR_INVALID_PARAM  `mode` above 6
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
@@ -1579,6 +1586,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetDateRat(uint32_t rate);
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetMode(uint32_t mode);
 
 /** Chooses the power control level. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetPCL@4.
  * @param level  as the handset numbers its levels (1 to 5)
  * @retval PC_ERR_INVALID_PARAM  `level` outside 1 to 5
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
@@ -1587,6 +1595,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetMode(uint32_t mode);
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
 
 /** Switches the transmitter on or off. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetTxStatus@8.
  * @param enable  0: off
  * @param argument  sent as it is
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
@@ -1595,6 +1604,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetPCL(uint32_t level);
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetTxStatus(uint32_t enable, uint32_t argument);
 
 /** Switches the receiver on or off, or clears its counts. Waits 1000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetRxStatus@4.
  * @param mode  a QV_WIFI_RX; any other value clears the counts
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
  * @return 0 (PC_ERR_SUCCESS), one of the above, PC_ERR_PORT_NOT_OPEN, PC_ERR_WRITE_FAILED,
@@ -1602,6 +1612,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetTxStatus(uint32_t enable, uint32_t
 MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_SetRxStatus(uint32_t mode);
 
 /** Reads the receiver's counts. Waits 1000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_ReadRxValue@8.
  * @param first  the handset's first count; 0 is stored when no answer came
  * @param second  its second, likewise
  * @retval PC_ERR_INVALID_PARAM  a null pointer
@@ -1613,6 +1624,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_ReadRxValue(
     MEROVANE_OUT uint32_t *second) MEROVANE_WRITES(1) MEROVANE_WRITES(2);
 
 /** Reads, writes or sets a calibration factor. Waits 1000 ms to read, else 8000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_OperFactor@8.
  * @param action  a QV_WIFI_FACTOR_ACTION
  * @param factor  to read: filled on success; else its index, 1 to 5, and its value are sent
  * @retval PC_ERR_INVALID_PARAM  `factor` is null
@@ -1624,6 +1636,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WIFI_OperFactor(
     uint32_t action, MEROVANE_INOUT QV_WIFI_FACTOR *factor) MEROVANE_UPDATES(2);
 
 /** Stores the crystal's load capacitance. Waits 3000 ms.
+ * On Windows, GetProcAddress finds it as _QV_WIFI_SetCrystalCap@4.
  * @param capacitance  sent as it is (2 bytes)
  * @retval PC_ERR_INVALID_PARAM  `capacitance` is null
  * @retval PC_ERR_WIFI_FAILED  the handset reports a failure; not logged
@@ -1909,6 +1922,18 @@ MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus(void);
 /** QV_LeaveMaxRxPowerStatus for the port `port`, with the same effect and results.
  * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
 MEROVANE_API int32_t MEROVANE_CALL QV_LeaveMaxRxPowerStatus_MT(int32_t port);
+
+/** Would compute a factor of the transmit power control. Not supported: with its port open it sends
+ * nothing, changes nothing and fails. Its arguments are not known: it takes none, and its _MT form
+ * none beside the port, and a 32-bit Windows program must not pass any, since they would stay on
+ * its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_CalcApcFactor(void);
+
+/** QV_CalcApcFactor for the port `port`, with the same results. Would compute a factor of the
+ * transmit power control.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_CalcApcFactor_MT(int32_t port);
 
 /* ---- Calibration: IMEI --------------------------------------------------------------- */
 
@@ -4584,6 +4609,50 @@ MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD(
 MEROVANE_API int32_t MEROVANE_CALL QV_PwrStepFactorSet_TD_MT(
     int32_t port, MEROVANE_IN const QV_POWER_STEP *step) MEROVANE_READS(2);
 
+/** Would stop transmitting. Not supported: with its port open it sends nothing, changes nothing and
+ * fails. Its arguments are not known: it takes none, and its _MT form none beside the port, and a
+ * 32-bit Windows program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_TDStopTx(void);
+
+/** QV_TDStopTx for the port `port`, with the same results. Would stop transmitting.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_TDStopTx_MT(int32_t port);
+
+/** Would start a receive measurement. Not supported: with its port open it sends nothing, changes
+ * nothing and fails. Its arguments are not known: it takes none, and its _MT form none beside the
+ * port, and a 32-bit Windows program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_TD(void);
+
+/** QV_AgcStart_TD for the port `port`, with the same results. Would start a receive measurement.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_AgcStart_TD_MT(int32_t port);
+
+/** Would turn measured transmit powers into calibration values. Not supported: with its port open
+ * it sends nothing, changes nothing and fails. Its arguments are not known: it takes none, and its
+ * _MT form none beside the port, and a 32-bit Windows program must not pass any, since they would
+ * stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_ProcessTDApcData(void);
+
+/** QV_ProcessTDApcData for the port `port`, with the same results. Would turn measured transmit
+ * powers into calibration values.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_ProcessTDApcData_MT(int32_t port);
+
+/** Would turn receive measurements into calibration values. Not supported: with its port open it
+ * sends nothing, changes nothing and fails. Its arguments are not known: it takes none, and its _MT
+ * form none beside the port, and a 32-bit Windows program must not pass any, since they would stay
+ * on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_ProcessTDAGCData(void);
+
+/** QV_ProcessTDAGCData for the port `port`, with the same results. Would turn receive measurements
+ * into calibration values.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_ProcessTDAGCData_MT(int32_t port);
+
 /** Chooses what QV_PwrStepFactorSet_TD tells the handset about continuous transmission and
  * reception. Nothing is sent. A new phone object begins with 0. The result is reported under the
  * operation id of the command before.
@@ -4666,6 +4735,29 @@ MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam(const QV_TD_PARAMETERS *pa
  * @param parameters  sent as it stands. The memory need hold no more than `count` values */
 MEROVANE_API int32_t MEROVANE_CALL QV_WriteTDCalParam_MT(
     int32_t port, const QV_TD_PARAMETERS *parameters);
+
+/** Would save the calibration parameters to the handset's flash. Not supported: with its port open
+ * it sends nothing, changes nothing and fails. Its arguments are not known: it takes none, and its
+ * _MT form none beside the port, and a 32-bit Windows program must not pass any, since they would
+ * stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_TDSaveToFlash(void);
+
+/** QV_TDSaveToFlash for the port `port`, with the same results. Would save the calibration
+ * parameters to the handset's flash.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_TDSaveToFlash_MT(int32_t port);
+
+/** Would send a non-signalling command. Not supported: with its port open it sends nothing, changes
+ * nothing and fails. Its arguments are not known: it takes none, and its _MT form none beside the
+ * port, and a 32-bit Windows program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN or PC_ERR_NOT_SUPPORTED */
+MEROVANE_API int32_t MEROVANE_CALL QV_SendTDNonSignalCmd(void);
+
+/** QV_SendTDNonSignalCmd for the port `port`, with the same results. Would send a non-signalling
+ * command.
+ * @param port  opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT (1 and up) */
+MEROVANE_API int32_t MEROVANE_CALL QV_SendTDNonSignalCmd_MT(int32_t port);
 
 /* ---- NV projects --------------------------------------------------------------------- */
 
@@ -5215,6 +5307,86 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Multi_Ramp(
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Multi_Ramp_MT(
     int32_t port, MEROVANE_IN_N(20) const uint16_t *points, uint32_t stage,
     uint32_t band) MEROVANE_READS(2);
+
+/* ---- Boot mode ----------------------------------------------------------------------- */
+
+/** Would download data from a file to a handset in its boot mode. Looks for the download
+ * components, and does no more. Its arguments are not known: it takes none, and a 32-bit Windows
+ * program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_DownloadDataFromFileToPhone(void);
+
+/** Would download data from memory to a handset in its boot mode. Looks for the download
+ * components, and does no more. Its arguments are not known: it takes none, and a 32-bit Windows
+ * program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_DownloadDataFromMemoryToPhone(void);
+
+/** Would read the flash memory of a handset in its boot mode. Looks for the download components,
+ * and does no more. Its arguments are not known: it takes none, and a 32-bit Windows program must
+ * not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_ReadFlashInBoot(void);
+
+/** Would write the flash memory of a handset in its boot mode. Looks for the download components,
+ * and does no more. Its arguments are not known: it takes none, and a 32-bit Windows program must
+ * not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteFlashInBoot(void);
+
+/** Would write the NV items of a handset in its boot mode. Looks for the download components, and
+ * does no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not
+ * pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_WriteNvInBoot(void);
+
+/** Would change NV items of a handset in its boot mode. Looks for the download components, and does
+ * no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not pass
+ * any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateNvItemInBoot(void);
+
+/** Would change the IMEI of a handset in its boot mode. Looks for the download components, and does
+ * no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not pass
+ * any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateIMEI_BootMode(void);
+
+/** Would change the IMEI of a handset in its boot mode. Looks for the download components, and does
+ * no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not pass
+ * any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateIMEI_BootModeEx(void);
+
+/** Would change both IMEIs of a handset in its boot mode. Looks for the download components, and
+ * does no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not
+ * pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateDoubleIMEI_BootMode(void);
+
+/** Would change both IMEIs of a handset in its boot mode. Looks for the download components, and
+ * does no more. Its arguments are not known: it takes none, and a 32-bit Windows program must not
+ * pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateDoubleIMEI_BootModeEx(void);
+
+/** Would change IMEI and serial number of a handset in its boot mode. Looks for the download
+ * components, and does no more. Its arguments are not known: it takes none, and a 32-bit Windows
+ * program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_Update_IMEI_SN_BootMode(void);
+
+/** Would check the Bluetooth address of a handset in its boot mode. Looks for the download
+ * components, and does no more. Its arguments are not known: it takes none, and a 32-bit Windows
+ * program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_CheckBTAddr_BootMode(void);
+
+/** Would change the Bluetooth address of a handset in its boot mode. Looks for the download
+ * components, and does no more. Its arguments are not known: it takes none, and a 32-bit Windows
+ * program must not pass any, since they would stay on its stack.
+ * @return PC_ERR_PORT_NOT_OPEN, PC_ERR_DOWNLOAD_REGISTER or PC_ERR_DOWNLOAD_START */
+MEROVANE_API int32_t MEROVANE_CALL QV_UpdateBTAddr_BootMode(void);
 
 #ifdef __cplusplus
 }

@@ -6,6 +6,8 @@
 #define MEROVANE_RESULT_CODES_H
 
 typedef enum QV_RESULT {
+  /** The function is there for programs that link against it, but this library does not know how to do what it is for; nothing was sent. */
+  PC_ERR_NOT_SUPPORTED = -1,
   /** Done. */
   PC_ERR_SUCCESS = 0,
   /** The port is not open: it was never opened, or has been closed, perhaps during the command. */
@@ -63,10 +65,10 @@ typedef enum QV_RESULT {
   /** The project does not hold the parameter; this library does not give it. */
   PC_ERR_GET_NV_PARAM_IN_PRJ_FILE_FAIL = 19,
   PC_ERR_GET_NV_PARAM_FAILED = 19,
-  /** Boot mode: the download component is not registered; this library does not give it. */
+  /** Boot mode: one of the two download components is not registered, or this is not Windows. */
   PC_ERR_DL_REG_ERR = 20,
   PC_ERR_DOWNLOAD_REGISTER = 20,
-  /** Boot mode: the download does not start; this library does not give it. */
+  /** Boot mode: the download components are registered, but this library does not know how to use them. */
   PC_ERR_DL_START_ERR = 21,
   PC_ERR_DOWNLOAD_START = 21,
   /** Boot mode: the port failed; this library does not give it. */

@@ -37,8 +37,8 @@ extern "C" {
 const char* MEROVANE_CALL Merovane_Version(void) { return kVersion; }
 
 const char* MEROVANE_CALL Merovane_ResultName(std::int32_t result) {
-  const auto code = static_cast<std::uint32_t>(result);
-  return code < library::kResultNames.size() ? library::kResultNames[code] : "unknown result";
+  const auto index = static_cast<std::uint32_t>(result) + 1U;
+  return index < library::kResultNames.size() ? library::kResultNames[index] : "unknown result";
 }
 
 const char* MEROVANE_CALL Merovane_ResultMeaning(std::int32_t result) {

@@ -107,6 +107,11 @@ Merovane_Cause CauseOf(const FailedCall& call, bool shared) {
       return MEROVANE_CAUSE_PROJECT;
     case Result::Refused:
       return MEROVANE_CAUSE_REFUSED;
+    case Result::NotSupported:
+    case Result::DownloadRegister:
+    case Result::DownloadStart:
+      // No handset was asked: what these results say by themselves is all.
+      return MEROVANE_CAUSE_UNKNOWN;
     default:
       break;
   }

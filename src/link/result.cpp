@@ -16,17 +16,18 @@ constexpr std::array kResultTexts = {
 #include "api/result_codes.def"
 #undef RESULT
 };
-static_assert(kResultTexts.size() == 40);
+static_assert(kResultTexts.size() == 41);
 
 const ResultText* FindText(Result result) {
-  const auto code = static_cast<std::uint32_t>(result);
-  return code < kResultTexts.size() ? &kResultTexts[code] : nullptr;
+  // The first is that of -1.
+  const auto index = static_cast<std::uint32_t>(result) + 1U;
+  return index < kResultTexts.size() ? &kResultTexts[index] : nullptr;
 }
 
 }  // namespace
 
 std::string_view ResultName(Result result) {
-  const ResultText* text = FindText(result);
+  const ResultText* text = result == Result::NotSupported ? nullptr : FindText(result);
   return text ? text->name : "SUCCESS";
 }
 

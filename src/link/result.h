@@ -14,10 +14,10 @@ enum class Result : std::int32_t {
 
 constexpr bool Succeeded(Result result) { return result == Result::Success; }
 
-// The public name of a code that the table holds (empty for 39); "SUCCESS" for any other.
+// The public name as logs show it: empty for 39, "SUCCESS" for -1 and for what is no code.
 std::string_view ResultName(Result result);
 
-// For people; empty for a code that the table does not hold: what it says, and what to look at then.
+// For people; empty for what is no code: what it says, and what to look at then.
 // Both end with a zero.
 std::string_view ResultMeaning(Result result);
 std::string_view ResultAdvice(Result result);

@@ -58,6 +58,7 @@ TEST(Diagnostics, NameWhatNumbersStandFor) {
   EXPECT_THAT(Merovane_Version(), StrEq(kVersion));
   EXPECT_THAT(Merovane_ResultName(PC_ERR_NO_ANSWER), StrEq("PC_ERR_NO_ANSWER"));
   EXPECT_THAT(Merovane_ResultName(PC_ERR_REFUSED), StrEq("PC_ERR_REFUSED"));
+  EXPECT_THAT(Merovane_ResultName(PC_ERR_NOT_SUPPORTED), StrEq("PC_ERR_NOT_SUPPORTED"));
   EXPECT_THAT(Merovane_ResultMeaning(PC_ERR_SUCCESS), StrEq("done"));
   EXPECT_THAT(Merovane_ResultAdvice(PC_ERR_SUCCESS), StrEq(""));
   for (std::int32_t code = 1; code <= PC_ERR_REFUSED; ++code) {

@@ -15,7 +15,7 @@ TEST(ResultNames, AreThePublicOnesAndNoneForARefusal) {
   EXPECT_EQ(ResultName(Result::WifiFailed), "PC_ERR_WIFI_OPER_FAIL");
   EXPECT_EQ(static_cast<int>(Result::WifiFailed), 38);
   EXPECT_EQ(ResultName(Result::Refused), "");
-  for (const int other : {40, -1}) EXPECT_EQ(ResultName(static_cast<Result>(other)), "SUCCESS");
+  for (const int other : {40, -1, -2}) EXPECT_EQ(ResultName(static_cast<Result>(other)), "SUCCESS");
 }
 
 TEST(ErrorReporter, ReportsUnderTheOperationBegunLast) {
