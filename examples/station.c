@@ -3,6 +3,9 @@
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
+#include <string.h>
+
+#include "merovane/diagnostics.h"
 
 static const char* current_step = "";
 static uint32_t step_started;
@@ -71,10 +74,19 @@ static void print_outcome(int passed, const char* detail) {
   fflush(stdout);
 }
 
+/* What the library knows of this thread's last call that failed. */
+static void note_failure(void) {
+  Merovane_Failure failure;
+  memset(&failure, 0, sizeof failure);
+  failure.struct_bytes = sizeof failure;
+  if (Merovane_LastFailure(0, &failure)) station_note("%s: %s", failure.function, failure.advice);
+}
+
 int station_result(int32_t result, int32_t expected) {
   char detail[64];
   snprintf(detail, sizeof detail, "%d (%s)", (int)result, station_result_name(result));
   print_outcome(result == expected, detail);
+  if (result != expected && result != PC_ERR_SUCCESS) note_failure();
   return result == expected;
 }
 
