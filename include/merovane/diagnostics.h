@@ -17,60 +17,63 @@ extern "C" {
 /* ---- Names and texts ------------------------------------------------------------------ */
 
 /** The library's version, as "1.2.3". Never null. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_Version(void);
+MEROVANE_API const char* MEROVANE_CALL Merovane_Version(void);
 
 /** The name of a result, as "PC_ERR_NO_ANSWER". "unknown result" for a number that is none. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_ResultName(int32_t result);
+MEROVANE_API const char* MEROVANE_CALL Merovane_ResultName(int32_t result);
 
 /** What a result says, in one sentence; the same for any export. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_ResultMeaning(int32_t result);
+MEROVANE_API const char* MEROVANE_CALL Merovane_ResultMeaning(int32_t result);
 
 /** What to look at when a call gave this result, in one sentence; empty for 0. Merovane_LastFailure
  * knows more about one failure than this does about all of its kind. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_ResultAdvice(int32_t result);
+MEROVANE_API const char* MEROVANE_CALL Merovane_ResultAdvice(int32_t result);
 
 /** The export that records an operation id, without "QV_", as "ReadFlash" for 23. Where exports
  * share an id, the first of them as merovane.h lists them. "unknown operation" for others. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_OperationName(uint32_t operation);
+MEROVANE_API const char* MEROVANE_CALL Merovane_OperationName(uint32_t operation);
 
-/** The name of a start mode of QV_SetPhoneStartMode; "mode of the handset's own" for those that only
- * the handset knows. */
-MEROVANE_API const char *MEROVANE_CALL Merovane_StartModeName(uint32_t mode);
+/** The name of a start mode of QV_SetPhoneStartMode; "mode of the handset's own" for those that
+ * only the handset knows. */
+MEROVANE_API const char* MEROVANE_CALL Merovane_StartModeName(uint32_t mode);
 
 /* ---- Why a call failed ---------------------------------------------------------------- */
 
-/** What a failure came from, as far as can be told. Numbers never change; later versions add some. */
+/** What a failure came from, as far as can be told. Numbers never change; later versions add some.
+ */
 typedef enum Merovane_Cause {
   MEROVANE_CAUSE_UNKNOWN = 0,
   /* No request was made. */
-  MEROVANE_CAUSE_ARGUMENT = 1,      /* an argument was refused */
-  MEROVANE_CAUSE_NO_SESSION = 2,    /* the port was not begun, or has ended */
-  MEROVANE_CAUSE_ENDED = 3,         /* it was ended during the call */
-  MEROVANE_CAUSE_MEMORY = 4,        /* memory or threads have run out */
-  MEROVANE_CAUSE_PROJECT = 5,       /* the NV project: not open, not readable, or without the path */
+  MEROVANE_CAUSE_ARGUMENT = 1,   /* an argument was refused */
+  MEROVANE_CAUSE_NO_SESSION = 2, /* the port was not begun, or has ended */
+  MEROVANE_CAUSE_ENDED = 3,      /* it was ended during the call */
+  MEROVANE_CAUSE_MEMORY = 4,     /* memory or threads have run out */
+  MEROVANE_CAUSE_PROJECT = 5,    /* the NV project: not open, not readable, or without the path */
   /* The port cannot be opened. */
-  MEROVANE_CAUSE_NO_DEVICE = 10,          /* the system has no device of that name */
-  MEROVANE_CAUSE_DEVICE_TAKEN = 11,       /* another program has it */
-  MEROVANE_CAUSE_DEVICE_DENIED = 12,      /* this user may not open it */
-  MEROVANE_CAUSE_NO_SERIAL_DEVICE = 13,   /* the name stands for a plain file, or a folder */
-  MEROVANE_CAUSE_PIPE = 14,               /* the name stands for a FIFO */
-  MEROVANE_CAUSE_RATE_REFUSED = 15,       /* the device does not take the rate */
-  MEROVANE_CAUSE_ADDRESS_MALFORMED = 16,  /* "socket://" is not followed by host:port */
-  MEROVANE_CAUSE_HOST_UNKNOWN = 17,       /* the host's name does not resolve */
-  MEROVANE_CAUSE_CONNECTION_REFUSED = 18, /* nothing listens at host:port, or it cannot be reached */
-  MEROVANE_CAUSE_CHANNEL_LIBRARY = 19,    /* it cannot be loaded, makes no channel, or gives no reason */
+  MEROVANE_CAUSE_NO_DEVICE = 10,         /* the system has no device of that name */
+  MEROVANE_CAUSE_DEVICE_TAKEN = 11,      /* another program has it */
+  MEROVANE_CAUSE_DEVICE_DENIED = 12,     /* this user may not open it */
+  MEROVANE_CAUSE_NO_SERIAL_DEVICE = 13,  /* the name stands for a plain file, or a folder */
+  MEROVANE_CAUSE_PIPE = 14,              /* the name stands for a FIFO */
+  MEROVANE_CAUSE_RATE_REFUSED = 15,      /* the device does not take the rate */
+  MEROVANE_CAUSE_ADDRESS_MALFORMED = 16, /* "socket://" is not followed by host:port */
+  MEROVANE_CAUSE_HOST_UNKNOWN = 17,      /* the host's name does not resolve */
+  MEROVANE_CAUSE_CONNECTION_REFUSED =
+      18, /* nothing listens at host:port, or it cannot be reached */
+  MEROVANE_CAUSE_CHANNEL_LIBRARY =
+      19, /* it cannot be loaded, makes no channel, or gives no reason */
   /* The handset did not answer as awaited. */
-  MEROVANE_CAUSE_DEVICE_GONE = 30,    /* the device was unplugged, or the connection ended */
-  MEROVANE_CAUSE_SILENT = 31,         /* no byte came, nor ever since the port was opened */
-  MEROVANE_CAUSE_SILENT_SOCKET = 32,  /* the same over TCP, where another station may be served */
-  MEROVANE_CAUSE_LATE_OR_LOST = 33,   /* no byte came, but earlier requests were answered */
-  MEROVANE_CAUSE_BOOTING = 34,        /* start frames came: the handset is still booting */
-  MEROVANE_CAUSE_BYTE_ORDER = 35,     /* frames came whose lengths make sense in the other byte order */
-  MEROVANE_CAUSE_SHARED_DEVICE = 36,  /* another program has the device open, too */
-  MEROVANE_CAUSE_NOISE = 37,          /* bytes came that are no frames */
-  MEROVANE_CAUSE_OTHER_FRAMES = 38,   /* frames of other types came */
-  MEROVANE_CAUSE_REFUSED = 39,        /* the handset refused the command */
-  MEROVANE_CAUSE_ANSWER = 40          /* it answered, but with too little, too much or a failure */
+  MEROVANE_CAUSE_DEVICE_GONE = 30,   /* the device was unplugged, or the connection ended */
+  MEROVANE_CAUSE_SILENT = 31,        /* no byte came, nor ever since the port was opened */
+  MEROVANE_CAUSE_SILENT_SOCKET = 32, /* the same over TCP, where another station may be served */
+  MEROVANE_CAUSE_LATE_OR_LOST = 33,  /* no byte came, but earlier requests were answered */
+  MEROVANE_CAUSE_BOOTING = 34,       /* start frames came: the handset is still booting */
+  MEROVANE_CAUSE_BYTE_ORDER = 35, /* frames came whose lengths make sense in the other byte order */
+  MEROVANE_CAUSE_SHARED_DEVICE = 36, /* another program has the device open, too */
+  MEROVANE_CAUSE_NOISE = 37,         /* bytes came that are no frames */
+  MEROVANE_CAUSE_OTHER_FRAMES = 38,  /* frames of other types came */
+  MEROVANE_CAUSE_REFUSED = 39,       /* the handset refused the command */
+  MEROVANE_CAUSE_ANSWER = 40         /* it answered, but with too little, too much or a failure */
 } Merovane_Cause;
 
 /** One failure. Texts end with a zero, and are cut where they are longer. */
@@ -90,7 +93,7 @@ typedef struct Merovane_Failure {
   int32_t system_error;
   /** What came during the call's last wait. */
   uint32_t bytes_seen;
-  uint32_t frames_seen;       /**< whole frames, start frames among them */
+  uint32_t frames_seen; /**< whole frames, start frames among them */
   uint32_t start_frames_seen;
   uint32_t swapped_frames_seen; /**< whose length makes sense in the other byte order only */
   char function[64];            /**< the export, as "QV_ReadFlash_MT" */
@@ -107,7 +110,7 @@ typedef struct Merovane_Failure {
  * @param failure  filled when there is one
  * @return 1 when there is one, 0 when none, or for a null pointer, or a struct_bytes below that of
  *   the first version. A call that succeeds leaves it as it is */
-MEROVANE_API int32_t MEROVANE_CALL Merovane_LastFailure(int32_t port, Merovane_Failure *failure);
+MEROVANE_API int32_t MEROVANE_CALL Merovane_LastFailure(int32_t port, Merovane_Failure* failure);
 
 /** Forgets the last failure of a port (0: of the calling thread). */
 MEROVANE_API void MEROVANE_CALL Merovane_ForgetFailure(int32_t port);
@@ -117,9 +120,9 @@ MEROVANE_API void MEROVANE_CALL Merovane_ForgetFailure(int32_t port);
 /** Has the settings file read in, and logs written to, this folder instead of the one that holds
  * the program. Before the first session only.
  * @param folder  it must exist
- * @return 0 (PC_ERR_SUCCESS); PC_ERR_INVALID_PARAM for null or no folder; PC_ERR_PORT_ALREADY_OPENED
- *   after a session has begun: nothing changes then */
-MEROVANE_API int32_t MEROVANE_CALL Merovane_SetFolder(const char *folder);
+ * @return 0 (PC_ERR_SUCCESS); PC_ERR_INVALID_PARAM for null or no folder;
+ * PC_ERR_PORT_ALREADY_OPENED after a session has begun: nothing changes then */
+MEROVANE_API int32_t MEROVANE_CALL Merovane_SetFolder(const char* folder);
 
 /** Gives the settings in force as a JSON object:
  *   {"file": "C:\\station\\Merovane.ini", "found": true,
@@ -132,7 +135,7 @@ MEROVANE_API int32_t MEROVANE_CALL Merovane_SetFolder(const char *folder);
  * @param text      null: only the size is wanted
  * @param capacity  room at `text`; what does not fit is cut, and a zero ends it
  * @return the bytes that all of it takes, the ending zero included */
-MEROVANE_API uint32_t MEROVANE_CALL Merovane_Settings(char *text, uint32_t capacity);
+MEROVANE_API uint32_t MEROVANE_CALL Merovane_Settings(char* text, uint32_t capacity);
 
 #ifdef __cplusplus
 }

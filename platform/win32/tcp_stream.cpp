@@ -166,8 +166,8 @@ std::unique_ptr<ByteStream> ConnectTcp(const std::string& host, const std::strin
   trouble = {OpenTrouble::Why::Other, WSAGetLastError()};
   if (!winsock.Started()) return nullptr;
   const auto connect = [&](const addrinfo& address) -> std::unique_ptr<ByteStream> {
-    Socket socket(WSASocketW(address.ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0,
-                             WSA_FLAG_OVERLAPPED));
+    Socket socket(
+        WSASocketW(address.ai_family, SOCK_STREAM, IPPROTO_TCP, nullptr, 0, WSA_FLAG_OVERLAPPED));
     trouble.systemError =
         socket.IsValid() ? Connect(socket.Get(), address, deadline) : WSAGetLastError();
     if (trouble.systemError != 0) return nullptr;

@@ -18,9 +18,9 @@ constexpr std::size_t kMostKept = 1024;
 
 constexpr std::string_view kTcpScheme = "socket://";
 
-template <std::size_t size>
-void Copy(std::string_view text, char (&into)[size]) {
-  const std::size_t bytes = std::min(text.size(), size - 1);
+template <std::size_t Size>
+void Copy(std::string_view text, char (&into)[Size]) {
+  const std::size_t bytes = std::min(text.size(), Size - 1);
   std::memcpy(into, text.data(), bytes);
   into[bytes] = '\0';
 }
@@ -80,9 +80,9 @@ Merovane_Cause CauseOfSilence(const LinkEvidence& evidence, bool shared) {
 
 // Results that a wait without its answer ends in.
 bool IsSilence(Result result) {
-  constexpr std::array kSilences{Result::NoData,          Result::DecodeFailed, Result::NoFrame,
-                                 Result::NoAnswer,        Result::NoUsefulData, Result::EnterModeFailed,
-                                 Result::BluetoothFailed};
+  constexpr std::array kSilences{
+      Result::NoData,       Result::DecodeFailed,    Result::NoFrame,        Result::NoAnswer,
+      Result::NoUsefulData, Result::EnterModeFailed, Result::BluetoothFailed};
   return std::ranges::find(kSilences, result) != kSilences.end();
 }
 
@@ -139,7 +139,8 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
     case MEROVANE_CAUSE_NO_DEVICE:
       return "There is no " + what +
              ". Look whether the cable is plugged in, and which device the environment variable "
-             "CASSORIND_COM" + std::to_string(call.port) + " names.";
+             "CASSORIND_COM" +
+             std::to_string(call.port) + " names.";
     case MEROVANE_CAUSE_DEVICE_TAKEN:
       return "Another program has " + what + (holders.empty() ? "" : ": " + holders) +
              ". End it, or give each its own device.";
@@ -147,32 +148,41 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
       return "This user may not open " + what +
              ". Add the user to the group that owns the device (often dialout), and log in again.";
     case MEROVANE_CAUSE_NO_SERIAL_DEVICE:
-      return what + " is a file or a folder and no serial device. Look at the environment variable "
-             "CASSORIND_COM" + std::to_string(call.port) + ".";
+      return what +
+             " is a file or a folder and no serial device. Look at the environment variable "
+             "CASSORIND_COM" +
+             std::to_string(call.port) + ".";
     case MEROVANE_CAUSE_PIPE:
-      return what + " is a pipe and no serial device: a handset needs one that carries both ways. "
+      return what +
+             " is a pipe and no serial device: a handset needs one that carries both ways. "
              "Name its pseudo-terminal or its socket instead.";
     case MEROVANE_CAUSE_RATE_REFUSED:
       return what + " does not take this baud rate. 115200 is what handsets use at first.";
     case MEROVANE_CAUSE_ADDRESS_MALFORMED:
       return what + " is no address. Write socket://host:port, as in socket://127.0.0.1:5000.";
     case MEROVANE_CAUSE_HOST_UNKNOWN:
-      return "The host of " + what + " is not known. Look at its spelling and at the name service, "
+      return "The host of " + what +
+             " is not known. Look at its spelling and at the name service, "
              "or write the host's number.";
     case MEROVANE_CAUSE_CONNECTION_REFUSED:
-      return "Nothing takes connections at " + what + ". Look whether the handset's program or the "
+      return "Nothing takes connections at " + what +
+             ". Look whether the handset's program or the "
              "device server runs there, at this port, and whether a firewall stands between.";
     case MEROVANE_CAUSE_CHANNEL_LIBRARY:
-      return "The channel library did not open " + what + " and gives no reason. Look whether the "
+      return "The channel library did not open " + what +
+             " and gives no reason. Look whether the "
              "device is there, free, and may be opened by this user.";
     case MEROVANE_CAUSE_DEVICE_GONE:
-      return what + " is gone or takes no data: it was unplugged, or its connection ended. Plug it "
+      return what +
+             " is gone or takes no data: it was unplugged, or its connection ended. Plug it "
              "in, then end and begin the port.";
     case MEROVANE_CAUSE_SILENT:
-      return "Not one byte came from " + what + " since the request. Look whether the handset is "
+      return "Not one byte came from " + what +
+             " since the request. Look whether the handset is "
              "on, in a mode that answers, and on this cable, and whether the baud rate is right.";
     case MEROVANE_CAUSE_SILENT_SOCKET:
-      return "Not one byte has ever come over this connection to " + what + ". A device server "
+      return "Not one byte has ever come over this connection to " + what +
+             ". A device server "
              "serves one station at a time: look whether another one holds the handset.";
     case MEROVANE_CAUSE_LATE_OR_LOST:
       return "The handset answered earlier requests, but not this one. Its answer was lost or "
@@ -185,7 +195,8 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
       return "Frames came whose lengths make sense in the other byte order only. Change the "
              "setting Big Endian of section Endian Control, or QV_PROPERTY_BIG_ENDIAN.";
     case MEROVANE_CAUSE_SHARED_DEVICE:
-      return "Another program reads " + what + ", too (" + holders + "), and takes what the handset "
+      return "Another program reads " + what + ", too (" + holders +
+             "), and takes what the handset "
              "sends. End it.";
     case MEROVANE_CAUSE_NOISE:
       return "Bytes came that are no frames. Look at the baud rate and the cable, and whether the "

@@ -146,8 +146,8 @@ std::optional<Result> ModeProcess::Worker::SetMode(PhoneObject& phone) {
   if (!turn) return std::nullopt;
   const PhoneLink::CancelScope scope(phone.link, stop_);
   if (!Succeeded(phone.link.Open(portFound_, kArrivedPortBaudRate))) return std::nullopt;
-  const Result mode = stop_.IsSet() ? Result::NoAnswer
-                                    : commands::SetPhoneStartMode(phone, request_.mode);
+  const Result mode =
+      stop_.IsSet() ? Result::NoAnswer : commands::SetPhoneStartMode(phone, request_.mode);
   static_cast<void>(phone.link.Close());
   return mode;
 }

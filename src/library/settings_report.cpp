@@ -72,8 +72,8 @@ class Report {
     const char* source = value.empty() ? "default" : "file";
     if (value.empty()) value = key.fallback;
     if (key.isNumber) {
-      const auto number = file_.Integer(key.section, key.key,
-                                        static_cast<std::uint32_t>(std::atoi(key.fallback)));
+      const auto number =
+          file_.Integer(key.section, key.key, static_cast<std::uint32_t>(std::atoi(key.fallback)));
       const auto now = SwitchedNow(environment_, key.key);
       if (now && *now != (number != 0)) {
         value = *now ? "1" : "0";
@@ -102,8 +102,8 @@ class Report {
       return;
     }
     if (!knownSection) return;
-    const auto key = std::ranges::find_if(setting::kAll,
-                                          [&](const SettingKey& k) { return Names(k, entry); });
+    const auto key =
+        std::ranges::find_if(setting::kAll, [&](const SettingKey& k) { return Names(k, entry); });
     if (key == setting::kAll.end()) {
       Problem(entry, "There is no such key in this section; it is not read.");
     } else if (!entry.counts) {
@@ -117,8 +117,7 @@ class Report {
 
   void LookAtLogFolder() {
     if (!environment_.settings.usefulLog && !environment_.settings.allLog) return;
-    const std::filesystem::path folder =
-        PortLog::FolderOfToday(environment_.settings.Folder());
+    const std::filesystem::path folder = PortLog::FolderOfToday(environment_.settings.Folder());
     if (platform::CanMakeFilesIn(folder)) return;
     Problem({setting::kUsefulLog.section, "", "", true},
             "No log can be written into " + Utf8(folder) +

@@ -1,5 +1,6 @@
 // Lets threads at one thing one after another, in the order in which they come, until it ends. A
-// thread may enter again inside: while it shows a message box, the system runs its caller's handlers.
+// thread may enter again inside: while it shows a message box, the system runs its caller's
+// handlers.
 #pragma once
 
 #include <cstdint>

@@ -87,8 +87,8 @@ std::filesystem::path Resolve(const LogDirectory& directory) {
   using Kind = LogDirectory::Kind;
   if (directory.kind == Kind::Given) return platform::PathFromText(directory.folder);
   std::filesystem::path path = directory.kind == Kind::Temporary ? platform::TemporaryDirectory()
-                               : directory.home.empty() ? platform::ExecutableDirectory()
-                                                        : directory.home;
+                               : directory.home.empty()          ? platform::ExecutableDirectory()
+                                                                 : directory.home;
   path /= "Log";
   if (!directory.folder.empty()) path /= platform::PathFromText(directory.folder);
   return path;

@@ -238,7 +238,9 @@ Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header
     ring_.Append(std::span<const std::uint8_t>(chunk).first(got));
     bool found = false;
     ring_.Visit([&](std::span<const std::uint8_t> held, std::uint64_t) {
-      if (std::ranges::search(held, otherPattern)) sightings_.SawStartFrame(true);
+      const auto other =
+          std::search(held.begin(), held.end(), otherPattern.begin(), otherPattern.end());
+      if (other != held.end()) sightings_.SawStartFrame(true);
       return SearchStartFrame(held, pattern, found);
     });
     if (!found) continue;

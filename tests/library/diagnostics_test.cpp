@@ -29,7 +29,8 @@ nlohmann::json Settings() {
 
 std::string ValueAndSource(const nlohmann::json& settings, const std::string& key) {
   for (const auto& row : settings["settings"]) {
-    if (row["key"] == key) return row["value"].get<std::string>() + " " + row["source"].get<std::string>();
+    if (row["key"] == key)
+      return row["value"].get<std::string>() + " " + row["source"].get<std::string>();
   }
   return {};
 }

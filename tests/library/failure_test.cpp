@@ -68,7 +68,8 @@ TEST_F(FailureTest, TellsWhyAPortDoesNotOpen) {
     const char* advice;
   } rows[] = {
       {"/dev/ttyNoSuchDevice", MEROVANE_CAUSE_NO_DEVICE, ENOENT, "CASSORIND_COM7"},
-      {"socket://127.0.0.1:1", MEROVANE_CAUSE_CONNECTION_REFUSED, ECONNREFUSED, "takes connections"},
+      {"socket://127.0.0.1:1", MEROVANE_CAUSE_CONNECTION_REFUSED, ECONNREFUSED,
+       "takes connections"},
       {longLabel, MEROVANE_CAUSE_HOST_UNKNOWN, 0, "is not known"},
       {"socket://bad", MEROVANE_CAUSE_ADDRESS_MALFORMED, 0, "socket://host:port"},
       {file, MEROVANE_CAUSE_NO_SERIAL_DEVICE, ENOTTY, "no serial device"},
@@ -177,7 +178,8 @@ TEST_F(FailureTest, TellsABootingHandsetAndTheOtherByteOrder) {
 TEST_F(FailureTest, TellsOfAnotherProgramOnTheDevice) {
   SwitchOn(RunningIn(1));
   Name(phone->DevicePath());
-  ChildProgram other({"/bin/sh", "-c", "exec 3<" + phone->DevicePath() + "; echo open; exec sleep 60"});
+  ChildProgram other(
+      {"/bin/sh", "-c", "exec 3<" + phone->DevicePath() + "; echo open; exec sleep 60"});
   ASSERT_EQ(other.Line(), "open");
   Begin();
   phone->SetFault("silent=1");

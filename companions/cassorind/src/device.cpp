@@ -47,8 +47,7 @@ std::unique_ptr<platform::ByteStream> OpenTcp(std::string_view address,
     host = host.substr(1, host.size() - 2);
   }
   if (host.empty() || service.empty()) return nullptr;
-  return platform::ConnectTcp(std::string(host), std::string(service), kConnectLimitMs,
-                              trouble);
+  return platform::ConnectTcp(std::string(host), std::string(service), kConnectLimitMs, trouble);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// Reading and writing a serial number runs other commands, as steps: they log their names and results and leave their operation
-// ids behind; the command that runs them logs its name only.
+// Reading and writing a serial number runs other commands, as steps: they log their names and
+// results and leave their operation ids behind; the command that runs them logs its name only.
 #include "commands/handset/serial_number.h"
 
 #include <algorithm>
