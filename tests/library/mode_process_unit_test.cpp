@@ -77,7 +77,7 @@ struct ModeProcessTest : CommandFixture {
     object->modeProcess.Stop();
   }
 
-  const Event event;
+  const Event event{};
   const platform::CallerEvent callersEvent{event.Handle()};
   std::shared_ptr<PhoneObject> object =
       std::make_shared<PhoneObject>(environment, clock, handset.Library());
