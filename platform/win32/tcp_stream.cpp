@@ -81,7 +81,7 @@ class TcpStream final : public ByteStream {
       // The system would take bytes for a peer that has gone and tell of it only later.
       if (PeerHasGone()) break;
       const auto piece = data.subspan(written, std::min(kPiece, data.size() - written));
-      const auto result = writing_.Write(Handle(), piece, kWriteStallMs, stop);
+      const auto result = Send(piece, stop);
       written += result.bytes;
       if (result.outcome != Outcome::Done || result.bytes == 0) break;
     }
@@ -113,6 +113,17 @@ class TcpStream final : public ByteStream {
       if (!IsReadable(socket_.Get()) || WaitingBytes(socket_.Get()) > 0) return false;
     }
     return true;
+  }
+
+  // WSASend and not WriteFile, whose wait on a full connection Wine 8 takes for one to receive: it
+  // spins, and a cancel of it may never end.
+  OverlappedTransfer::Result Send(std::span<const std::byte> data, const Event& stop) {
+    const auto start = [&](OVERLAPPED& overlapped) {
+      WSABUF buffer{static_cast<ULONG>(data.size()),
+                    reinterpret_cast<char*>(const_cast<std::byte*>(data.data()))};
+      return WSASend(socket_.Get(), &buffer, 1, nullptr, 0, &overlapped, nullptr) == 0;
+    };
+    return writing_.Run(Handle(), start, kWriteStallMs, stop);
   }
 
   HANDLE Handle() const { return reinterpret_cast<HANDLE>(socket_.Get()); }

@@ -24,6 +24,12 @@ class OverlappedTransfer {
               const Event& stop);
   Result Write(HANDLE device, std::span<const std::byte> data, std::uint32_t timeLimitMs,
                const Event& stop);
+  // Any other transfer: `start` hands the structure to the system, and says whether that took it
+  // without an error; else the thread's last error stands.
+  template <class Start>
+  Result Run(HANDLE device, Start&& start, std::uint32_t timeLimitMs, const Event& stop) {
+    return Finish(device, start(overlapped_), timeLimitMs, stop);
+  }
 
  private:
   Result Finish(HANDLE device, bool started, std::uint32_t timeLimitMs, const Event& stop);

@@ -49,9 +49,9 @@ TEST_F(Threads, AreSentAwayByTheEndOfThePort) {
 }
 
 TEST_F(Threads, MayBeginDriveAndEndAPortAtWill) {
+  Event event;
   std::vector<std::jthread> threads;
   threads.reserve(3);
-  Event event;
   for (int i = 0; i < 3; ++i) {
     threads.emplace_back([&event, i] {
       for (int k = 0; k < 15; ++k) {
