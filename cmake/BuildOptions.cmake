@@ -10,10 +10,11 @@ target_compile_options(merovane_build_options INTERFACE
   # g++ 12 takes optimised string concatenations for overlapping copies.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 
-# For code that runs once, as tests and command lines do: optimising it is most of a build's time.
+# For code that runs once, as tests and command lines do: optimising it is most of a build's time, and
+# writing down its types much of the rest; lines and functions are what a stack shows.
 add_library(merovane_unoptimised INTERFACE)
 if(NOT MEROVANE_SANITIZE)
-  target_compile_options(merovane_unoptimised INTERFACE -O0)
+  target_compile_options(merovane_unoptimised INTERFACE -O0 $<$<CONFIG:RelWithDebInfo>:-g1>)
 endif()
 
 if(MEROVANE_SANITIZE)
