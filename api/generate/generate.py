@@ -2,7 +2,8 @@
 """Makes every face of the exported functions from their one declaration (../exports; ../README.md says how they are written).
 
 --output DIR   declared/*.h and .cpp (prototypes that bodies match, and what comes ahead of each body), exports.cpp, module
-               definitions, import definitions, exports.map, exports-windows.txt, exports-linux.txt, api.json
+               definitions, import definitions, exports.map, exports-windows.txt, exports-linux.txt, api.json,
+               python/*.py
 --headers DIR  merovane.h and result_codes.h
 --check DIR    writes nothing and fails when the headers there are not what the declarations give
 """
@@ -12,10 +13,12 @@ import sys
 
 sys.dont_write_bytecode = True
 HERE = pathlib.Path(__file__).resolve().parent
+HEADERS = HERE.parent.parent / "include/merovane"
 sys.path.insert(0, str(HERE))
 
 import cpp  # noqa: E402
 import header  # noqa: E402
+import python  # noqa: E402
 import reader  # noqa: E402
 import tables  # noqa: E402
 
@@ -35,6 +38,7 @@ def outputs(api):
         "exports-linux.txt": "".join(f"{export.name}\n" for export in api.published),
         "api.json": tables.api_json(api),
     }
+    files |= python.outputs(api, HEADERS)
     for unit in api.includes:
         files[f"declared/{unit}.h"] = cpp.declared_header(api, unit)
         files[f"declared/{unit}.cpp"] = cpp.declared_source(api, unit)
@@ -48,7 +52,7 @@ def main():
     parser.add_argument("--check", type=pathlib.Path)
     options = parser.parse_args()
     api = reader.read_api(HERE.parent / "exports", HERE.parent / "result_codes.def",
-                          HERE.parent.parent / "include/merovane/diagnostics.h")
+                          HEADERS / "diagnostics.h")
     headers = {"merovane.h": header.merovane_h(api, HERE), "result_codes.h": header.result_codes_h(api)}
     if options.check:
         stale = [name for name, text in headers.items() if (options.check / name).read_text() != text]
