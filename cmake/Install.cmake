@@ -4,16 +4,17 @@
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 include(VersionResource)
-include(SeparateDebug)
 
 # On Windows a package is one folder that is copied, so its documentation stands at its top, where
 # the links from the README reach it all.
 if(WIN32)
   set(documentation .)
   set(shared .)
+  set(libraries ${CMAKE_INSTALL_BINDIR})
 else()
   set(documentation ${CMAKE_INSTALL_DATAROOTDIR}/doc/merovane)
   set(shared ${CMAKE_INSTALL_DATADIR}/merovane)
+  set(libraries ${CMAKE_INSTALL_LIBDIR})
 endif()
 set(config ${CMAKE_INSTALL_LIBDIR}/cmake/Merovane)
 # Beside the public headers, not among them: who replaces a companion needs these.
@@ -28,16 +29,16 @@ function(merovane_install_library target name description)
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
   merovane_version_resource(${target} ${description})
-  merovane_separate_debug(${target})
+  merovane_install_debug(${target} ${libraries})
 endfunction()
 
 # merovane_install_tool(TARGET DESCRIPTION)
 function(merovane_install_tool target description)
-  file(RELATIVE_PATH libraries /${CMAKE_INSTALL_BINDIR} /${CMAKE_INSTALL_LIBDIR})
-  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries}")
+  file(RELATIVE_PATH path /${CMAKE_INSTALL_BINDIR} /${libraries})
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/${path}")
   install(TARGETS ${target} RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
   merovane_version_resource(${target} ${description})
-  merovane_separate_debug(${target})
+  merovane_install_debug(${target} ${CMAKE_INSTALL_BINDIR})
 endfunction()
 
 merovane_install_library(merovane Merovane "Drives mobile handsets on a factory line")

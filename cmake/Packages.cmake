@@ -1,0 +1,30 @@
+# What CPack makes of what is installed: one archive of all, and for Debian a package each for the
+# library, for development and for the tools. scripts/package runs it, and makes the other packages.
+set(CPACK_PACKAGE_NAME Merovane)
+set(CPACK_PACKAGE_VENDOR Merovane)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Drives mobile handsets on a factory line")
+set(CPACK_VERBATIM_VARIABLES ON)
+set(CPACK_THREADS 0)
+
+set(CPACK_COMPONENTS_ALL runtime development tools bindings documentation)
+set(CPACK_COMPONENTS_GROUPING ALL_COMPONENTS_IN_ONE)
+set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
+
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  math(EXPR bits "8 * ${CMAKE_SIZEOF_VOID_P}")
+  set(CPACK_PACKAGE_FILE_NAME Merovane-${PROJECT_VERSION}-win${bits})
+else()
+  set(CPACK_GENERATOR TGZ)
+  set(CPACK_PACKAGE_FILE_NAME Merovane-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
+  set(CPACK_MEROVANE_LIBRARIES ${CMAKE_LIBRARY_OUTPUT_DIRECTORY})
+  set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_SOURCE_DIR}/cmake/DebianPackages.cmake)
+endif()
+
+include(CPack)
+cpack_add_component(runtime GROUP library)
+cpack_add_component(development GROUP dev)
+cpack_add_component(documentation GROUP dev)
+cpack_add_component(bindings GROUP dev)
+cpack_add_component(tools GROUP tools)
