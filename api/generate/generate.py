@@ -3,7 +3,7 @@
 
 --output DIR   declared/*.h and .cpp (prototypes that bodies match, and what comes ahead of each body), exports.cpp, module
                definitions, import definitions, exports.map, exports-windows.txt, exports-linux.txt, api.json,
-               python/*.py
+               python/*.py, csharp/*
 --headers DIR  merovane.h and result_codes.h
 --check DIR    writes nothing and fails when the headers there are not what the declarations give
 """
@@ -17,6 +17,7 @@ HEADERS = HERE.parent.parent / "include/merovane"
 sys.path.insert(0, str(HERE))
 
 import cpp  # noqa: E402
+import csharp  # noqa: E402
 import header  # noqa: E402
 import python  # noqa: E402
 import reader  # noqa: E402
@@ -39,6 +40,7 @@ def outputs(api):
         "api.json": tables.api_json(api),
     }
     files |= python.outputs(api, HEADERS)
+    files |= csharp.outputs(api, HEADERS)
     for unit in api.includes:
         files[f"declared/{unit}.h"] = cpp.declared_header(api, unit)
         files[f"declared/{unit}.cpp"] = cpp.declared_source(api, unit)
