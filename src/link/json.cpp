@@ -60,6 +60,12 @@ JsonWriter& JsonWriter::Flag(bool value) {
   return *this;
 }
 
+JsonWriter& JsonWriter::Null() {
+  Separate();
+  text_ += "null";
+  return *this;
+}
+
 JsonWriter& JsonWriter::Open(char bracket) {
   Separate();
   text_ += bracket;

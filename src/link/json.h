@@ -21,6 +21,7 @@ class JsonWriter {
   JsonWriter& Text(std::string_view value);
   JsonWriter& Number(std::int64_t value);
   JsonWriter& Flag(bool value);
+  JsonWriter& Null();
 
  private:
   JsonWriter& Open(char bracket);

@@ -5,6 +5,7 @@
 
 #include "link/channel_server.h"
 #include "link/error_reporter.h"
+#include "link/log_observer.h"
 #include "link/settings.h"
 
 namespace merovane {
@@ -29,6 +30,8 @@ struct LinkEnvironment {
   LinkSettings settings;
   ErrorReporter errors;
   ChannelServer server;
+  // Outlives the links; null: nobody.
+  LogObserver* logObserver = nullptr;
 };
 
 }  // namespace merovane

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <utility>
 
 namespace merovane {
@@ -42,34 +41,29 @@ std::size_t SearchStartFrame(std::span<const std::uint8_t> held,
 }  // namespace
 
 PhoneLink::PhoneLink(LinkEnvironment& environment, platform::Clock& clock, ChannelLibrary library)
-    : environment_(environment), clock_(clock), channel_(environment, clock, library) {}
+    : environment_(environment),
+      clock_(clock),
+      channel_(environment, clock, library),
+      usefulLog_(environment) {}
 
 Result PhoneLink::Open(std::int32_t port, std::int32_t baudRate) {
   if (ended_) return OrEnded(Result::Success);
-  if (environment_.settings.usefulLog && port >= 1 && baudRate >= 1 && !IsOpen()) {
-    std::array<char, 64> text;
-    std::snprintf(text.data(), text.size(), "Com%d_UsefulLog.txt", static_cast<int>(port));
-    if (usefulLog_.Open(environment_.settings.Folder(), text.data())) {
-      usefulLog_.Opened(port, baudRate);
-    }
-  }
+  if (port >= 1 && baudRate >= 1 && !IsOpen()) usefulLog_.Begin(port, baudRate);
   ring_.Clear();
   sightings_ = {};
   deviceGone_ = false;
   const Result result = channel_.Open(port, baudRate);
   // Open and close name their result "SUCCESS" whatever it is.
-  if (PortLog* log = UsefulLog()) log->Result(result, "SUCCESS");
-  if (!Succeeded(result) && !IsOpen()) usefulLog_.Close();
+  usefulLog_.Result(result, "SUCCESS");
+  if (!Succeeded(result) && !IsOpen()) usefulLog_.End();
   return result;
 }
 
 Result PhoneLink::Close() {
   const Result result = channel_.Close();
-  if (PortLog* log = UsefulLog()) {
-    log->Line("Close");
-    log->Result(result, "SUCCESS");
-  }
-  if (Succeeded(result)) usefulLog_.Close();
+  usefulLog_.Line("Close");
+  usefulLog_.Result(result, "SUCCESS");
+  if (Succeeded(result)) usefulLog_.End();
   return result;
 }
 
@@ -100,7 +94,8 @@ Result PhoneLink::SendFrame(FrameId id, std::span<const std::uint8_t> payload) {
 
   const Result result = channel_.Write(frame);
   if (Succeeded(result)) {
-    if (PortLog* log = UsefulLog()) log->Data(frame, true);
+    if (exchanges_) exchanges_->Sent(id, payload.size());
+    usefulLog_.Sent(frame);
   }
   return result;
 }
@@ -164,7 +159,11 @@ Answer PhoneLink::WaitForIncrement(FrameId awaited) {
 }
 
 Frame PhoneLink::ReceiveFrame(std::uint32_t timeoutMs) {
-  return Frame(Order(), [&](Frame& frame) { return Receive(frame, timeoutMs); });
+  return Frame(Order(), [&](Frame& frame) {
+    const Result result = Receive(frame, timeoutMs);
+    if (Succeeded(result)) NoteCame(frame.Id(), frame.Payload().size());
+    return result;
+  });
 }
 
 Frame PhoneLink::ReceiveTyped(std::uint32_t timeoutMs) {
@@ -180,11 +179,16 @@ Result PhoneLink::Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs
     if (!Succeeded(Receive(frame, deadline.RemainingMs())) || frame.bytes_ < kHeaderBytes) continue;
     if (frame.Id() == awaited) {
       sightings_.SawAnswer();
-      LogReceived(frame.Bytes());
+      NoteCame(frame.Id(), frame.Payload().size());
+      usefulLog_.Received(frame.Bytes());
       return Result::Success;
     }
-    if (frame.Id() == FrameId{awaited.type, kRefusalSubtype}) return Result::Refused;
+    if (frame.Id() == FrameId{awaited.type, kRefusalSubtype}) {
+      NoteCame(frame.Id(), frame.Payload().size(), Exchange::Outcome::Refused);
+      return Result::Refused;
+    }
   }
+  if (exchanges_) exchanges_->NothingCame();
   return OrEnded(Result::NoAnswer);
 }
 
@@ -245,7 +249,8 @@ Result PhoneLink::ReceiveStartFrame(std::span<std::uint8_t, kHeaderBytes> header
     });
     if (!found) continue;
     std::ranges::copy(std::span(pattern).subspan<1, kHeaderBytes>(), header.begin());
-    LogReceived(header);
+    NoteCame(IdOf(header), 0);
+    usefulLog_.Received(header);
     ring_.Clear();
     return Result::Success;
   }
@@ -270,7 +275,8 @@ Result PhoneLink::ReceiveMulti(FrameId id, std::uint8_t* const* buffers, std::ui
     std::ranges::copy(frame.Bytes(), buffers[received]);
     lengths[received] = length;
     ++received;
-    LogReceived(frame.Bytes());
+    NoteCame(id, frame.Payload().size());
+    usefulLog_.Received(frame.Bytes());
   }
   *count = received;
   return OrEnded(received < 1 ? Result::NoData : Result::Success);
@@ -281,25 +287,6 @@ LinkEvidence PhoneLink::Evidence() const {
   evidence.deviceGone = deviceGone_;
   evidence.sightings = sightings_;
   return evidence;
-}
-
-void PhoneLink::LogLine(std::string_view text) {
-  if (PortLog* log = UsefulLog()) log->Line(text);
-}
-
-void PhoneLink::LogResult(Result result) {
-  if (PortLog* log = UsefulLog()) log->Result(result, ResultName(result));
-}
-
-void PhoneLink::LogReceived(std::span<const std::uint8_t> decodedFrame) {
-  PortLog* log = UsefulLog();
-  if (!log) return;
-  // The answer's decoded bytes, which fit into a frame, between two flags.
-  std::array<std::uint8_t, kMaxFrameBytes + 2> flagged;
-  flagged.front() = kFlag;
-  std::ranges::copy(decodedFrame, flagged.begin() + 1);
-  flagged[decodedFrame.size() + 1] = kFlag;
-  log->Data(std::span(flagged).first(decodedFrame.size() + 2), false);
 }
 
 }  // namespace merovane

@@ -10,13 +10,14 @@
 #include "link/byte_order.h"
 #include "link/byte_ring.h"
 #include "link/channel_port.h"
+#include "link/exchange.h"
 #include "link/frame.h"
 #include "link/frame_codec.h"
 #include "link/frame_search.h"
 #include "link/link_environment.h"
 #include "link/link_evidence.h"
-#include "link/port_log.h"
 #include "link/result.h"
+#include "link/useful_log.h"
 #include "platform/clock.h"
 #include "platform/event.h"
 
@@ -31,6 +32,8 @@ class PhoneLink {
   Result Open(std::int32_t port, std::int32_t baudRate);
   Result Close();
   bool IsOpen() const { return channel_.IsOpen(); }
+  // The one that was opened last, 0 before. For any thread.
+  std::int32_t Port() const { return usefulLog_.Port(); }
 
   // For good: whatever waits on this link returns at once, and so does all that is begun
   // afterwards, with 1. For any thread; the link is closed as always.
@@ -50,6 +53,21 @@ class PhoneLink {
 
    private:
     PhoneLink& link_;
+  };
+
+  // While one of these stands, exchanges are noted in its list; null: nowhere.
+  class NoteScope {
+   public:
+    NoteScope(PhoneLink& link, ExchangeList* exchanges) : link_(link), outer_(link.exchanges_) {
+      link_.exchanges_ = exchanges;
+    }
+    ~NoteScope() { link_.exchanges_ = outer_; }
+    NoteScope(const NoteScope&) = delete;
+    NoteScope& operator=(const NoteScope&) = delete;
+
+   private:
+    PhoneLink& link_;
+    ExchangeList* const outer_;
   };
 
   // Frames the payload and writes it. What arrived before is dropped first, so that an answer is
@@ -122,8 +140,8 @@ class PhoneLink {
   LinkEvidence Evidence() const;
 
   // The Useful log, silent when it is off. A line may come from any thread.
-  void LogLine(std::string_view text);
-  void LogResult(Result result);
+  void LogLine(std::string_view text) { usefulLog_.Line(text); }
+  void LogResult(Result result) { usefulLog_.Result(result, ResultName(result)); }
 
  private:
   bool MustEnd() const {
@@ -137,8 +155,10 @@ class PhoneLink {
               std::uint32_t remainingMs, std::size_t& got);
   Result Receive(Frame& frame, std::uint32_t timeoutMs);
   Result Receive(Frame& frame, FrameId awaited, std::uint32_t timeoutMs);
-  void LogReceived(std::span<const std::uint8_t> decodedFrame);
-  PortLog* UsefulLog() { return environment_.settings.usefulLog ? &usefulLog_ : nullptr; }
+  void NoteCame(FrameId id, std::size_t payloadBytes,
+                Exchange::Outcome outcome = Exchange::Outcome::Answered) {
+    if (exchanges_) exchanges_->Came(id, payloadBytes, outcome);
+  }
 
   LinkEnvironment& environment_;
   platform::Clock& clock_;
@@ -146,7 +166,8 @@ class PhoneLink {
   // Bytes received and not yet taken as frames.
   ByteRing ring_;
   FrameSearch search_{ring_};
-  PortLog usefulLog_;
+  UsefulLog usefulLog_;
+  ExchangeList* exchanges_ = nullptr;
   Sightings sightings_;
   bool deviceGone_ = false;  // by the last read
   std::atomic<std::uint32_t> nextSequence_{0};

@@ -42,18 +42,18 @@ void PortLog::Data(std::span<const std::uint8_t> bytes, bool sent) {
   file_.Dump(bytes, sent ? LogDirection::Sent : LogDirection::Received);
 }
 
-void PortLog::Result(merovane::Result code, std::string_view name) {
+std::string PortLog::ResultLine(Result code, std::string_view name) {
   std::array<char, 96> text;
   std::snprintf(text.data(), text.size(), "Error Code = %d (%.*s)", static_cast<int>(code),
                 static_cast<int>(name.size()), name.data());
-  file_.Text(text.data());
+  return text.data();
 }
 
-void PortLog::Opened(std::int32_t port, std::int32_t baudRate) {
+std::string PortLog::OpenLine(std::int32_t port, std::int32_t baudRate) {
   std::array<char, 64> text;
   std::snprintf(text.data(), text.size(), "Open (Port = %d, Baudrate = %d)", static_cast<int>(port),
                 static_cast<int>(baudRate));
-  Line(text.data());
+  return text.data();
 }
 
 }  // namespace merovane

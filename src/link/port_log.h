@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "link/log_file.h"
@@ -21,9 +22,11 @@ class PortLog {
   // Where the logs of a day stand.
   static std::filesystem::path FolderOfToday(const std::filesystem::path& home);
   void Line(std::string_view text);
-  void Opened(std::int32_t port, std::int32_t baudRate);
   void Data(std::span<const std::uint8_t> bytes, bool sent);
-  void Result(merovane::Result code, std::string_view name);
+
+  // How a port's opening and a result are written.
+  static std::string OpenLine(std::int32_t port, std::int32_t baudRate);
+  static std::string ResultLine(Result code, std::string_view name);
 
  private:
   LogFile file_;

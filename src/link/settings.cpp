@@ -21,6 +21,7 @@ void LinkSettings::Read(const std::filesystem::path& folder) {
   receiveIncrementMs = number(setting::kReceiveIncrement);
   usefulLog = number(setting::kUsefulLog) != 0;
   allLog = number(setting::kAllLog) != 0;
+  trace = number(setting::kTrace);
   SetOrder(number(setting::kBigEndian) != 0 ? ByteOrder::Big() : ByteOrder::Little());
   connectServer = number(setting::kConnectServer) != 0;
   serverPort = number(setting::kServerPort);

@@ -26,11 +26,13 @@ inline constexpr SettingKey kServerPort{"Socket", "Port", "36667", true};
 inline constexpr SettingKey kReceiveIncrement{"Inc Recv Timeout", "Timeout", "0", true};
 inline constexpr SettingKey kUsefulLog{"Record Comm Log", "Record Useful Log", "0", true};
 inline constexpr SettingKey kAllLog{"Record Comm Log", "Record All Log", "0", true};
+inline constexpr SettingKey kTrace{"Record Comm Log", "Record Trace", "0", true};
 inline constexpr SettingKey kBigEndian{"Endian Control", "Big Endian", "1", true};
 inline constexpr SettingKey kSerialNumberMagic{"WRITESN_DEFAULT_MAGIC", "MAGIC_NUMBER", "QV05",
                                                false};
-inline constexpr std::array kAll{kConnectServer, kServerPort, kReceiveIncrement, kUsefulLog,
-                                 kAllLog,        kBigEndian,  kSerialNumberMagic};
+inline constexpr std::array kAll{kConnectServer, kServerPort,       kReceiveIncrement,
+                                 kUsefulLog,     kAllLog,           kTrace,
+                                 kBigEndian,     kSerialNumberMagic};
 }  // namespace setting
 
 class LinkSettings {
@@ -46,6 +48,8 @@ class LinkSettings {
   std::atomic<std::uint32_t> receiveIncrementMs{0};
   std::atomic<bool> usefulLog{false};
   std::atomic<bool> allLog{false};
+  // What the file says of the trace of calls.
+  std::atomic<std::uint32_t> trace{0};
   // Whether the file asks for the channel server at once, and where it is.
   std::atomic<bool> connectServer{false};
   std::atomic<std::uint32_t> serverPort{0};

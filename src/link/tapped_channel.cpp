@@ -45,7 +45,7 @@ void TappedChannel::Received(std::span<const std::uint8_t> chunk) {
 
 void TappedChannel::Opened(std::int32_t port, std::int32_t baudRate) {
   const platform::MutexLock lock(mutex_);
-  if (allLog_) allLog_->Opened(port, baudRate);
+  if (allLog_) allLog_->Line(PortLog::OpenLine(port, baudRate));
 }
 
 void TappedChannel::Close() {
