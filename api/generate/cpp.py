@@ -269,27 +269,94 @@ def call(export):
             f"{{ return nvproject::{declaration.name}({', '.join(first + names)}); }})")
 
 
+# ---- What a trace tells of arguments ----
+
+def argument_kind(argument):
+    if not argument.is_pointer:
+        return "Signed" if argument.type == "i32" else "Unsigned"
+    if argument.type == "text":
+        return "Text"
+    many = argument.extent and argument.extent != "1"
+    untold = argument.direction == "out" and many and argument.fixed_extent is None and not argument.stored
+    if untold and re.fullmatch(r"\w*capacity", argument.extent) or argument.is_open_ended:
+        return "Room"
+    if argument.type == "char":
+        return "Characters"
+    if argument.type in ("u16", "u32") or argument.type == "u8" and not many:
+        return "Numbers" if many else "Number"
+    return "Bytes"
+
+
+def element_bytes(argument):
+    return "1" if argument.type in ("text", "bytes") else f"sizeof({argument.cpp_element})"
+
+
+def counter(argument, declaration):
+    """How many elements the argument's pointer leads to, in C++, by the arguments' words; None: always one."""
+    extent = "1" if not argument.extent or argument.is_open_ended else argument.extent
+    if argument.when:
+        extent = f"({argument.when}) ? {extent} : 0"
+    if extent == "1":
+        return None
+    if extent.isdigit():
+        return f"[](const std::uintptr_t*) -> std::uint64_t {{ return {extent}; }}"
+    words = {other.name: f"static_cast<{other.cpp_element}>(words[{at}])" if not other.is_pointer else
+             f"reinterpret_cast<const {other.cpp_element}*>(words[{at}])"
+             for at, other in enumerate(declaration.arguments)}
+    expression = named(extent, declaration, lambda other: words[other.name])
+    return f"[](const std::uintptr_t* words) -> std::uint64_t {{ return {expression}; }}"
+
+
+def argument_info(argument, declaration):
+    use = {"value": "Value", "in": "In", "out": "Out", "inout": "InOut"}[argument.direction]
+    count = counter(argument, declaration)
+    stored = next((at for at, other in enumerate(declaration.arguments) if other.name == argument.stored), None)
+    found = [f'"{argument.name}"', f"Kind::{argument_kind(argument)}", f"Use::{use}", element_bytes(argument)]
+    if count or stored is not None:
+        found.append(count or "nullptr")
+    if stored is not None:
+        found.append(str(stored))
+    return "{" + ", ".join(found) + "}"
+
+
+def argument_table(declaration):
+    if not declaration.arguments:
+        return ""
+    rows = "".join(f"    {argument_info(argument, declaration)},\n" for argument in declaration.arguments)
+    return f"constexpr library::ArgumentInfo k{declaration.name}[] = {{\n{rows}}};\n"
+
+
 def exported(export):
-    """One exported function. What returns a result is a Call, whose failure is kept."""
+    """One exported function: a Call, which tells of itself."""
     declaration = export.declaration
     parameters = ", ".join(argument.cpp_parameter() for argument in export.arguments)
-    kind = "void" if declaration.returns == "void" else "std::int32_t"
-    signature = f"{kind} MEROVANE_CALL {export.name}({parameters}) {{\n"
-    if not declaration.returns_result:
-        return f"{signature}  return {call(export)};\n}}\n\n"
-    port = next(("port" for argument in export.arguments if argument.name == "port"), "0")
+    nothing = declaration.returns == "void"
+    returns = "Nothing" if nothing else "Result" if declaration.returns_result else "Number"
+    # A session function says `port` itself.
+    told = [argument for argument in export.arguments if argument is not export.port]
+    table = f"k{declaration.name}" if declaration.arguments else "{}"
+    port = "port" if any(argument.name == "port" for argument in export.arguments) else "0"
     limit = next((camel(argument.name) for argument in export.arguments if argument.type == "ms"), "0")
-    refusals = "; ".join(header.refused(export))
-    return (f"{signature}  static constexpr library::ExportInfo kInfo{{\"{export.name}\", {declaration.operation or 0},\n"
-            f"      {json.dumps(refusals, ensure_ascii=False)}}};\n"
-            f"  library::Call call(kInfo, {port}, {limit});\n"
-            f"  return call.Returned({call(export)});\n}}\n\n")
+    words = ", ".join(f"library::Word({camel(argument.name)})" for argument in told)
+    refusals = json.dumps("; ".join(header.refused(export)), ensure_ascii=False)
+    return (f"{'void' if nothing else 'std::int32_t'} MEROVANE_CALL {export.name}({parameters}) {{\n"
+            f"  static constexpr library::ExportInfo kInfo{{\"{export.name}\", {declaration.operation or 0},\n"
+            f"      library::ExportInfo::Returns::{returns}, {refusals}, {table}}};\n"
+            + (f"  const std::uintptr_t callWords[] = {{{words}}};\n" if words else "")
+            + f"  library::Call call(kInfo, {port}, {limit}, {'callWords' if words else 'nullptr'});\n"
+            + (f"  {call(export)};\n  call.Returned(0);\n" if nothing else f"  return call.Returned({call(export)});\n")
+            + "}\n\n")
 
 
 def exports_source(api):
     out = [MADE, '#define MEROVANE_BUILD\n#include "merovane/merovane.h"\n\n#include "library/call.h"\n#include "library/export_frame.h"\n']
     out += [f'#include "declared/{unit}.h"\n' for unit in units(api, ("command", "project", "session"))]
-    out.append('\nusing namespace merovane;\n\nextern "C" {\n\n')
+    out.append("\nusing namespace merovane;\n\nnamespace {\n\nusing Kind = library::ArgumentInfo::Kind;\n"
+               "using Use = library::ArgumentInfo::Use;\n\n")
+    most = max(len(declaration.arguments) for declaration in api.declarations)
+    out.append(f"static_assert({most} <= library::kMostArguments);\n\n")
+    out += [argument_table(declaration) for declaration in api.declarations]
+    out.append('\n}  // namespace\n\nextern "C" {\n\n')
     out += [exported(export) for export in api.exports]
     return "".join(out) + '}  // extern "C"\n'
 

@@ -133,6 +133,8 @@ class Export:
     declaration: Declaration
     twin: bool
 
+    port = Argument("port", "i32", low=1, documentation=["opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT"])
+
     @property
     def name(self):
         return f"QV_{self.declaration.name}{'_MT' if self.twin else ''}"
@@ -143,10 +145,7 @@ class Export:
 
     @property
     def arguments(self):
-        if not self.twin:
-            return self.declaration.arguments
-        port = Argument("port", "i32", low=1, documentation=["opened with QV_BeginPhoneTest or QV_BeginPhoneTest_MT"])
-        return [port] + self.declaration.arguments
+        return ([self.port] if self.twin else []) + self.declaration.arguments
 
     @property
     def argument_bytes(self):

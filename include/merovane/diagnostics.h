@@ -1,4 +1,5 @@
-/* Diagnostics: why a call failed, what results and operations are called, what the settings are.
+/* Diagnostics: why a call failed, what results and operations are called, what the settings
+ * are, which calls were made.
  *
  * These functions stand beside those of merovane.h: none of them sends anything, reports to the
  * error-code library or changes what a command does. Every one may be called from any thread, also
@@ -136,6 +137,52 @@ MEROVANE_API int32_t MEROVANE_CALL Merovane_SetFolder(const char* folder);
  * @param capacity  room at `text`; what does not fit is cut, and a zero ends it
  * @return the bytes that all of it takes, the ending zero included */
 MEROVANE_API uint32_t MEROVANE_CALL Merovane_Settings(char* text, uint32_t capacity);
+
+/* ---- Calls as they are made ----------------------------------------------------------- */
+
+typedef enum Merovane_Trace {
+  MEROVANE_TRACE_OFF = 0,
+  MEROVANE_TRACE_CALLS = 1,   /* payloads and buffers by their sizes */
+  MEROVANE_TRACE_PAYLOADS = 2 /* with their bytes */
+} Merovane_Trace;
+
+/** Switches the trace: Com5_Trace.jsonl beside the logs of port 5 (Com0_Trace.jsonl for calls that
+ * reached no port), with one JSON object for each call of an exported function, as docs/trace.md
+ * describes it. The setting "Record Trace" of section "Record Comm Log" says how it starts, and
+ * again at Merovane_SetFolder.
+ * @param trace  a Merovane_Trace
+ * @return 0 (PC_ERR_SUCCESS); PC_ERR_INVALID_PARAM for another number; PC_ERR_ENTER_MODE_FAILED
+ * when the system gives no thread */
+MEROVANE_API int32_t MEROVANE_CALL Merovane_SetTrace(uint32_t trace);
+
+typedef enum Merovane_Event {
+  MEROVANE_EVENT_LOG_LINE = 1, /* text: a line of the Useful log without its time */
+  MEROVANE_EVENT_CALL = 2,     /* text: the JSON object of a call, as in the trace */
+  MEROVANE_EVENT_DROPPED = 3   /* text: how many lines and calls of the port were dropped here */
+} Merovane_Event;
+
+/** Told of log lines, whether or not a Useful log is written, and of calls as they end. It is
+ * called on a thread of the library's own that holds no lock, and no call waits for it: when it is
+ * slow, what comes is kept, up to 16 MiB, and then dropped. It may call any function, but hears
+ * nothing of what it does itself, and Merovane_Flush gives it 0.
+ * @param port  0 for a call that reached none
+ * @param text  valid until the listener returns; JSON is UTF-8, a line as the log has it */
+typedef void(MEROVANE_CALL* Merovane_Listener)(void* context, uint32_t event, int32_t port,
+                                               const char* text);
+
+/** Replaces the listener. When it returns, the former one is not being called and will not be
+ * again; called by the listener itself, it returns at once. Do not hold a lock that the listener
+ * takes.
+ * @param listener  null: nobody listens
+ * @param context   given to the listener as it is
+ * @return 0 (PC_ERR_SUCCESS), or PC_ERR_ENTER_MODE_FAILED when the system gives no thread */
+MEROVANE_API int32_t MEROVANE_CALL Merovane_SetListener(Merovane_Listener listener, void* context);
+
+/** Waits until all calls that have returned are in the trace and told to the listener. The ends of
+ * sessions do so too, for at most 200 ms, and so does the end of the process unless it is killed.
+ * @param time_limit_ms  of the wait
+ * @return 1 when they are, 0 when the time ran out */
+MEROVANE_API int32_t MEROVANE_CALL Merovane_Flush(uint32_t time_limit_ms);
 
 #ifdef __cplusplus
 }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "library/call_record.h"
+#include "library/call_recorder.h"
 #include "library/failure.h"
 #include "library/library.h"
 #include "platform/clock.h"
@@ -10,17 +12,22 @@
 namespace merovane::library {
 namespace {
 
+// How long the end of a session waits for its calls to be in the trace.
+constexpr std::uint32_t kCompleteTraceMs = 200;
+
 // Without a destructor: threads may outlive the library.
 thread_local Call* running = nullptr;
 
 }  // namespace
 
-Call::Call(const ExportInfo& info, std::int32_t port, std::uint32_t limitMs)
+Call::Call(const ExportInfo& info, std::int32_t port, std::uint32_t limitMs,
+           const std::uintptr_t* words)
     : info_(info),
       port_(port),
       limitMs_(limitMs),
-      startMs_(platform::SystemClock().NowMs()),
-      outer_(running) {
+      words_(words),
+      outer_(running),
+      recorded_(TheLibrary().recorder.WantsCalls()) {
   running = this;
 }
 
@@ -34,16 +41,60 @@ void Call::Note(const PhoneLink& link) noexcept {
   }
 }
 
+void Call::Reached(std::int32_t port) {
+  if (running) running->reachedPort_ = port;
+}
+
+ExchangeList* Call::Exchanges() {
+  return running && running->recorded_ ? &running->exchanges_ : nullptr;
+}
+
+void Call::EndsSession() {
+  if (running) running->endsSession_ = true;
+}
+
 std::int32_t Call::Returned(std::int32_t result) noexcept {
-  if (result == 0) return result;
+  const bool failed = result != 0 && info_.returns == ExportInfo::Returns::Result;
+  if (!failed && !recorded_) return result;
   try {
-    const std::int32_t port = port_ == 0 && evidence_ ? evidence_->port : port_;
-    const std::uint32_t elapsedMs = platform::SystemClock().NowMs() - startMs_;
-    TheLibrary().failures.Keep({&info_, port, limitMs_, elapsedMs, result, std::move(evidence_)},
-                               platform::CurrentThreadId());
+    const auto ended = Exchange::Clock::now();
+    std::optional<FailedCall> failure;
+    if (failed) {
+      using std::chrono::milliseconds;
+      const auto elapsed = std::chrono::duration_cast<milliseconds>(ended - begun_).count();
+      failure = {&info_, Port(), limitMs_, static_cast<std::uint32_t>(elapsed), result, evidence_};
+    }
+    if (recorded_) Tell(result, ended, failure);
+    if (failure) TheLibrary().failures.Keep(std::move(*failure), platform::CurrentThreadId());
+    if (recorded_ && endsSession_) {
+      static_cast<void>(TheLibrary().recorder.Flush(kCompleteTraceMs));
+    }
   } catch (...) {  // NOLINT(bugprone-empty-catch): the result says enough
   }
   return result;
+}
+
+std::int32_t Call::Port() const {
+  if (port_ != 0) return port_;
+  return evidence_ ? evidence_->port : reachedPort_;
+}
+
+void Call::Tell(std::int32_t result, Exchange::Clock::time_point ended,
+                const std::optional<FailedCall>& failure) {
+  CallRecorder& recorder = TheLibrary().recorder;
+  CallRecord record;
+  record.info = &info_;
+  record.port = Port();
+  record.thread = platform::CurrentThreadId();
+  record.returned = platform::LocalTime();
+  record.begun = begun_;
+  record.ended = ended;
+  record.result = result;
+  record.trace = recorder.Trace();
+  record.CopyArguments(words_);
+  record.exchanges = std::move(exchanges_);
+  record.failure = failure;
+  recorder.Tell(std::move(record));
 }
 
 }  // namespace merovane::library

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "declared/names.h"
+#include "library/call_text.h"
 #include "library/library.h"
 #include "library/settings_report.h"
 #include "link/result.h"
@@ -30,6 +31,11 @@ std::uint32_t CopyText(const std::string& text, char* into, std::uint32_t capaci
   return static_cast<std::uint32_t>(text.size() + 1);
 }
 
+std::string SettingsText() {
+  const library::Library& library = library::TheLibrary();
+  return library::SettingsReport(library.environment, library.recorder);
+}
+
 }  // namespace
 
 extern "C" {
@@ -37,8 +43,7 @@ extern "C" {
 const char* MEROVANE_CALL Merovane_Version(void) { return kVersion; }
 
 const char* MEROVANE_CALL Merovane_ResultName(std::int32_t result) {
-  const auto index = static_cast<std::uint32_t>(result) + 1U;
-  return index < library::kResultNames.size() ? library::kResultNames[index] : "unknown result";
+  return library::ResultNameOf(result);
 }
 
 const char* MEROVANE_CALL Merovane_ResultMeaning(std::int32_t result) {
@@ -103,11 +108,27 @@ std::int32_t MEROVANE_CALL Merovane_SetFolder(const char* folder) {
 
 std::uint32_t MEROVANE_CALL Merovane_Settings(char* text, std::uint32_t capacity) {
   try {
-    return CopyText(library::SettingsReport(library::TheLibrary().environment), text, capacity);
+    return CopyText(SettingsText(), text, capacity);
   } catch (...) {
     if (text && capacity > 0) *text = '\0';
     return 0;
   }
+}
+
+std::int32_t MEROVANE_CALL Merovane_SetTrace(std::uint32_t trace) {
+  if (trace > MEROVANE_TRACE_PAYLOADS) return PC_ERR_INVALID_PARAM;
+  return library::TheLibrary().recorder.SetTrace(static_cast<Merovane_Trace>(trace))
+             ? PC_ERR_SUCCESS
+             : PC_ERR_ENTER_MODE_FAILED;
+}
+
+std::int32_t MEROVANE_CALL Merovane_SetListener(Merovane_Listener listener, void* context) {
+  return library::TheLibrary().recorder.SetListener(listener, context) ? PC_ERR_SUCCESS
+                                                                       : PC_ERR_ENTER_MODE_FAILED;
+}
+
+std::int32_t MEROVANE_CALL Merovane_Flush(std::uint32_t timeLimitMs) {
+  return library::TheLibrary().recorder.Flush(timeLimitMs) ? 1 : 0;
 }
 
 }  // extern "C"

@@ -38,7 +38,10 @@ template <typename Command>
 std::int32_t RunCommand(PhoneObject& phone, Command&& command) noexcept {
   const Turn turn(phone.commandTurns);
   if (!turn) return ReportedUnreached(Result::PortNotOpen);
-  Result result = Guarded([&] { return command(phone); });
+  Result result = Guarded([&] {
+    const PhoneLink::NoteScope noted(phone.link, Call::Exchanges());
+    return command(phone);
+  });
   // A command may make something else of it, or nothing.
   if (phone.link.WasCutShort()) result = Result::PortNotOpen;
   if (!Succeeded(result)) Call::Note(phone.link);
@@ -56,7 +59,9 @@ std::int32_t RunProject(PhoneObject& phone, std::uint32_t id, Operation&& operat
 template <typename Run>
 std::int32_t OnDefaultObject(Run&& run) noexcept {
   const auto phone = TheLibrary().registry.Default();
-  return phone ? run(*phone) : ReportedUnreached(Result::PortNotOpen);
+  if (!phone) return ReportedUnreached(Result::PortNotOpen);
+  Call::Reached(phone->link.Port());
+  return run(*phone);
 }
 
 template <typename Run>

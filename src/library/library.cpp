@@ -5,9 +5,20 @@
 
 namespace merovane::library {
 
-Library::Library() : environment(platform::ExecutableDirectory()) {}
+Library::Library() : environment(platform::ExecutableDirectory()) {
+  environment.logObserver = &recorder;
+  SetTraceFromSettings();
+}
 
-Library::~Library() { CloseAll(*this); }
+Library::~Library() {
+  CloseAll(*this);
+  environment.logObserver = nullptr;
+}
+
+void Library::SetTraceFromSettings() {
+  recorder.SetFolder(environment.settings.Folder());
+  recorder.SetTraceAtLoad(TraceOfSetting(environment.settings.trace));
+}
 
 SessionRegistry::PhonePointer Library::MakePhone() {
   {
@@ -21,6 +32,7 @@ bool Library::SetFolder(const std::filesystem::path& folder) {
   const platform::MutexLock lock(folderMutex_);
   if (folderStays_) return false;
   environment.ReadSettings(folder);
+  SetTraceFromSettings();
   return true;
 }
 

@@ -1,6 +1,7 @@
 // What exists once per process, from the loading of this library to its unloading.
 #pragma once
 
+#include "library/call_recorder.h"
 #include "library/failure.h"
 #include "library/session_registry.h"
 #include "link/link_environment.h"
@@ -20,8 +21,11 @@ class Library {
   LinkEnvironment environment;
   SessionRegistry registry;
   FailureLog failures;
+  CallRecorder recorder;
 
  private:
+  void SetTraceFromSettings();
+
   platform::Mutex folderMutex_;
   bool folderStays_ MEROVANE_GUARDED_BY(folderMutex_) = false;
 };

@@ -149,6 +149,7 @@ bool CloseAll(Library& library) {
 std::int32_t EndPhoneTest() {
   Library& library = TheLibrary();
   library.environment.errors.BeginOperation(operation_id::kEndPhoneTest);
+  Call::EndsSession();
   return Reported(
       Guarded([&] { return CloseAll(library) ? Result::Success : Result::CannotCloseAllPorts; }));
 }
@@ -158,6 +159,7 @@ std::int32_t EndPhoneTest_MT(std::int32_t port) {
   Result lookup = Result::Success;
   if (!library.registry.Find(port, lookup)) return ReportedUnreached(lookup);
   library.environment.errors.BeginOperation(operation_id::kEndPhoneTest);
+  Call::EndsSession();
   return Reported(Guarded([&] {
     if (const PhonePointer phone = library.registry.Remove(port)) static_cast<void>(Close(*phone));
     return Result::Success;

@@ -33,20 +33,27 @@ bool Names(const SettingKey& key, const ProfileFile::Entry& entry) {
 }
 
 // What holds now, where a program can have changed it since the file was read.
-std::optional<bool> SwitchedNow(const LinkEnvironment& environment, std::string_view key) {
+std::optional<std::uint32_t> SwitchedNow(const LinkEnvironment& environment,
+                                         const CallRecorder& recorder, std::string_view key) {
   const ChannelServer& server = environment.server;
   if (key == setting::kConnectServer.key) {
     return server.IsConnected() || server.WhyNot() != ChannelServer::Missing::Nothing;
   }
   if (key == setting::kBigEndian.key) return environment.settings.Order().IsBig();
   if (key == setting::kUsefulLog.key) return environment.settings.usefulLog;
+  if (key == setting::kTrace.key) return recorder.Trace();
   return std::nullopt;
+}
+
+std::uint32_t SwitchedBy(std::uint32_t number, std::string_view key) {
+  return key == setting::kTrace.key ? TraceOfSetting(number) : number != 0 ? 1 : 0;
 }
 
 class Report {
  public:
-  explicit Report(const LinkEnvironment& environment)
+  Report(const LinkEnvironment& environment, const CallRecorder& recorder)
       : environment_(environment),
+        recorder_(recorder),
         path_(environment.settings.File()),
         file_(ProfileFile::Load(path_)) {}
 
@@ -61,6 +68,7 @@ class Report {
     json_.Key("problems").BeginArray();
     for (const ProfileFile::Entry& entry : file_.Entries()) Look(entry);
     LookAtLogFolder();
+    LookAtTrace();
     LookAtServer();
     json_.EndArray().EndObject();
     return text_;
@@ -74,9 +82,9 @@ class Report {
     if (key.isNumber) {
       const auto number =
           file_.Integer(key.section, key.key, static_cast<std::uint32_t>(std::atoi(key.fallback)));
-      const auto now = SwitchedNow(environment_, key.key);
-      if (now && *now != (number != 0)) {
-        value = *now ? "1" : "0";
+      const auto now = SwitchedNow(environment_, recorder_, key.key);
+      if (now && *now != SwitchedBy(number, key.key)) {
+        value = std::to_string(*now);
         source = "program";
       }
     }
@@ -116,12 +124,27 @@ class Report {
   }
 
   void LookAtLogFolder() {
-    if (!environment_.settings.usefulLog && !environment_.settings.allLog) return;
-    const std::filesystem::path folder = PortLog::FolderOfToday(environment_.settings.Folder());
+    const LinkSettings& settings = environment_.settings;
+    const bool traces = recorder_.Trace() != MEROVANE_TRACE_OFF;
+    if (!settings.usefulLog && !settings.allLog && !traces) return;
+    const std::filesystem::path folder = PortLog::FolderOfToday(settings.Folder());
     if (platform::CanMakeFilesIn(folder)) return;
     Problem({setting::kUsefulLog.section, "", "", true},
             "No log can be written into " + Utf8(folder) +
                 ": it cannot be made, or this user may not write there.");
+  }
+
+  void LookAtTrace() {
+    const auto problem = [&](const TraceFiles::Gap& gap, std::uint64_t lines, const char* why) {
+      if (lines == 0) return;
+      Problem({setting::kTrace.section, setting::kTrace.key, "", true},
+              std::to_string(lines) + " lines are missing in " + Utf8(gap.file) + ": " + why);
+    };
+    for (const TraceFiles::Gap& gap : recorder_.Gaps()) {
+      problem(gap, gap.unwritten,
+              "they could not be written. Look for room on its disk, and who may write there.");
+      problem(gap, gap.overrun, "calls came faster than they could be written.");
+    }
   }
 
   void LookAtServer() {
@@ -145,6 +168,7 @@ class Report {
   }
 
   const LinkEnvironment& environment_;
+  const CallRecorder& recorder_;
   const std::filesystem::path path_;
   const ProfileFile file_;
   std::string text_;
@@ -153,8 +177,8 @@ class Report {
 
 }  // namespace
 
-std::string SettingsReport(const LinkEnvironment& environment) {
-  return Report(environment).Text();
+std::string SettingsReport(const LinkEnvironment& environment, const CallRecorder& recorder) {
+  return Report(environment, recorder).Text();
 }
 
 }  // namespace merovane::library

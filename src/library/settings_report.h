@@ -3,10 +3,11 @@
 
 #include <string>
 
+#include "library/call_recorder.h"
 #include "link/link_environment.h"
 
 namespace merovane::library {
 
-std::string SettingsReport(const LinkEnvironment& environment);
+std::string SettingsReport(const LinkEnvironment& environment, const CallRecorder& recorder);
 
 }  // namespace merovane::library

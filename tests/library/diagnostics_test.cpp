@@ -132,6 +132,24 @@ TEST_F(SettingsFolder, CutsALongReportToItsRoom) {
   EXPECT_EQ(text[0], '{');
 }
 
+TEST_F(SettingsFolder, HoldsTheTraceThatTheFileAsksFor) {
+  Say("[Record Comm Log]\r\nRecord Trace=2\r\n");
+  EXPECT_EQ(ValueAndSource(Settings(), "Record Trace"), "2 file");
+  std::uint8_t imei[8] = {};
+  EXPECT_EQ(QV_ReadIMEI_MT(3, imei), PC_ERR_PORT_NOT_OPEN);
+  EXPECT_EQ(QV_EndPhoneTest(), PC_ERR_SUCCESS);
+  const auto trace = [&](const char* name) {
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder / "Log")) {
+      if (entry.path().filename() == name) return nlohmann::json::parse(FileText(entry.path()));
+    }
+    return nlohmann::json();
+  };
+  EXPECT_EQ(trace("Com3_Trace.jsonl")["failure"]["cause"], MEROVANE_CAUSE_NO_SESSION);
+  EXPECT_EQ(trace("Com0_Trace.jsonl")["function"], "QV_EndPhoneTest");
+  ASSERT_EQ(Merovane_SetTrace(MEROVANE_TRACE_OFF), PC_ERR_SUCCESS);
+  EXPECT_EQ(ValueAndSource(Settings(), "Record Trace"), "0 program");
+}
+
 // The last one: it begins a session.
 TEST_F(SettingsFolder, StaysOnceASessionHasBegun) {
   EXPECT_EQ(Merovane_SetFolder(nullptr), PC_ERR_INVALID_PARAM);

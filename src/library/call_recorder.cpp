@@ -1,0 +1,293 @@
+#include "library/call_recorder.h"
+
+#include <chrono>
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include "library/call_text.h"
+#include "platform/event.h"
+#include "platform/message_queue.h"
+
+namespace merovane::library {
+namespace {
+
+// What waits to be told takes at most so much memory, and once more so much what is being told.
+constexpr std::size_t kMostWaitingBytes = std::size_t{16} * 1024 * 1024;
+// After telling, the thread rests: calls that come close together wake it once.
+constexpr std::uint32_t kRestMs = 10;
+constexpr std::uint32_t kEndLimitMs = 1000;
+
+// A call, or a log line.
+struct Item {
+  std::optional<CallRecord> call;
+  std::int32_t port = 0;
+  std::uint32_t thread = 0;
+  std::string line;
+
+  std::size_t Bytes() const { return sizeof *this + line.capacity() + (call ? call->Bytes() : 0); }
+  bool IsTraced() const { return call && call->trace != MEROVANE_TRACE_OFF; }
+};
+
+struct Dropped {
+  std::uint64_t items = 0;
+  std::uint64_t traced = 0;  // of these
+};
+
+}  // namespace
+
+class CallRecorder::Teller {
+ public:
+  void SetFolder(const std::filesystem::path& folder);
+  void SetListener(Merovane_Listener listener, void* context);
+  void Add(std::unique_ptr<Item> item);
+  bool Flush(std::uint32_t limitMs);
+  std::vector<TraceFiles::Gap> Gaps() const { return files_.Gaps(); }
+
+  // What the thread does until the stop, at which it tells what is left.
+  void Work();
+  // Takes no lock: the end of the process kills threads with what they hold.
+  void Stop();
+  // Writes what a thread that was killed has left; not when that one held the queue.
+  void WriteRest();
+
+ private:
+  struct Batch {
+    std::vector<std::unique_ptr<Item>> items;
+    std::map<std::int32_t, Dropped> dropped;  // by port, after the items
+    std::filesystem::path folder;
+  };
+
+  bool Take(Batch& batch) MEROVANE_REQUIRES(mutex_);
+  bool WaitFor(Batch& batch);
+  void Tell(Batch& batch, TraceFiles& files);
+  void Tell(const Item& item, const std::filesystem::path& folder, TraceFiles& files);
+  void Listen(Merovane_Event event, std::int32_t port, const std::string& text);
+
+  std::atomic<bool> stops_{false};
+  // Wakes the thread from its sleep, and from its rest when somebody waits for it.
+  platform::Event wake_;
+
+  platform::Mutex mutex_;
+  platform::ConditionVariable told_;
+  Batch waiting_ MEROVANE_GUARDED_BY(mutex_);
+  std::size_t waitingBytes_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  bool sleeps_ MEROVANE_GUARDED_BY(mutex_) = false;
+  // How many batches were begun, and told whole.
+  std::uint64_t begunBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint64_t toldBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  Merovane_Listener listener_ MEROVANE_GUARDED_BY(mutex_) = nullptr;
+  void* context_ MEROVANE_GUARDED_BY(mutex_) = nullptr;
+  // Of the listener that is being called, while one is.
+  std::uint64_t listeners_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  std::uint64_t calledListener_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  bool calling_ MEROVANE_GUARDED_BY(mutex_) = false;
+  std::atomic<std::uint32_t> thread_{0};
+
+  TraceFiles files_;  // the thread's own, but for its gaps
+};
+
+void CallRecorder::Teller::SetFolder(const std::filesystem::path& folder) {
+  const platform::MutexLock lock(mutex_);
+  waiting_.folder = folder;
+}
+
+void CallRecorder::Teller::SetListener(Merovane_Listener listener, void* context) {
+  const platform::MutexLock lock(mutex_);
+  listener_ = listener;
+  context_ = context;
+  const std::uint64_t mine = ++listeners_;
+  if (thread_ == platform::CurrentThreadId()) return;
+  while (calling_ && calledListener_ < mine) told_.Wait(mutex_);
+}
+
+void CallRecorder::Teller::Add(std::unique_ptr<Item> item) {
+  const std::size_t bytes = item->Bytes();
+  const platform::MutexLock lock(mutex_);
+  if (waitingBytes_ + bytes > kMostWaitingBytes) {
+    Dropped& dropped = waiting_.dropped[item->port];
+    ++dropped.items;
+    if (item->IsTraced()) ++dropped.traced;
+    return;
+  }
+  waiting_.items.push_back(std::move(item));
+  waitingBytes_ += bytes;
+  if (std::exchange(sleeps_, false)) wake_.Set();
+}
+
+bool CallRecorder::Teller::Flush(std::uint32_t limitMs) {
+  // The listener would wait for itself.
+  if (thread_ == platform::CurrentThreadId()) return false;
+  const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(limitMs);
+  const platform::MutexLock lock(mutex_);
+  const bool waits = !waiting_.items.empty() || !waiting_.dropped.empty();
+  const std::uint64_t last = begunBatches_ + (waits ? 1 : 0);
+  if (waits) wake_.Set();
+  while (toldBatches_ < last && told_.WaitUntil(mutex_, end)) {
+  }
+  return toldBatches_ >= last;
+}
+
+void CallRecorder::Teller::Work() {
+  thread_ = platform::CurrentThreadId();
+  for (Batch batch; WaitFor(batch);) {
+    Tell(batch, files_);
+    {
+      const platform::MutexLock lock(mutex_);
+      ++toldBatches_;
+      told_.NotifyAll();
+    }
+    static_cast<void>(wake_.WaitMs(kRestMs));
+  }
+}
+
+bool CallRecorder::Teller::Take(Batch& batch) {
+  if (waiting_.items.empty() && waiting_.dropped.empty()) return false;
+  batch.items.clear();
+  batch.dropped.clear();
+  std::swap(batch.items, waiting_.items);
+  std::swap(batch.dropped, waiting_.dropped);
+  batch.folder = waiting_.folder;
+  waitingBytes_ = 0;
+  ++begunBatches_;
+  return true;
+}
+
+// False when it is time to end.
+bool CallRecorder::Teller::WaitFor(Batch& batch) {
+  for (;;) {
+    {
+      const platform::MutexLock lock(mutex_);
+      if (!stops_) wake_.Reset();
+      if (Take(batch)) return true;
+      if (stops_) return false;
+      sleeps_ = true;
+    }
+    static_cast<void>(wake_.WaitMs(UINT32_MAX));
+  }
+}
+
+void CallRecorder::Teller::Tell(Batch& batch, TraceFiles& files) {
+  for (std::unique_ptr<Item>& item : batch.items) {
+    try {
+      Tell(*item, batch.folder, files);
+    } catch (...) {  // NOLINT(bugprone-empty-catch): without memory this one goes untold
+    }
+    item.reset();
+  }
+  try {
+    for (const auto& [port, dropped] : batch.dropped) {
+      if (dropped.traced != 0) files.Overrun(batch.folder, port, dropped.traced);
+      Listen(MEROVANE_EVENT_DROPPED, port, std::to_string(dropped.items));
+    }
+    files.Close();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): as above
+  }
+}
+
+void CallRecorder::Teller::Tell(const Item& item, const std::filesystem::path& folder,
+                                TraceFiles& files) {
+  // What a listener does is not told to itself, which would never end.
+  const bool heard = item.thread != thread_;
+  if (!item.call) {
+    if (heard) Listen(MEROVANE_EVENT_LOG_LINE, item.port, item.line);
+    return;
+  }
+  const std::string line = InJson(*item.call);
+  if (item.IsTraced()) files.Line(folder, item.port, line);
+  if (heard) Listen(MEROVANE_EVENT_CALL, item.port, line);
+}
+
+void CallRecorder::Teller::Listen(Merovane_Event event, std::int32_t port,
+                                  const std::string& text) {
+  Merovane_Listener listener = nullptr;
+  void* context = nullptr;
+  {
+    const platform::MutexLock lock(mutex_);
+    // A program that ends may have ended already what its listener stands on.
+    if (!listener_ || stops_) return;
+    listener = listener_;
+    context = context_;
+    calling_ = true;
+    calledListener_ = listeners_;
+  }
+  listener(context, event, port, text.c_str());
+  const platform::MutexLock lock(mutex_);
+  calling_ = false;
+  told_.NotifyAll();
+}
+
+void CallRecorder::Teller::Stop() {
+  stops_ = true;
+  wake_.Set();
+}
+
+void CallRecorder::Teller::WriteRest() {
+  if (!mutex_.TryLock()) return;
+  Batch batch;
+  static_cast<void>(Take(batch));
+  mutex_.Unlock();
+  // Not those that the thread was working on.
+  TraceFiles files;
+  Tell(batch, files);
+}
+
+CallRecorder::CallRecorder() : teller_(std::make_shared<Teller>()) {}
+
+CallRecorder::~CallRecorder() {
+  if (!started_) return;
+  teller_->Stop();
+  if (thread_.WaitMs(kEndLimitMs)) {
+    teller_->WriteRest();
+  } else {
+    thread_.Abandon();
+  }
+}
+
+void CallRecorder::SetFolder(const std::filesystem::path& folder) { teller_->SetFolder(folder); }
+
+bool CallRecorder::SetTrace(Merovane_Trace trace) {
+  if (trace != MEROVANE_TRACE_OFF && !Start()) return false;
+  trace_ = trace;
+  return true;
+}
+
+bool CallRecorder::SetListener(Merovane_Listener listener, void* context) {
+  if (listener && !Start()) return false;
+  listens_ = listener != nullptr;
+  teller_->SetListener(listener, context);
+  return true;
+}
+
+bool CallRecorder::Start() {
+  if (started_) return true;
+  const platform::MutexLock lock(startMutex_);
+  // Once it runs, an unloading library can wait for its end.
+  if (!started_) started_ = thread_.Start([teller = teller_] { teller->Work(); });
+  return started_;
+}
+
+void CallRecorder::Tell(CallRecord record) {
+  if (!Start()) return;
+  auto item = std::make_unique<Item>();
+  item->port = record.port;
+  item->thread = record.thread;
+  item->call = std::move(record);
+  teller_->Add(std::move(item));
+}
+
+void CallRecorder::TellLine(std::int32_t port, std::string line) {
+  if (!Start()) return;
+  auto item = std::make_unique<Item>();
+  item->port = port;
+  item->thread = platform::CurrentThreadId();
+  item->line = std::move(line);
+  teller_->Add(std::move(item));
+}
+
+bool CallRecorder::Flush(std::uint32_t limitMs) { return !started_ || teller_->Flush(limitMs); }
+
+std::vector<TraceFiles::Gap> CallRecorder::Gaps() const { return teller_->Gaps(); }
+
+}  // namespace merovane::library
