@@ -79,6 +79,13 @@ if(WIN32)
   include(MsvcImportLibraries)
 endif()
 
+# As sources. Wheels and the NuGet package hold them with the libraries.
+set(bindings ${shared}/bindings)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/python/merovane DESTINATION ${bindings}/python COMPONENT bindings
+  FILES_MATCHING PATTERN *.py PATTERN py.typed PATTERN __pycache__ EXCLUDE)
+install(DIRECTORY bindings/csharp/ ${CMAKE_BINARY_DIR}/api/csharp/ DESTINATION ${bindings}/csharp COMPONENT bindings
+  FILES_MATCHING PATTERN *.cs PATTERN test EXCLUDE)
+
 install(FILES README.md CHANGELOG.md DESTINATION ${documentation} COMPONENT documentation)
 install(DIRECTORY docs DESTINATION ${documentation} COMPONENT documentation)
 foreach(folder simulator tools/merovane companions/cassorind companions/tollvane companions/brimwell)
