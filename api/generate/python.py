@@ -457,7 +457,8 @@ def outputs(api, headers):
     enumerations, types = [], []
     for name in ("types.h", "diagnostics.h"):
         found = records.read_types(headers / name)
-        enumerations += found[0]
+        # Python's logging is told of events, not its caller.
+        enumerations += [enumeration for enumeration in found[0] if enumeration.name != "Merovane_Event"]
         types += found[1]
     return {"python/constants.py": constants_module(api, enumerations), "python/records.py": records_module(api, types),
             "python/exports.py": exports_module(api)}

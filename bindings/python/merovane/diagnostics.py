@@ -1,4 +1,4 @@
-"""Why a call failed, what results and operations are called, what the settings are."""
+"""Why a call failed, what results and operations are called, what the settings are, which calls were made."""
 import ctypes
 import json
 import os
@@ -18,6 +18,12 @@ def _text(name: str, *arguments: int) -> str:
     kinds = [ctypes.c_int32 if name.startswith("Merovane_Result") else ctypes.c_uint32 for _ in arguments]
     raw: bytes = _function(name, ctypes.c_char_p, *kinds)(*arguments)
     return raw.decode("utf-8", "replace")
+
+
+def _check(name: str, code: int) -> None:
+    from . import errors
+    if code:
+        raise errors.MerovaneError(name, "", code, result_meaning(code))
 
 
 def version() -> str:
@@ -75,11 +81,8 @@ def set_folder(folder: Union[str, "os.PathLike[str]"]) -> None:
 
     Before the first session only.
     """
-    from . import errors
     raw = os.fspath(folder).encode("utf-8", "surrogateescape")
-    code = _function("Merovane_SetFolder", ctypes.c_int32, ctypes.c_char_p)(raw)
-    if code:
-        raise errors.MerovaneError("Merovane_SetFolder", "", code, result_meaning(code))
+    _check("Merovane_SetFolder", _function("Merovane_SetFolder", ctypes.c_int32, ctypes.c_char_p)(raw))
 
 
 def settings() -> Dict[str, Any]:
@@ -96,3 +99,14 @@ def settings() -> Dict[str, Any]:
             found: Dict[str, Any] = json.loads(text.value.decode("utf-8", "replace"))
             return found
         size = needed
+
+
+def set_trace(trace: int) -> None:
+    """Switches the trace, one line of JSON for each call beside the logs: a constants.Trace."""
+    _check("Merovane_SetTrace", _function("Merovane_SetTrace", ctypes.c_int32, ctypes.c_uint32)(trace))
+
+
+def flush(timeout: float) -> bool:
+    """Waits until all calls that have returned are in the trace and in Python's logging; False when `timeout` seconds were not enough.
+    """
+    return bool(_function("Merovane_Flush", ctypes.c_int32, ctypes.c_uint32)(round(timeout * 1000)))

@@ -8,6 +8,8 @@ from pathlib import Path
 
 import pytest
 
+import merovane
+
 ROOT = Path(__file__).resolve().parents[3]
 
 
@@ -54,6 +56,25 @@ def test_a_missing_library_or_companion_is_named(tmp_path, build):
     assert run(version, MEROVANE_LIBRARY=str(tmp_path)).stdout.strip()
     other = tmp_path / "libBrimwell.so"
     assert "is not this library" in run(version, MEROVANE_LIBRARY=str(other)).stderr
+
+
+def test_the_last_records_are_logged_when_the_interpreter_ends():
+    ended = run("""
+import logging, merovane
+logging.basicConfig(level=logging.DEBUG)
+merovane.log_to("station")
+for _ in range(100):
+    merovane.exports.QV_SetRecvMode(0)
+""")
+    assert ended.returncode == 0
+    assert len([line for line in ended.stderr.splitlines() if line.startswith("DEBUG:station:QV_SetRecvMode: done, ")]) == 100
+
+
+def test_every_function_of_the_library_is_wrapped(build):
+    wrapped = "".join(path.read_text() for path in Path(merovane.__file__).parent.glob("*.py"))
+    published = Path(build, "api/exports-linux.txt").read_text().split()
+    assert [name for name in published if name not in wrapped] == []
+    assert len(published) > 579
 
 
 def test_the_example_drives_a_handset(tmp_path):

@@ -9,7 +9,7 @@ import pytest
 
 import merovane
 from merovane import exports, records
-from merovane.constants import AccessWidth, Band, Cause, Result
+from merovane.constants import AccessWidth, Band, Cause, Result, Trace
 
 
 def raised(call):
@@ -196,6 +196,27 @@ def test_a_project_is_read_changed_and_made_into_an_image(merovane_phone, build,
         error = raised(lambda: project["no.such.item"])
         assert error.code == Result.PC_ERR_PATH_NOT_FOUND
     assert raised(lambda: exports.QV_GetNvValue_NvVersion_MT(merovane_phone.port)).code == Result.PC_ERR_NV_PROJECT_NOT_OPEN
+
+
+def test_what_the_library_logs_arrives_in_pythons_logging(merovane_phone, caplog, folder):
+    caplog.set_level("DEBUG", logger="merovane")
+    merovane.log_to("merovane")
+    merovane.diagnostics.set_trace(Trace.PAYLOADS)
+    try:
+        merovane_phone.write_nv(400, b"\x01\xff")
+        raised(lambda: exports.QV_ReadNv_MT(merovane_phone.port, 400, 1000, capacity=0))
+        assert merovane.diagnostics.flush(5)
+    finally:
+        merovane.log_to(None)
+        merovane.diagnostics.set_trace(Trace.OFF)
+    merovane_phone.battery_voltage
+    of_port = [record for record in caplog.records if record.name == f"merovane.port{merovane_phone.port}"]
+    lines = [record.getMessage() for record in of_port if record.levelname == "INFO"]
+    calls = [record.call for record in of_port if record.levelname == "DEBUG"]
+    assert any("WriteNv" in line for line in lines)
+    assert [(call["function"], call["result"]) for call in calls] == [("QV_WriteNv_MT", 0), ("QV_ReadNv_MT", 4)]
+    assert calls[0]["arguments"]["data"]["hex"] == "01FF"
+    assert list(folder.glob(f"Log/*/Com{merovane_phone.port}_Trace.jsonl"))
 
 
 def test_the_settings_are_those_of_the_chosen_folder(merovane_phone, folder):
