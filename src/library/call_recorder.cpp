@@ -24,7 +24,7 @@ struct Item {
   std::optional<CallRecord> call;
   std::int32_t port = 0;
   std::uint32_t thread = 0;
-  std::string line;
+  std::string line;  // of the log; of a call once it is put into words
 
   std::size_t Bytes() const { return sizeof *this + line.capacity() + (call ? call->Bytes() : 0); }
   bool IsTraced() const { return call && call->trace != MEROVANE_TRACE_OFF; }
@@ -57,12 +57,15 @@ class CallRecorder::Teller {
     std::vector<std::unique_ptr<Item>> items;
     std::map<std::int32_t, Dropped> dropped;  // by port, after the items
     std::filesystem::path folder;
+    std::atomic<std::size_t> written{0};  // of the items
   };
 
+  static void Write(Batch& batch, TraceFiles& files);
+
   bool Take(Batch& batch) MEROVANE_REQUIRES(mutex_);
-  bool WaitFor(Batch& batch);
-  void Tell(Batch& batch, TraceFiles& files);
-  void Tell(const Item& item, const std::filesystem::path& folder, TraceFiles& files);
+  // The next batch; false when it is time to end.
+  bool Wait();
+  void TellListener();
   void Listen(Merovane_Event event, std::int32_t port, const std::string& text);
 
   std::atomic<bool> stops_{false};
@@ -85,7 +88,9 @@ class CallRecorder::Teller {
   bool calling_ MEROVANE_GUARDED_BY(mutex_) = false;
   std::atomic<std::uint32_t> thread_{0};
 
-  TraceFiles files_;  // the thread's own, but for its gaps
+  // The thread's own, but for the files' gaps, until it has ended.
+  TraceFiles files_;
+  Batch batch_;
 };
 
 void CallRecorder::Teller::SetFolder(const std::filesystem::path& folder) {
@@ -131,8 +136,9 @@ bool CallRecorder::Teller::Flush(std::uint32_t limitMs) {
 
 void CallRecorder::Teller::Work() {
   thread_ = platform::CurrentThreadId();
-  for (Batch batch; WaitFor(batch);) {
-    Tell(batch, files_);
+  while (Wait()) {
+    Write(batch_, files_);
+    TellListener();
     {
       const platform::MutexLock lock(mutex_);
       ++toldBatches_;
@@ -146,6 +152,7 @@ bool CallRecorder::Teller::Take(Batch& batch) {
   if (waiting_.items.empty() && waiting_.dropped.empty()) return false;
   batch.items.clear();
   batch.dropped.clear();
+  batch.written = 0;
   std::swap(batch.items, waiting_.items);
   std::swap(batch.dropped, waiting_.dropped);
   batch.folder = waiting_.folder;
@@ -154,13 +161,12 @@ bool CallRecorder::Teller::Take(Batch& batch) {
   return true;
 }
 
-// False when it is time to end.
-bool CallRecorder::Teller::WaitFor(Batch& batch) {
+bool CallRecorder::Teller::Wait() {
   for (;;) {
     {
       const platform::MutexLock lock(mutex_);
       if (!stops_) wake_.Reset();
-      if (Take(batch)) return true;
+      if (Take(batch_)) return true;
       if (stops_) return false;
       sleeps_ = true;
     }
@@ -168,35 +174,46 @@ bool CallRecorder::Teller::WaitFor(Batch& batch) {
   }
 }
 
-void CallRecorder::Teller::Tell(Batch& batch, TraceFiles& files) {
-  for (std::unique_ptr<Item>& item : batch.items) {
+void CallRecorder::Teller::Write(Batch& batch, TraceFiles& files) {
+  // Want of memory costs single lines.
+  const auto attempt = [](const auto& step) {
     try {
-      Tell(*item, batch.folder, files);
-    } catch (...) {  // NOLINT(bugprone-empty-catch): without memory this one goes untold
+      step();
+    } catch (...) {  // NOLINT(bugprone-empty-catch): this one goes untold
+    }
+  };
+  for (std::size_t at = batch.written; at < batch.items.size(); ++at) {
+    Item& item = *batch.items[at];
+    attempt([&] {
+      if (item.call) item.line = InJson(*item.call);
+      if (item.IsTraced()) files.Line(batch.folder, item.port, item.line);
+    });
+    if (!files.IsFull() && at + 1 < batch.items.size()) continue;
+    attempt([&] { files.Open(); });
+    // Ahead of the write, which the system completes also for a thread that it kills meanwhile.
+    batch.written = at + 1;
+    attempt([&] { files.Write(); });
+  }
+  attempt([&] {
+    for (const auto& [port, dropped] : batch.dropped) {
+      if (dropped.traced != 0) files.Overrun(batch.folder, port, dropped.traced);
+    }
+    files.Write();
+  });
+  files.Close();
+}
+
+void CallRecorder::Teller::TellListener() {
+  for (std::unique_ptr<Item>& item : batch_.items) {
+    // What a listener does is not told to itself, which would never end.
+    if (item->thread != thread_ && !item->line.empty()) {
+      Listen(item->call ? MEROVANE_EVENT_CALL : MEROVANE_EVENT_LOG_LINE, item->port, item->line);
     }
     item.reset();
   }
-  try {
-    for (const auto& [port, dropped] : batch.dropped) {
-      if (dropped.traced != 0) files.Overrun(batch.folder, port, dropped.traced);
-      Listen(MEROVANE_EVENT_DROPPED, port, std::to_string(dropped.items));
-    }
-    files.Close();
-  } catch (...) {  // NOLINT(bugprone-empty-catch): as above
+  for (const auto& [port, dropped] : batch_.dropped) {
+    Listen(MEROVANE_EVENT_DROPPED, port, DroppedInJson(dropped.items));
   }
-}
-
-void CallRecorder::Teller::Tell(const Item& item, const std::filesystem::path& folder,
-                                TraceFiles& files) {
-  // What a listener does is not told to itself, which would never end.
-  const bool heard = item.thread != thread_;
-  if (!item.call) {
-    if (heard) Listen(MEROVANE_EVENT_LOG_LINE, item.port, item.line);
-    return;
-  }
-  const std::string line = InJson(*item.call);
-  if (item.IsTraced()) files.Line(folder, item.port, line);
-  if (heard) Listen(MEROVANE_EVENT_CALL, item.port, line);
 }
 
 void CallRecorder::Teller::Listen(Merovane_Event event, std::int32_t port,
@@ -224,13 +241,14 @@ void CallRecorder::Teller::Stop() {
 }
 
 void CallRecorder::Teller::WriteRest() {
+  // Not those that the thread was working on.
+  TraceFiles files;
+  if (batch_.written < batch_.items.size()) Write(batch_, files);
   if (!mutex_.TryLock()) return;
   Batch batch;
   static_cast<void>(Take(batch));
   mutex_.Unlock();
-  // Not those that the thread was working on.
-  TraceFiles files;
-  Tell(batch, files);
+  Write(batch, files);
 }
 
 CallRecorder::CallRecorder() : teller_(std::make_shared<Teller>()) {}

@@ -4,19 +4,19 @@
 #include "link/port_log.h"
 
 namespace merovane::library {
-namespace {
-
-constexpr std::size_t kMostKeptBytes = 65536;
-
-}  // namespace
-
 void TraceFiles::Line(const std::filesystem::path& home, std::int32_t number,
                       std::string_view line) {
-  Port& port = At(home, number);
+  std::filesystem::path folder = PortLog::FolderOfToday(home);
+  if (folder != folder_) {
+    Write();
+    Close();
+    folder_ = std::move(folder);
+  }
+  Port& port = ports_[number];
   port.kept += line;
   port.kept += '\n';
   ++port.keptLines;
-  if (port.kept.size() >= kMostKeptBytes) Write(number, port);
+  keptBytes_ += line.size() + 1;
 }
 
 void TraceFiles::Overrun(const std::filesystem::path& home, std::int32_t port,
@@ -25,20 +25,21 @@ void TraceFiles::Overrun(const std::filesystem::path& home, std::int32_t port,
   Note(port, 0, lines);
 }
 
-void TraceFiles::Close() {
+void TraceFiles::Open() {
   for (auto& [number, port] : ports_) {
-    Write(number, port);
-    port.file.Close();
+    if (port.kept.empty() || port.file.IsOpen()) continue;
+    static_cast<void>(port.file.Open(PathOf(number)));
   }
 }
 
-TraceFiles::Port& TraceFiles::At(const std::filesystem::path& home, std::int32_t port) {
-  std::filesystem::path folder = PortLog::FolderOfToday(home);
-  if (folder != folder_) {
-    Close();
-    folder_ = std::move(folder);
-  }
-  return ports_[port];
+void TraceFiles::Write() {
+  Open();
+  for (auto& [number, port] : ports_) Write(number, port);
+  keptBytes_ = 0;
+}
+
+void TraceFiles::Close() {
+  for (auto& [number, port] : ports_) port.file.Close();
 }
 
 std::filesystem::path TraceFiles::PathOf(std::int32_t port) const {
@@ -53,9 +54,8 @@ void TraceFiles::Write(std::int32_t number, Port& port) {
     text += GapInJson(number, port.unwritten, "the file could not be written") + '\n';
   }
   text += port.kept;
-  const bool opened = port.file.IsOpen() || port.file.Open(PathOf(number));
   const std::uint64_t before = port.file.Size();
-  if (opened && port.file.Write(text)) {
+  if (port.file.Write(text)) {
     port.unwritten = 0;
     port.endsInLine = true;
   } else {

@@ -1,6 +1,7 @@
 // The files of the trace, one for each port, and what is missing in them.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -23,11 +24,16 @@ class TraceFiles {
     std::uint64_t overrun = 0;    // they came faster than they were written
   };
 
-  // Writes a line, or keeps it until more have come or Close.
+  // Keeps a line until Write.
   void Line(const std::filesystem::path& home, std::int32_t port, std::string_view line);
   // Tells that lines were dropped ahead of the next one.
   void Overrun(const std::filesystem::path& home, std::int32_t port, std::uint64_t lines);
-  // Writes what is kept. Between calls a file may be moved away, or deleted.
+  // Whether as much is kept as is written well at once.
+  bool IsFull() const { return keptBytes_ >= kWrittenAtOnce; }
+  // Opens the files for what is kept; Write does so, too.
+  void Open();
+  void Write();
+  // Between calls a file may be moved away, or deleted.
   void Close();
 
   // For any thread.
@@ -43,12 +49,14 @@ class TraceFiles {
     bool endsInLine = true;  // false: the system took a part of a line
   };
 
-  Port& At(const std::filesystem::path& home, std::int32_t port);
+  static constexpr std::size_t kWrittenAtOnce = 65536;
+
   std::filesystem::path PathOf(std::int32_t port) const;
   void Write(std::int32_t number, Port& port);
   void Note(std::int32_t port, std::uint64_t unwritten, std::uint64_t overrun);
 
   std::filesystem::path folder_;  // of the day
+  std::size_t keptBytes_ = 0;
   std::map<std::int32_t, Port> ports_;
 
   mutable platform::Mutex mutex_;

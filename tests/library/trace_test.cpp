@@ -197,22 +197,28 @@ TEST_F(TraceTest, AListenerHearsLinesAndCallsOnAnotherThread) {
 }
 
 TEST_F(TraceTest, AListenerThatHangsHoldsNoCallUpAndTheTraceSaysWhatItCost) {
-  std::atomic<bool> released = false;
-  const auto hang = [](void* context, std::uint32_t, std::int32_t, const char*) {
-    static_cast<std::atomic<bool>*>(context)->wait(false);
+  struct Hanging {
+    std::atomic<bool> released = false;
+    std::uint64_t heard = 0;
+  } listener;
+  const auto hang = [](void* context, std::uint32_t event, std::int32_t, const char* text) {
+    auto& self = *static_cast<Hanging*>(context);
+    self.released.wait(false);
+    self.heard += event == MEROVANE_EVENT_CALL ? 1 : json::parse(text)["dropped"].get<int>();
   };
-  ASSERT_EQ(Merovane_SetListener(hang, &released), PC_ERR_SUCCESS);
+  ASSERT_EQ(Merovane_SetListener(hang, &listener), PC_ERR_SUCCESS);
   ASSERT_EQ(Merovane_SetTrace(MEROVANE_TRACE_CALLS), PC_ERR_SUCCESS);
-  constexpr std::uint64_t kCalls = 40'000;
+  constexpr std::uint64_t kCalls = 30'000;
   const auto start = std::chrono::steady_clock::now();
   for (std::uint64_t call = 0; call < kCalls; ++call) QV_LedOn_MT(kPort, 1);
   EXPECT_LT(std::chrono::steady_clock::now() - start, kPatience);
   EXPECT_EQ(Merovane_Flush(0), 0);
-  released = true;
-  released.notify_all();
+  listener.released = true;
+  listener.released.notify_all();
   const auto lines = Traced(kPort);
   const json& gap = lines.back();
   EXPECT_EQ(lines.size() - 1 + gap["missing"].get<std::uint64_t>(), kCalls);
+  EXPECT_EQ(listener.heard, kCalls);
   EXPECT_THAT(Problems(), HasSubstr("calls came faster"));
 }
 
