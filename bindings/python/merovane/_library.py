@@ -106,7 +106,7 @@ def open_library() -> ctypes.CDLL:
         library.Merovane_Version
     except (OSError, AttributeError) as error:
         if isinstance(error, AttributeError):
-            raise LibraryError(f"{path} is not this library: it has no Merovane_Version") from None
+            raise LibraryError(f"{path} has no Merovane_Version: it is another library, or an older one of this name") from None
         raise LibraryError(explain(path, error)) from None
     return library
 

@@ -1,4 +1,5 @@
 """The error that a call raises when the library reports a failure."""
+import re
 from typing import Any, Optional, Union
 
 from . import diagnostics
@@ -15,7 +16,7 @@ class MerovaneError(Exception):
     code       what the function returned: a Result, or a plain int when it is none
     name       the code's name: "PC_ERR_NO_ANSWER"
     function   the export: "QV_ReadFlash_MT"
-    operation  the operation that failed: "ReadFlash"; of a command that runs others the one of them that failed
+    operation  the operation that failed: "ReadFlash"
     advice     what happened and what to check next, in a sentence or two
     failure    everything that the library knows of it: device, system error, times, what came meanwhile
     partial    what the call had stored until then; the function's documentation says with which codes it counts
@@ -44,13 +45,20 @@ def as_result(code: int) -> Union[Result, int]:
         return code
 
 
+def bare_name(function: str) -> str:
+    """ReadFlash of QV_ReadFlash_MT."""
+    return re.sub(r"^QV_|_MT$", "", function)
+
+
 def failed(function: str, operation: int, code: int, partial: Any) -> MerovaneError:
     """The error of the call that this thread has just made."""
     failure = diagnostics.last_failure()
     if failure and (failure.function != function or failure.result != code):
         failure = None
     if failure:
-        return MerovaneError(function, diagnostics.operation_name(failure.operation), code, failure.advice, failure,
-                             partial)
-    advice = " ".join(text for text in (diagnostics.result_meaning(code), diagnostics.result_advice(code)) if text)
-    return MerovaneError(function, diagnostics.operation_name(operation), code, advice, None, partial)
+        operation, advice = failure.operation, failure.advice
+    else:
+        advice = " ".join(text for text in (diagnostics.result_meaning(code), diagnostics.result_advice(code)) if text)
+    # Not every function reports under an operation's id.
+    name = diagnostics.operation_name(operation) if operation else bare_name(function)
+    return MerovaneError(function, name, code, advice, failure, partial)

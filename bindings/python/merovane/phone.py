@@ -3,6 +3,7 @@ import contextlib
 import os
 import threading
 import time
+from concurrent.futures import ThreadPoolExecutor, wait
 from typing import Dict, Iterator, List, Union
 
 from . import _library, exports
@@ -21,6 +22,7 @@ SERIAL_NUMBER_BYTES = 24
 _FIRST_LOOK_S = 0.3
 _LOOK_S = 2.0
 _REOPEN_PAUSE_S = 0.1
+_INTERRUPTIBLE_S = 0.2
 
 _ports_lock = threading.Lock()
 _ports: Dict[str, int] = {}
@@ -321,5 +323,15 @@ def catch(port: Port, mode: Union[int, str] = "test", timeout: float = 60.0) -> 
     The device is awaited under its own name or number, 1 to 256.
     """
     number = port_number(port)
-    exports.QV_EnterModeProcessEx_MT(number, True, mode_number(mode), milliseconds(timeout))
+    with ThreadPoolExecutor(1) as pool:
+        # In a thread of its own, so that Ctrl+C is heard meanwhile.
+        process = pool.submit(exports.QV_EnterModeProcessEx_MT, number, True, mode_number(mode), milliseconds(timeout))
+        try:
+            while not wait([process], _INTERRUPTIBLE_S).done:
+                pass
+        except BaseException:
+            with contextlib.suppress(MerovaneError):
+                exports.QV_StopModeProcess_MT(number)
+            raise
+        process.result()
     return Phone(number)

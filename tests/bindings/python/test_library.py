@@ -1,9 +1,11 @@
 """A library that does not suit is told in words; and the example runs."""
 import os
 import shutil
+import signal
 import struct
 import subprocess
 import sys
+import time
 from pathlib import Path
 
 import pytest
@@ -55,7 +57,7 @@ def test_a_missing_library_or_companion_is_named(tmp_path, build):
     shutil.copy(Path(build, "bin/libthreadqueue.so"), tmp_path)
     assert run(version, MEROVANE_LIBRARY=str(tmp_path)).stdout.strip()
     other = tmp_path / "libBrimwell.so"
-    assert "is not this library" in run(version, MEROVANE_LIBRARY=str(other)).stderr
+    assert "it is another library" in run(version, MEROVANE_LIBRARY=str(other)).stderr
 
 
 def test_the_last_records_are_logged_when_the_interpreter_ends():
@@ -68,6 +70,19 @@ for _ in range(100):
 """)
     assert ended.returncode == 0
     assert len([line for line in ended.stderr.splitlines() if line.startswith("DEBUG:station:QV_SetRecvMode: done, ")]) == 100
+
+
+def test_a_wait_for_a_handset_can_be_interrupted(tmp_path):
+    waiting = subprocess.Popen([sys.executable, "-B", "-c", f"""
+import merovane
+merovane.diagnostics.version()
+print("waiting", flush=True)
+merovane.catch("{tmp_path}/never", timeout=60)
+"""], stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+    assert waiting.stdout.readline() == "waiting\n"
+    time.sleep(0.3)
+    waiting.send_signal(signal.SIGINT)
+    assert "KeyboardInterrupt" in waiting.communicate(timeout=10)[1]
 
 
 def test_every_function_of_the_library_is_wrapped(build):

@@ -48,7 +48,7 @@ def test_start_tells_what_it_saw_when_there_is_no_handset(merovane_phone, merova
     began = time.monotonic()
     error = raised(lambda: merovane_phone.start("test", timeout=0.5))
     assert time.monotonic() - began < 3
-    assert error.code == Result.PC_ERR_NO_USEFUL_DATA
+    assert (error.code, error.operation) == (Result.PC_ERR_NO_USEFUL_DATA, "SetPhoneStartModeEx")
     assert error.failure.cause == Cause.SILENT and merovane_handset.device in str(error)
 
 
@@ -145,7 +145,7 @@ def test_an_error_tells_what_failed_and_why(merovane_phone, merovane_handset):
     copy = pickle.loads(pickle.dumps(error))
     assert str(copy) == str(error) and copy.failure == error.failure
     error = raised(lambda: exports.QV_TDStopTx_MT(port))
-    assert error.code == Result.PC_ERR_NOT_SUPPORTED and error.code == -1
+    assert (error.code, error.operation) == (-1, "TDStopTx") and error.code is Result.PC_ERR_NOT_SUPPORTED
     error = raised(lambda: merovane.open("/nowhere/at/all"))
     assert error.code == Result.PC_ERR_CANNOT_OPEN_PORT and error.failure.cause == Cause.NO_DEVICE
     assert "/nowhere/at/all" in str(error)
