@@ -400,14 +400,17 @@ def wrapped_call(head, parts, tail, indent):
     one = f"{indent}{head}({', '.join(parts)}){tail}"
     if len(one) <= WIDTH:
         return one + "\n"
+    # Between arguments only.
     inner = textwrap.wrap(", ".join(part.replace(" ", "\0") for part in parts), WIDTH - len(indent) - 9,
                           break_long_words=False, break_on_hyphens=False)
-    return f"{indent}{head}(\n" + "".join(f"{indent}        {line}\n".replace("\0", " ") for line in inner).rstrip("\n") + f"){tail}\n"
+    lines = "\n".join(f"{indent}        {line}" for line in inner).replace("\0", " ")
+    return f"{indent}{head}(\n{lines}){tail}\n"
 
 
 def result_class(function):
     rows = "".join(f"    {python_name(argument.name)}: {annotation}\n" for argument, annotation, _ in function.stored)
-    return f"\n\nclass {function.result_class}(NamedTuple):\n{docstring(f'What QV_{function.export.declaration.name} stores.', '    ')}\n{rows}"
+    text = docstring(f"What QV_{function.export.declaration.name} stores.", "    ")
+    return f"\n\nclass {function.result_class}(NamedTuple):\n{text}\n{rows}"
 
 
 def function_source(function, api):
@@ -436,7 +439,8 @@ def exports_module(api):
                    if argument.type.startswith("QV_")})
     out = ['"""Every exported function under its own name, with Python values.\n\n'
            "Buffers and lengths are made here: what goes in is bytes, a text or a sequence of ints, what comes out is returned.\n"
-           'A function that fails raises MerovaneError. Those with _MT take the port; the others work on the one that was opened last.\n"""\n'
+           'A function that fails raises MerovaneError. Those with _MT take the port; the others work on the one that was '
+           'opened last.\n"""\n'
            "from ctypes import c_char, c_size_t, c_uint8, c_uint16, c_uint32\n"
            "from typing import List, NamedTuple, Optional, Sequence, Union\n\n"
            "from . import _values as _v\nfrom ._call import Export\nfrom ._values import Bytes, Text\n"

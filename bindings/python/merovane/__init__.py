@@ -7,8 +7,8 @@
         phone.imei = "490154203237518"
         print(phone.battery_voltage)
 
-Phone has what stations want most. Every exported function stands under its own name in merovane.exports, its constants in
-merovane.constants and its records in merovane.records. What fails raises MerovaneError, which says why.
+Phone has what stations want most. Every exported function stands under its own name in merovane.exports, its constants
+in merovane.constants and its records in merovane.records. What fails raises MerovaneError, which says why.
 """
 from . import constants, diagnostics, events, exports, records
 from .constants import Band, Cause, Result
@@ -19,5 +19,5 @@ from .phone import NvProject, Phone, catch
 from .phone import open_phone as open
 from .simulator import SimulatedHandset
 
-__all__ = ["Band", "Cause", "Event", "LibraryError", "MerovaneError", "NvProject", "Phone", "Result", "SimulatedHandset",
-           "catch", "constants", "diagnostics", "events", "exports", "log_to", "open", "records"]
+__all__ = ["Band", "Cause", "Event", "LibraryError", "MerovaneError", "NvProject", "Phone", "Result",
+           "SimulatedHandset", "catch", "constants", "diagnostics", "events", "exports", "log_to", "open", "records"]

@@ -62,7 +62,7 @@ def check_image(path: Path) -> None:
     if kind == own:
         return
     if kind == "no library":
-        raise LibraryError(f"{path} is no library: the file is damaged, or MEROVANE_LIBRARY names another one by mistake")
+        raise LibraryError(f"{path} is no library: it is damaged, or MEROVANE_LIBRARY names another file by mistake")
     raise LibraryError(f"{path} is built for {kind}, but this Python ({sys.executable}) is {own}. "
                        "Install the wheel that was made for this Python, or name the right library in MEROVANE_LIBRARY")
 
@@ -106,7 +106,7 @@ def open_library() -> ctypes.CDLL:
         library.Merovane_Version
     except (OSError, AttributeError) as error:
         if isinstance(error, AttributeError):
-            raise LibraryError(f"{path} has no Merovane_Version: it is another library, or an older one of this name") from None
+            raise LibraryError(f"{path} has no Merovane_Version: it is another library, or an older version") from None
         raise LibraryError(explain(path, error)) from None
     return library
 

@@ -7,12 +7,10 @@ import operator
 import os
 import sys
 from ctypes import c_char, c_int32, c_size_t, c_uint8, c_uint16, c_uint32
-from typing import (Any, ClassVar, Generic, List, Optional, Sequence, SupportsIndex, Tuple, TypeVar,
-                    Union)
+from typing import Any, ClassVar, Generic, List, Optional, Sequence, SupportsIndex, Tuple, TypeVar, Union
 
 Text = Union[str, bytes, "os.PathLike[str]"]
 Bytes = Union[bytes, bytearray, memoryview]
-Word = Union[int, str, bytes]
 R = TypeVar("R", bound="Record")
 
 _SIZES = {c_uint8: (0, 0xFF), c_uint16: (0, 0xFFFF), c_uint32: (0, 0xFFFFFFFF), c_int32: (-0x80000000, 0x7FFFFFFF),
@@ -47,7 +45,7 @@ def flag(name: str, value: Any) -> int:
     return 1 if value else 0
 
 
-def encode(name: str, text: Text) -> bytes:
+def encode(text: Text) -> bytes:
     """A text in the system's narrow encoding, as the library takes texts and paths."""
     raw = os.fspath(text)
     if isinstance(raw, str):
@@ -63,7 +61,7 @@ def decode(raw: bytes) -> str:
 
 
 def text(name: str, value: Text) -> bytes:
-    raw = encode(name, value)
+    raw = encode(value)
     if b"\0" in raw:
         raise ValueError(f"{name} holds a zero, where the library would take it to end")
     return raw
@@ -88,16 +86,18 @@ class Cell:
 class Array:
     """Elements that a function reads or stores."""
 
-    def __init__(self, kind: Any, count: int) -> None:
-        self._memory = (kind * count)()
+    def __init__(self, kind: Any, content: Union[int, bytes, List[int]]) -> None:
+        """`content` is what they are, or how many zeros."""
+        if isinstance(content, int):
+            self._memory = (kind * content)()
+        elif isinstance(content, bytes):
+            self._memory = (kind * len(content)).from_buffer_copy(content)
+        else:
+            self._memory = (kind * len(content))(*content)
         self._as_parameter_ = self._memory
 
     def __len__(self) -> int:
         return len(self._memory)
-
-    def set(self, values: Any) -> "Array":
-        self._memory[:] = values
-        return self
 
     def bytes(self, count: Optional[int] = None) -> bytes:
         return bytes(memoryview(self._memory).cast("B")[:len(self._memory) if count is None else count])
@@ -115,19 +115,18 @@ def byte_array(name: str, data: Bytes, count: Optional[int] = None) -> Array:
     view = memoryview(data).cast("B")
     if count is not None and len(view) != count:
         raise ValueError(f"{name} has {len(view)} bytes: it must have {count}")
-    return Array(c_uint8, len(view)).set(bytes(view))
+    return Array(c_uint8, view.tobytes())
 
 
 def character_array(name: str, value: Text) -> Array:
-    raw = encode(name, value)
-    return Array(c_char, len(raw)).set(raw)
+    return Array(c_char, encode(value))
 
 
 def number_array(name: str, kind: Any, values: Sequence[int], count: Optional[int] = None) -> Array:
     numbers = [integer(kind, f"{name}[{at}]", value) for at, value in enumerate(values)]
     if count is not None and len(numbers) != count:
         raise ValueError(f"{name} has {len(numbers)} values: it must have {count}")
-    return Array(kind, len(numbers)).set(numbers)
+    return Array(kind, numbers)
 
 
 def room(name: str, count: SupportsIndex) -> int:
@@ -169,7 +168,7 @@ def to_memory(name: str, kind: Any, value: Any) -> Any:
     if not issubclass(kind, ctypes.Array):
         return integer(kind, name, value)
     element: Any = kind._type_
-    raw = encode(name, value) if element is c_char else value
+    raw = encode(value) if element is c_char else value
     if len(raw) > kind._length_:
         raise ValueError(f"{name} has {len(raw)} elements: at most {kind._length_} fit")
     if element is c_char:
@@ -199,6 +198,8 @@ class RecordMemory(Generic[R]):
     """The memory of a record that a function reads or stores."""
 
     def __init__(self, record: R) -> None:
+        if not isinstance(record, Record):
+            raise TypeError(f"a record is expected, not {record!r}")
         self._kind = type(record)
         layout = self._kind.Layout
         name = self._kind.__name__

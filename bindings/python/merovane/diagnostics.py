@@ -60,8 +60,8 @@ def last_failure(port: int = 0) -> Optional[Failure]:
     """The last call that failed on a port, or with 0 in this thread; None when none has."""
     memory: Any = Failure.Layout()
     memory.struct_bytes = ctypes.sizeof(memory)
-    found = _function("Merovane_LastFailure", ctypes.c_int32, ctypes.c_int32, ctypes.c_void_p)(port, ctypes.byref(memory))
-    if not found:
+    find = _function("Merovane_LastFailure", ctypes.c_int32, ctypes.c_int32, ctypes.c_void_p)
+    if not find(port, ctypes.byref(memory)):
         return None
     values: Dict[str, Any] = {}
     for name, _ in Failure.Layout._fields_:
@@ -107,6 +107,8 @@ def set_trace(trace: int) -> None:
 
 
 def flush(timeout: float) -> bool:
-    """Waits until all calls that have returned are in the trace and in Python's logging; False when `timeout` seconds were not enough.
+    """Waits until all calls that have returned are in the trace and in Python's logging.
+
+    False when `timeout` seconds were not enough.
     """
     return bool(_function("Merovane_Flush", ctypes.c_int32, ctypes.c_uint32)(round(timeout * 1000)))

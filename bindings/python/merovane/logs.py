@@ -19,8 +19,8 @@ _listener: Any = None
 
 
 def log_to(logger: Optional[Union[str, logging.Logger]] = "merovane") -> None:
-    """Has log lines go to the logger's child of their port, as "merovane.port5", at INFO, and each call of an exported function
-    at DEBUG: with its result, its time, and as `record.call` all that docs/trace.md tells of it. None ends that.
+    """Has log lines go to the logger's child of their port, as "merovane.port5", at INFO, and each call of an exported
+    function at DEBUG: with its result, its time, and as `record.call` all that the trace has of it. None ends that.
 
     Records arrive on a thread of the library's, a moment after the call; diagnostics.flush() waits for them.
     """

@@ -29,7 +29,7 @@ _ports: Dict[str, int] = {}
 
 
 def port_number(port: Port) -> int:
-    """The number of a port that is given by number, by name ("COM5") or as a device ("/dev/ttyUSB0", "socket://host:port").
+    """The number of a port that is given by number, by name ("COM5") or as a device ("/dev/ttyUSB0").
 
     A device gets a number of its own, which stays the same as long as the program runs; its logs go by it.
     """
@@ -44,7 +44,7 @@ def port_number(port: Port) -> int:
             free = next((number for number in _library.NAMED_PORTS
                          if number not in _ports.values() and not os.environ.get(f"CASSORIND_COM{number}")), None)
             if free is None:
-                raise ValueError(f"{device}: {len(_ports)} devices have been opened by name, and no more port numbers are free")
+                raise ValueError(f"{device}: no port number is left, {len(_ports)} devices have one")
             os.environ[f"CASSORIND_COM{free}"] = device
             _ports[device] = free
         return _ports[device]

@@ -16,7 +16,8 @@ def find_program() -> str:
     beside = Path(__file__).resolve().parent / PROGRAM
     found = named or (str(beside) if beside.exists() else shutil.which(PROGRAM))
     if not found:
-        raise FileNotFoundError(f"there is no {PROGRAM} in {beside.parent} or on the path; MEROVANE_HANDSET can name one")
+        raise FileNotFoundError(
+            f"there is no {PROGRAM} in {beside.parent} or on the path; MEROVANE_HANDSET can name one")
     return found
 
 

@@ -45,6 +45,7 @@ def test_an_unpacked_wheel_is_all_that_a_station_test_needs(build, tmp_path):
             Path(archive.extract(entry, site)).chmod(entry.external_attr >> 16 & 0o777)
     (tmp_path / "test_station.py").write_text(STATION_TEST.format(version=version))
     environment = {name: value for name, value in os.environ.items() if not name.startswith(("MEROVANE", "CASSORIND"))}
-    ended = subprocess.run([sys.executable, "-B", "-m", "pytest", "-q", "-p", "no:cacheprovider", str(tmp_path / "test_station.py")],
-                           env={**environment, "PYTHONPATH": str(site)}, cwd=tmp_path, capture_output=True, text=True, timeout=60)
+    ended = subprocess.run([sys.executable, "-B", "-m", "pytest", "-q", "-p", "no:cacheprovider", "test_station.py"],
+                           env={**environment, "PYTHONPATH": str(site)}, cwd=tmp_path, capture_output=True, text=True,
+                           timeout=60)
     assert ended.returncode == 0 and "1 passed" in ended.stdout, ended.stdout + ended.stderr
