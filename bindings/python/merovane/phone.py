@@ -87,10 +87,15 @@ class Phone:
     What is not here is in merovane.exports: `exports.QV_PressKeyboard_MT(phone.port, 5)`.
     """
 
-    def __init__(self, port: int, baud_rate: int = BAUD_RATE) -> None:
+    def __init__(self, port: int, baud_rate: int = BAUD_RATE, default: bool = False) -> None:
         """For a port that is open. open() opens one."""
         self.port = port
         self._baud_rate = baud_rate
+        self._default = default
+
+    def _begin(self) -> None:
+        begin = exports.QV_BeginPhoneTest if self._default else exports.QV_BeginPhoneTest_MT
+        begin(self.port, self._baud_rate)
 
     def close(self) -> None:
         """Closes the port. A call that another thread has in it returns at once."""
@@ -144,7 +149,7 @@ class Phone:
         while True:
             time.sleep(_REOPEN_PAUSE_S)
             try:
-                exports.QV_BeginPhoneTest_MT(self.port, self._baud_rate)
+                self._begin()
                 return
             except MerovaneError as error:
                 if error.code != Result.PC_ERR_CANNOT_OPEN_PORT or time.monotonic() >= deadline:
@@ -312,9 +317,9 @@ def open_phone(port: Port, baud_rate: int = BAUD_RATE, *, default: bool = False)
 
     `default` makes it also the one on which the functions without _MT work.
     """
-    number = port_number(port)
-    (exports.QV_BeginPhoneTest if default else exports.QV_BeginPhoneTest_MT)(number, baud_rate)
-    return Phone(number, baud_rate)
+    phone = Phone(port_number(port), baud_rate, default)
+    phone._begin()
+    return phone
 
 
 def catch(port: Port, mode: Union[int, str] = "test", timeout: float = 60.0) -> Phone:

@@ -124,11 +124,13 @@ def test_calibration_data_pass_both_ways(merovane_phone):
         exports.QV_AgcStart_MT(port, True, records.AgcParameters(words=[62, 200]))
 
 
+@pytest.mark.merovane_handset("--vanish-ms", "200")
 def test_functions_for_the_default_port_work_on_it(merovane_handset):
     with merovane.open(merovane_handset.device, default=True) as phone:
-        merovane_handset.command("fault delay=next:1,ms:20")
         assert exports.QV_ReadPhoneVolt() == pytest.approx(phone.battery_voltage, abs=50)
-        assert exports.QV_RW_RF_EDGE_DELTA_TIMING.__doc__
+        # The port is opened anew meanwhile.
+        phone.start(4, timeout=10)
+        assert exports.QV_ReadPhoneVolt() > 3000
     assert raised(exports.QV_ReadPhoneVolt).code == Result.PC_ERR_PORT_NOT_OPEN
 
 
