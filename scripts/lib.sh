@@ -73,6 +73,9 @@ build_preset() {
 
 ctest_preset() { ctest --preset "$1" --no-tests=error --parallel "$(nproc)"; }
 
+# as_windows PATH: as a Windows program knows it under Wine
+as_windows() { printf 'Z:%s\n' "${1//\//\\}"; }
+
 now_ms() { date +%s%3N; }
 
 # seconds_since START_MS, with one decimal
