@@ -3,10 +3,11 @@
 option(MEROVANE_PACKAGE_BUILD "Build what packages hold" OFF)
 
 if(MEROVANE_PACKAGE_BUILD)
-  # Files are named from the top of the sources, whether by ccache they are reached from the build
-  # folder or not.
+  # Sources are named from the top of their folder and generated files from that of the build's,
+  # whether ccache reaches them from the build folder or not. The last map that fits counts.
   file(RELATIVE_PATH up ${CMAKE_BINARY_DIR} ${CMAKE_SOURCE_DIR})
-  add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}/= -ffile-prefix-map=${up}=)
+  add_compile_options(
+    -ffile-prefix-map=${up}= -ffile-prefix-map=${CMAKE_SOURCE_DIR}/= -ffile-prefix-map=${CMAKE_BINARY_DIR}/=)
   if(WIN32)
     add_link_options(-Wl,--no-insert-timestamp)
   endif()
