@@ -30,6 +30,7 @@ def class_name(name):
 
 
 def record_name(name):
+    """An element is called in the singular of the field that holds it."""
     return class_name(name[:-1] if name.endswith("REGIONS") else name)
 
 

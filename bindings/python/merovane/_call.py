@@ -21,7 +21,7 @@ class Export:
         self._function: Any = None
 
     def call(self, *arguments: Any) -> int:
-        """What the function returns; 0 for one that returns nothing."""
+        """What the function returns; any number for one that returns nothing."""
         function = self._function
         if function is None:
             try:

@@ -7,7 +7,7 @@ import struct
 import sys
 import threading
 from pathlib import Path
-from typing import Any, List, Optional
+from typing import Any, Optional
 
 WINDOWS = sys.platform == "win32"
 LIBRARY_NAME = "Merovane.dll" if WINDOWS else "libMerovane.so"
@@ -67,15 +67,14 @@ def check_image(path: Path) -> None:
                        "Install the wheel that was made for this Python, or name the right library in MEROVANE_LIBRARY")
 
 
-def candidates() -> List[str]:
-    """Where the library is looked for, in order."""
+def library_file() -> str:
+    """The file to load. A name without a folder the system finds, or not, where it looks for every library."""
     named = os.environ.get("MEROVANE_LIBRARY")
     if named:
         path = Path(named)
-        return [str(path / LIBRARY_NAME if path.is_dir() else path)]
+        return os.path.abspath(path / LIBRARY_NAME if path.is_dir() else path)
     beside = Path(__file__).resolve().parent / LIBRARY_NAME
-    # Without a folder the system looks where it looks for every library.
-    return [str(beside), LIBRARY_NAME] if beside.exists() else [LIBRARY_NAME]
+    return str(beside) if beside.exists() else LIBRARY_NAME
 
 
 def explain(path: str, error: OSError) -> str:
@@ -91,10 +90,8 @@ def explain(path: str, error: OSError) -> str:
 
 
 def open_library() -> ctypes.CDLL:
-    path = candidates()[0]
+    path = library_file()
     if os.path.dirname(path):
-        # The loader sees a relative path from elsewhere.
-        path = os.path.abspath(path)
         if not os.path.exists(path):
             raise LibraryError(f"there is no library at {path}, which MEROVANE_LIBRARY names")
         for file in [Path(path), *(Path(path).parent / name for name in COMPANION_NAMES)]:
