@@ -482,7 +482,8 @@ def sweep(api, enumerations):
         values += ["out _"] * len(outs(shape))
         kind = "Session" if export.declaration.kind == "session" else "Command"
         out.append(f'        {kind}("{export.name}", () => QV.{method_name(export)}({", ".join(values)}));\n')
-    return "".join(out) + "    }\n}\n"
+    names = ", ".join(f'"{function.name}"' for function in api.diagnostics)
+    return "".join(out) + f"    }}\n\n    static readonly string[] diagnostics = {{ {names} }};\n}}\n"
 
 
 def outputs(api, headers):

@@ -1,5 +1,7 @@
-// What the process asks of the library itself: version, settings, the words for results.
+// What the process asks of the library itself: version, settings, the words for results, calls as they are made.
 using System;
+using System.Collections.Generic;
+using System.Runtime.InteropServices;
 using System.Text;
 
 namespace Merovane
@@ -53,9 +55,88 @@ namespace Merovane
         /// is none.</summary>
         public static Failure LastFailure(int port)
         {
-            var failure = new Failure { StructBytes = (uint)System.Runtime.InteropServices.Marshal.SizeOf(typeof(Failure)) };
+            var failure = new Failure { StructBytes = (uint)Marshal.SizeOf(typeof(Failure)) };
             return Native.Merovane_LastFailure(port, failure) != 0 ? failure : null;
         }
+
+        /// <summary>Switches the trace of all calls, which stands beside the logs.</summary>
+        public static void SetTrace(Trace trace) => MerovaneException.Check(Native.Merovane_SetTrace((uint)trace));
+
+        /// <summary>Waits until all calls that have returned are in the trace and told to the listener; false
+        /// when they are not within the time.</summary>
+        public static bool Flush(TimeSpan limit) => Native.Merovane_Flush((uint)limit.TotalMilliseconds) != 0;
+
+        /// <summary>Tells a listener, in place of the former one, of log lines and of calls as they end: what it
+        /// is, the port, and a line of the log or a JSON object. It is called on a thread of the library's own;
+        /// what it throws is lost. Null: nobody listens.</summary>
+        public static void Listen(Action<Event, int, string> listener)
+        {
+            Native.Listener told = null;
+            if (listener != null)
+            {
+                told = (context, kind, port, text) => Tell(listener, (Event)kind, port, text);
+                Keep(told);
+            }
+            MerovaneException.Check(Native.Merovane_SetListener(told, IntPtr.Zero));
+        }
+
+        private static readonly List<Native.Listener> kept = new List<Native.Listener>();
+
+        // The library cannot keep a listener from being collected, and one that replaces itself is still running.
+        private static void Keep(Native.Listener listener)
+        {
+            lock (kept)
+            {
+                if (kept.Count == 0)
+                    AppDomain.CurrentDomain.ProcessExit += (sender, arguments) => EndListening();
+                kept.Add(listener);
+            }
+        }
+
+        private static void EndListening()
+        {
+            Native.Merovane_SetListener(null, IntPtr.Zero);
+            // Mono waits for the end of every thread that was in managed code, and the library's goes on.
+            if (Type.GetType("Mono.Runtime") == null || IsWindows)
+                return;
+            Native.Merovane_Flush(1000);
+            _exit(Environment.ExitCode);
+        }
+
+        private static void Tell(Action<Event, int, string> listener, Event kind, int port, IntPtr text)
+        {
+            try
+            {
+                PrepareThread();
+                listener(kind, port, Utf8((byte*)text));
+            }
+            catch (Exception)
+            {
+                // The library's thread cannot take it.
+            }
+        }
+
+        [ThreadStatic]
+        private static bool prepared;
+
+        // The thread is the library's, which blocks all signals; by those runtimes stop threads to collect garbage.
+        private static void PrepareThread()
+        {
+            if (prepared)
+                return;
+            const int SetMask = 2;
+            if (!IsWindows)
+                pthread_sigmask(SetMask, new byte[128], IntPtr.Zero);
+            prepared = true;
+        }
+
+        private static bool IsWindows => Environment.OSVersion.Platform == PlatformID.Win32NT;
+
+        [DllImport("libc")]
+        private static extern void _exit(int code);
+
+        [DllImport("libc")]
+        private static extern int pthread_sigmask(int how, byte[] signals, IntPtr former);
 
         private static string Utf8(byte* text)
         {
@@ -63,7 +144,7 @@ namespace Merovane
             while (text[length] != 0)
                 ++length;
             var bytes = new byte[length];
-            System.Runtime.InteropServices.Marshal.Copy((IntPtr)text, bytes, 0, length);
+            Marshal.Copy((IntPtr)text, bytes, 0, length);
             return Encoding.UTF8.GetString(bytes);
         }
 

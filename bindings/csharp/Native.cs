@@ -42,5 +42,18 @@ namespace Merovane
 
         [DllImport(LibraryName, ExactSpelling = true, CallingConvention = CallingConvention.Winapi)]
         public static extern uint Merovane_Settings(byte* text, uint capacity);
+
+        [DllImport(LibraryName, ExactSpelling = true, CallingConvention = CallingConvention.Winapi)]
+        public static extern int Merovane_SetTrace(uint trace);
+
+        /// <summary>On a thread of the library's own; no exception may leave it.</summary>
+        [UnmanagedFunctionPointer(CallingConvention.Winapi)]
+        public delegate void Listener(IntPtr context, uint kind, int port, IntPtr text);
+
+        [DllImport(LibraryName, ExactSpelling = true, CallingConvention = CallingConvention.Winapi)]
+        public static extern int Merovane_SetListener(Listener listener, IntPtr context);
+
+        [DllImport(LibraryName, ExactSpelling = true, CallingConvention = CallingConvention.Winapi)]
+        public static extern int Merovane_Flush(uint timeLimitMs);
     }
 }

@@ -76,6 +76,8 @@ static partial class Sweep
             .Select(method => method.Name).Where(name => name.StartsWith("QV_")).ToList();
         Tests.ExpectEqual(exports.Count, 579, "functions");
         Tests.Expect(called.SetEquals(exports), "all of them were called");
+        foreach (var name in diagnostics)
+            Tests.Expect(typeof(Native).GetMethod(name) != null, name);
     }
 
     // Without its port a command does nothing, and says that it was this one.
@@ -107,6 +109,7 @@ static class SessionTests
             phone.Start(1);
             Values(phone);
             Failures(phone);
+            Listening(phone);
             Events(phone);
         }
         Tests.ExpectEqual(Tests.FailureOf(() => QV.ReadMode_MT(port, 4))?.Code, Result.PortNotOpen, "after the using block");
@@ -192,6 +195,30 @@ static class SessionTests
         }
         catch (T)
         {
+        }
+    }
+
+    static void Listening(Phone phone)
+    {
+        var heard = new List<string>();
+        Library.Listen((kind, port, text) =>
+        {
+            lock (heard)
+                heard.Add($"{kind} {port} {text}");
+            throw new InvalidOperationException("is lost");
+        });
+        phone.GetChipID();
+        Tests.Expect(Library.Flush(TimeSpan.FromSeconds(10)), "all was told");
+        // It stops the library's thread, which has been in here now.
+        GC.Collect();
+        Library.Listen(null);
+        phone.GetChipType();
+        Tests.Expect(Library.Flush(TimeSpan.FromSeconds(10)), "nothing is left to tell");
+        lock (heard)
+        {
+            Tests.Expect(heard.Any(line => line.StartsWith($"LogLine {phone.Port} ") && line.Contains("GetChipID")), "log line");
+            Tests.Expect(heard.Any(line => line.StartsWith($"Call {phone.Port} {{") && line.Contains("\"QV_GetChipID_MT\"")), "call");
+            Tests.Expect(!heard.Any(line => line.Contains("GetChipType")), "nobody listens");
         }
     }
 
