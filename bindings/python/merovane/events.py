@@ -14,6 +14,8 @@ class Event:
     It must outlive the mode process: stop that (QV_StopModeProcess) before closing the event early.
     """
 
+    handle = 0
+
     def __init__(self) -> None:
         self.handle = _create()
 
