@@ -15,8 +15,9 @@ namespace {
 
 // What waits to be told takes at most so much memory, and once more so much what is being told.
 constexpr std::size_t kMostWaitingBytes = std::size_t{16} * 1024 * 1024;
-// After telling, the thread rests: calls that come close together wake it once.
-constexpr std::uint32_t kRestMs = 10;
+// How often the thread looks for calls. Waking it for each would cost a call that comes after a
+// pause 20 us, against 1 us for the rest of its record.
+constexpr std::uint32_t kLookMs = 10;
 constexpr std::uint32_t kEndLimitMs = 1000;
 
 // A call, or a log line.
@@ -41,6 +42,8 @@ class CallRecorder::Teller {
  public:
   void SetFolder(const std::filesystem::path& folder);
   void SetListener(Merovane_Listener listener, void* context);
+  // Whether calls or lines are to be expected.
+  void SetExpecting(bool expecting);
   void Add(std::unique_ptr<Item> item);
   bool Flush(std::uint32_t limitMs);
   std::vector<TraceFiles::Gap> Gaps() const { return files_.Gaps(); }
@@ -69,14 +72,14 @@ class CallRecorder::Teller {
   void Listen(Merovane_Event event, std::int32_t port, const std::string& text);
 
   std::atomic<bool> stops_{false};
-  // Wakes the thread from its sleep, and from its rest when somebody waits for it.
+  std::atomic<bool> expects_{false};
+  // Wakes the thread when somebody waits for it, and when nothing was expected.
   platform::Event wake_;
 
   platform::Mutex mutex_;
   platform::ConditionVariable told_;
   Batch waiting_ MEROVANE_GUARDED_BY(mutex_);
   std::size_t waitingBytes_ MEROVANE_GUARDED_BY(mutex_) = 0;
-  bool sleeps_ MEROVANE_GUARDED_BY(mutex_) = false;
   // How many batches were begun, and told whole.
   std::uint64_t begunBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
   std::uint64_t toldBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
@@ -118,7 +121,12 @@ void CallRecorder::Teller::Add(std::unique_ptr<Item> item) {
   }
   waiting_.items.push_back(std::move(item));
   waitingBytes_ += bytes;
-  if (std::exchange(sleeps_, false)) wake_.Set();
+  if (!expects_) wake_.Set();
+}
+
+void CallRecorder::Teller::SetExpecting(bool expecting) {
+  expects_ = expecting;
+  wake_.Set();
 }
 
 bool CallRecorder::Teller::Flush(std::uint32_t limitMs) {
@@ -144,7 +152,6 @@ void CallRecorder::Teller::Work() {
       ++toldBatches_;
       told_.NotifyAll();
     }
-    static_cast<void>(wake_.WaitMs(kRestMs));
   }
 }
 
@@ -163,14 +170,11 @@ bool CallRecorder::Teller::Take(Batch& batch) {
 
 bool CallRecorder::Teller::Wait() {
   for (;;) {
-    {
-      const platform::MutexLock lock(mutex_);
-      if (!stops_) wake_.Reset();
-      if (Take(batch_)) return true;
-      if (stops_) return false;
-      sleeps_ = true;
-    }
-    static_cast<void>(wake_.WaitMs(UINT32_MAX));
+    static_cast<void>(wake_.WaitMs(stops_ ? 0 : expects_ ? kLookMs : UINT32_MAX));
+    const platform::MutexLock lock(mutex_);
+    if (!stops_) wake_.Reset();
+    if (Take(batch_)) return true;
+    if (stops_) return false;
   }
 }
 
@@ -268,12 +272,19 @@ void CallRecorder::SetFolder(const std::filesystem::path& folder) { teller_->Set
 bool CallRecorder::SetTrace(Merovane_Trace trace) {
   if (trace != MEROVANE_TRACE_OFF && !Start()) return false;
   trace_ = trace;
+  teller_->SetExpecting(WantsCalls());
   return true;
+}
+
+void CallRecorder::SetTraceAtLoad(Merovane_Trace trace) {
+  trace_ = trace;
+  teller_->SetExpecting(WantsCalls());
 }
 
 bool CallRecorder::SetListener(Merovane_Listener listener, void* context) {
   if (listener && !Start()) return false;
   listens_ = listener != nullptr;
+  teller_->SetExpecting(WantsCalls());
   teller_->SetListener(listener, context);
   return true;
 }

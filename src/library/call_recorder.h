@@ -36,7 +36,7 @@ class CallRecorder final : public LogObserver {
   // False when the system gives no thread.
   bool SetTrace(Merovane_Trace trace);
   // The same while the library is being loaded: no thread begins before the first call.
-  void SetTraceAtLoad(Merovane_Trace trace) { trace_ = trace; }
+  void SetTraceAtLoad(Merovane_Trace trace);
   Merovane_Trace Trace() const { return static_cast<Merovane_Trace>(trace_.load()); }
   // When it returns, the former listener is not being called, unless it calls this itself. False
   // when the system gives no thread.
