@@ -130,8 +130,10 @@ def results(export, api):
     if reasons or "InvalidParam" in own:
         text = "; ".join(reasons + ([own.pop("InvalidParam")] if "InvalidParam" in own else []))
         found.append(("InvalidParam", text))
-    if declaration.kind == "project" and "holder" not in declaration.flags:
-        own.setdefault("NvProjectNotOpen", "no NV project is open")
+    if declaration.kind == "project":
+        own.setdefault("PortNotOpen", "the port has no session")
+        if "holder" not in declaration.flags:
+            own.setdefault("NvProjectNotOpen", "no NV project is open")
     for internal, text in own.items():
         found.append((internal, text))
     found.sort(key=lambda row: api.result(row[0]).code)

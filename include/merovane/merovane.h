@@ -4768,6 +4768,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SendTDNonSignalCmd_MT(int32_t port);
  *   MODULE line that is not absolute, with PC_ERR_SUCCESS and the modules read so far, mostly none.
  *   Absolute is a path with a drive or a share's name on Windows, and one with a leading "/"
  *   elsewhere
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `path` is null
  * @retval PC_ERR_OPEN_NV_PROJECT_FAILED  the project names no module, or it or one of its modules
  *   cannot be read: no project is open then
@@ -4785,7 +4786,8 @@ MEROVANE_API int32_t MEROVANE_CALL QV_OpenPrjFile_MT(
     int32_t port, MEROVANE_IN_TEXT const char *path);
 
 /** Closes the phone object's NV project. Changes that were not put into an image are lost.
- * @return 0 (PC_ERR_SUCCESS) */
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
+ * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile(void);
 
 /** QV_ClosePrjFile for the port `port`, with the same results. Closes the phone object's NV
@@ -4799,6 +4801,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ClosePrjFile_MT(int32_t port);
  * @param text  `capacity` bytes; all of the room is written: the content, cut to fit, then zeros. A
  *   content that fills the room has no terminating zero, and is cut with PC_ERR_SUCCESS
  * @param capacity  1 to 2147483647; room at `text`; 256 hold every content
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `capacity` outside 1 to 2147483647
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
@@ -4823,6 +4826,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_MT(
  * @param path  as in QV_GetNvValue
  * @param text  up to its zero; of a longer one the first 255 characters. Numbers are decimal or,
  *   with an "x" in them, hexadecimal. What the item's type does not hold is taken all the same
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
@@ -4845,6 +4849,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_MT(
  * and zeros where it would stand; one inside a structure or an array takes no room.
  * @param buffer  65536 bytes; takes the image; what follows it becomes zero
  * @param length  of the image in bytes
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_BUFFER_TOO_SMALL  the image would be larger: nothing is written
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
@@ -4866,6 +4871,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GenerateNvBianryDataBlockInMemory_MT(
  * @retval PC_ERR_SUCCESS  also when the file cannot be written, or the project names none: the old
  *   file stays whole, and a message box says so, for whose OK the call waits on Windows; elsewhere
  *   it is a line on standard error
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_BUFFER_TOO_SMALL  the image would pass 65,536 bytes: the file is left as it was
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4877,6 +4883,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SaveToBinaryFile(void);
  *   item's data; 0 for a top-level scalar or array. For a structure, and for an array inside one,
  *   the widest alignment (0, 1, 2 or 4): ask for its first element. No size is told, whatever the
  *   function's name says
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @retval PC_ERR_PATH_NOT_FOUND  there is no item of that path
@@ -4904,6 +4911,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetItemOffsetAndSize_MT(
  *   as one byte of its own: begin at its first member. An unknown path changes nothing
  * @param data  converted in place (`length` bytes)
  * @param length  how many bytes (1 to 2147483647)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `length` outside 1 to 2147483647
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4930,6 +4938,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_ConvertDataByDataType_MT(
  * @param gain_index  the maximum RF gain index
  * @param rx_boundary  channel numbers (4 values)
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4957,6 +4966,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Agc_MT(
  * @param gain_index  the maximum RF gain index
  * @param rx_compensation  between the receive boundaries (5 values)
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -4985,6 +4995,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Agc_MT(
  * @param tx_boundary  channel numbers (4 values)
  * @param step_factor  as the items have them (80 values)
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5013,6 +5024,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Apc_MT(
 /** Writes a band's step factors.
  * @param step_factor  as QV_GetNvValue_Apc reads them (80 values)
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `step_factor` is null; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5030,6 +5042,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Apc_MT(
  * @param step_factor  as QV_GetNvValue_Apc reads them (80 values)
  * @param band  not as elsewhere: 0 GSM, 1 DCS, 3 PCS, 4 GSM850; another one reads nothing, with
  *   PC_ERR_SUCCESS
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `step_factor` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5038,6 +5051,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Factor(
 
 /** Reads the version of the calibration parameters.
  * @param version  as the item has it, read as hexadecimal
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5053,6 +5067,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_MT(
 
 /** Reads the same version as QV_GetNvValue_NvVersion.
  * @param version  as the item has it, read as hexadecimal
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `version` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5070,6 +5085,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_NvVersion_TD_MT(
  * lacks is the first one.
  * @param adc  the ADC's points (2 values)
  * @param battery  the battery's points (2 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5089,6 +5105,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_1_MT(
 /** Writes the calibration points of the ADC and of the battery.
  * @param adc  the ADC's points (2 values)
  * @param battery  the battery's points (2 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5107,6 +5124,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_1_MT(
 
 /** Reads the charger's voltage table.
  * @param voltage_table  as the items have it (16 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5122,6 +5140,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Adc_2_MT(
 
 /** Writes the charger's voltage table.
  * @param voltage_table  as the items have it (16 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `voltage_table` is null
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5138,6 +5157,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Adc_2_MT(
 /** Reads the AFC centre and slope.
  * @param center  the centre
  * @param slope  in Hz, for a step of 6 bits
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5156,6 +5176,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_1_MT(
 /** Writes the AFC centre and slope.
  * @param center  the centre
  * @param slope  in Hz, for a step of 6 bits
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
 MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1(uint16_t center, uint16_t slope);
@@ -5174,6 +5195,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_1_MT(
  * @param afc_range  of each slope (16 values)
  * @param slope_value  of each range (16 values)
  * @param slope_reciprocal  of each slope (16 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5204,6 +5226,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Afc_2_MT(
  * @param afc_range  of each slope (16 values)
  * @param slope_value  of each range (16 values)
  * @param slope_reciprocal  of each slope (16 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5230,6 +5253,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_Afc_2_MT(
  * @param agc_words  its agc_ctrl_word (91 values)
  * @param gain_index  its max_rf_gain_index
  * @param step_factor  its rf_ramppwr_step_factor (80 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5250,6 +5274,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_DSP_Use_TD_MT(
  * @param agc_words  as QV_GetNvValue_DSP_Use_TD reads them, as are the others (91 values)
  * @param gain_index  the maximum RF gain index
  * @param step_factor  as the items have them (80 values)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  a null pointer
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5273,6 +5298,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_SetNvValue_DSP_Use_TD_MT(
  * @param points  the table's points (20 values)
  * @param stage  the number in the table's name: 1 is "stage1"
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `points` is null; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
@@ -5292,6 +5318,7 @@ MEROVANE_API int32_t MEROVANE_CALL QV_GetNvValue_Multi_Ramp_MT(
  * @param points  as QV_GetNvValue_Multi_Ramp reads them (20 values)
  * @param stage  the number in the table's name
  * @param band  a QV_NV_BAND (0 to 3)
+ * @retval PC_ERR_PORT_NOT_OPEN  the port has no session
  * @retval PC_ERR_INVALID_PARAM  `points` is null; `band` above 3
  * @retval PC_ERR_NV_PROJECT_NOT_OPEN  no NV project is open
  * @return 0 (PC_ERR_SUCCESS) or one of the above */
