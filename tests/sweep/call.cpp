@@ -100,7 +100,8 @@ Call::Call(const Export& which, std::int32_t port, const std::optional<Variation
            std::uint32_t durationMs, Memory& memory)
     : which_(which), buffers_(which.arguments.size()), variation_(variation) {
   for (const Argument& argument : which.arguments) {
-    words_.push_back(static_cast<Word>(argument.IsPointer() ? 0 : PlainValue(argument, durationMs)));
+    words_.push_back(
+        static_cast<Word>(argument.IsPointer() ? 0 : PlainValue(argument, durationMs)));
   }
   if (which.takesPort) words_.front() = static_cast<Word>(port);
   if (variation && !which.arguments[variation->argument].IsPointer()) {
@@ -147,7 +148,8 @@ bool Call::MustBeRefused() const {
   if (!variation_) return false;
   const Argument& argument = which_.arguments[variation_->argument];
   if (variation_->null) return !argument.mayBeNull;
-  return argument.bounded && (variation_->value < argument.low || variation_->value > argument.high);
+  return argument.bounded &&
+         (variation_->value < argument.low || variation_->value > argument.high);
 }
 
 std::uint32_t Call::LimitMs() const {

@@ -32,9 +32,8 @@ FarEnd::FarEnd(std::int32_t port)
       handset_(Options(port)),
       variable_("CASSORIND_COM" + std::to_string(port)) {
   handset_.SetFault(kRefuse);
-  handset_.EditAnswers([this](const handset::Frame& request, handset::Frame& answer) {
-    Edit(request, answer);
-  });
+  handset_.EditAnswers(
+      [this](const handset::Frame& request, handset::Frame& answer) { Edit(request, answer); });
   handset_.Start();
   SetEnvironment(variable_.c_str(), handset_.DevicePath().c_str());
 }

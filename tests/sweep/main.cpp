@@ -46,9 +46,9 @@ int main(int count, char** arguments) try {
   std::signal(SIGSEGV, OnCrash);
 #endif
   const std::span<const Export> surface = Surface();
-  Sweep sweep(planted.empty() ? std::vector<Export>(surface.begin(), surface.end())
-                              : SurfaceWith(planted),
-              plan);
+  Sweep sweep(
+      planted.empty() ? std::vector<Export>(surface.begin(), surface.end()) : SurfaceWith(planted),
+      plan);
   sweep.Run();
   std::cout << surface.size() << " exports, " << sweep.Calls() << " calls, " << sweep.Answered()
             << " requests answered, " << sweep.Findings().size() << " findings\n";

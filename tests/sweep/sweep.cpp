@@ -214,12 +214,11 @@ void Sweep::Try(const Export& which, Station& station, const std::optional<Varia
         Find(call, "gave " + std::to_string(result) + " for what it does not take");
       }
     }
-    const std::uint32_t limit =
-        open || waits ? (which.limitMs + call.LimitMs()) * which.rounds : 0;
+    const std::uint32_t limit = open || waits ? (which.limitMs + call.LimitMs()) * which.rounds : 0;
     if (outcome.milliseconds <= limit + kLateMs) return;
     if (timing < kTimings) continue;
-    Find(call, "took " + std::to_string(outcome.milliseconds) + " ms, limit " +
-                   std::to_string(limit));
+    Find(call,
+         "took " + std::to_string(outcome.milliseconds) + " ms, limit " + std::to_string(limit));
     return;
   }
 }
