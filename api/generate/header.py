@@ -118,7 +118,8 @@ def refused(export):
         elif outside:
             condition = f" {condition_text(argument, declaration)}" if argument.when else ""
             reasons.append(f"`{argument.name}` {outside}{condition}")
-    return reasons + [text for _, text in declaration.requirements]
+    own = [" ".join(lines) for internal, lines in declaration.results if internal == "InvalidParam"]
+    return reasons + [text for _, text in declaration.requirements] + own
 
 
 def results(export, api):
@@ -127,9 +128,9 @@ def results(export, api):
     own = {internal: " ".join(lines) for internal, lines in declaration.results}
     found = []
     reasons = refused(export)
-    if reasons or "InvalidParam" in own:
-        text = "; ".join(reasons + ([own.pop("InvalidParam")] if "InvalidParam" in own else []))
-        found.append(("InvalidParam", text))
+    own.pop("InvalidParam", None)
+    if reasons:
+        found.append(("InvalidParam", "; ".join(reasons)))
     if declaration.kind == "project":
         own.setdefault("PortNotOpen", "the port has no session")
         if "holder" not in declaration.flags:

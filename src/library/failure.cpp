@@ -116,13 +116,17 @@ Merovane_Cause CauseOf(const FailedCall& call, bool shared) {
       break;
   }
   if (!call.evidence) return MEROVANE_CAUSE_UNKNOWN;
+  // A device was awaited, and none has been opened.
+  const bool awaitedDevice = result == Result::EnterModeFailed && call.evidence->device.empty();
+  if (awaitedDevice) return MEROVANE_CAUSE_NO_DEVICE;
   return IsSilence(result) ? CauseOfSilence(*call.evidence, shared) : MEROVANE_CAUSE_ANSWER;
 }
 
 // What happened and what to check next. `device` is in it where one is known.
 std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::string& device,
                       const std::string& holders) {
-  const std::string what = device.empty() ? "The port's device" : device;
+  const std::string what = device.empty() ? "the port's device" : device;
+  const std::string first = device.empty() ? "The port's device" : device;
   const auto result = static_cast<Result>(call.result);
   switch (cause) {
     case MEROVANE_CAUSE_ARGUMENT:
@@ -137,7 +141,7 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
     case MEROVANE_CAUSE_MEMORY:
       return "The request was too long, or the process has no memory or threads left.";
     case MEROVANE_CAUSE_NO_DEVICE:
-      return "There is no " + what +
+      return (device.empty() ? "No device has arrived" : "There is no " + device) +
              ". Look whether the cable is plugged in, and which device the environment variable "
              "CASSORIND_COM" +
              std::to_string(call.port) + " names.";
@@ -148,18 +152,18 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
       return "This user may not open " + what +
              ". Add the user to the group that owns the device (often dialout), and log in again.";
     case MEROVANE_CAUSE_NO_SERIAL_DEVICE:
-      return what +
+      return first +
              " is a file or a folder and no serial device. Look at the environment variable "
              "CASSORIND_COM" +
              std::to_string(call.port) + ".";
     case MEROVANE_CAUSE_PIPE:
-      return what +
+      return first +
              " is a pipe and no serial device: a handset needs one that carries both ways. "
              "Name its pseudo-terminal or its socket instead.";
     case MEROVANE_CAUSE_RATE_REFUSED:
-      return what + " does not take this baud rate. 115200 is what handsets use at first.";
+      return first + " does not take this baud rate. 115200 is what handsets use at first.";
     case MEROVANE_CAUSE_ADDRESS_MALFORMED:
-      return what + " is no address. Write socket://host:port, as in socket://127.0.0.1:5000.";
+      return first + " is no address. Write socket://host:port, as in socket://127.0.0.1:5000.";
     case MEROVANE_CAUSE_HOST_UNKNOWN:
       return "The host of " + what +
              " is not known. Look at its spelling and at the name service, "
@@ -173,7 +177,7 @@ std::string AdviceFor(Merovane_Cause cause, const FailedCall& call, const std::s
              " and gives no reason. Look whether the "
              "device is there, free, and may be opened by this user.";
     case MEROVANE_CAUSE_DEVICE_GONE:
-      return what +
+      return first +
              " is gone or takes no data: it was unplugged, or its connection ended. Plug it "
              "in, then end and begin the port.";
     case MEROVANE_CAUSE_SILENT:

@@ -108,6 +108,14 @@ TEST_F(FailureTest, TellsWhyADeviceThatIsThereDoesNotOpen) {
   EXPECT_EQ(denied.system_error, EACCES);
 }
 
+TEST_F(FailureTest, TellsOfADeviceThatNeverArrives) {
+  Name("/dev/ttyNoSuchDevice");
+  ASSERT_EQ(QV_EnterModeProcessEx_MT(kPort, 1, 1, kLimitMs), PC_ERR_ENTER_MODE_FAILED);
+  const Merovane_Failure failure = LastFailure(kPort);
+  EXPECT_EQ(failure.cause, MEROVANE_CAUSE_NO_DEVICE);
+  EXPECT_THAT(failure.advice, ::testing::StartsWith("No device has arrived. Look"));
+}
+
 TEST_F(FailureTest, TellsASilentHandsetFromOneThatAnsweredBefore) {
   SwitchOn(RunningIn(1));
   Name(phone->DevicePath());
