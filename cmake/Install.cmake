@@ -86,6 +86,10 @@ install(DIRECTORY ${CMAKE_BINARY_DIR}/python/merovane DESTINATION ${bindings}/py
 install(DIRECTORY bindings/csharp/ ${CMAKE_BINARY_DIR}/api/csharp/ DESTINATION ${bindings}/csharp COMPONENT bindings
   FILES_MATCHING PATTERN *.cs PATTERN test EXCLUDE)
 
+foreach(language python csharp)
+  install(FILES bindings/${language}/README.md DESTINATION ${bindings}/${language} COMPONENT bindings)
+endforeach()
+
 install(FILES README.md CHANGELOG.md DESTINATION ${documentation} COMPONENT documentation)
 install(DIRECTORY docs DESTINATION ${documentation} COMPONENT documentation)
 foreach(folder simulator tools/merovane companions/cassorind companions/tollvane companions/brimwell)
