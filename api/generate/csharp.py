@@ -193,7 +193,7 @@ def is_stored(argument, arguments):
 
 
 def extent(argument, arguments):
-    """C#'s expression for how many elements there are, and null when another argument alone says it."""
+    """C#'s expression for how many elements there are."""
     if argument.fixed_extent is not None:
         return argument.extent
     names = {other.name for other in arguments}
