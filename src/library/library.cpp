@@ -1,6 +1,7 @@
 #include "library/library.h"
 
 #include "library/session.h"
+#include "platform/clock.h"
 #include "platform/files.h"
 
 namespace merovane::library {
@@ -37,6 +38,8 @@ bool Library::SetFolder(const std::filesystem::path& folder) {
 }
 
 Library& TheLibrary() {
+  // Made first, so that it is still there when the library closes its ports as the process ends.
+  platform::SystemClock();
   static Library library;
   return library;
 }
