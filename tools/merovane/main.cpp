@@ -25,7 +25,7 @@ struct Choice {
 };
 
 int PrintResults() {
-  for (int code = 0; code < 40; ++code) {
+  for (int code = -1; code < 40; ++code) {
     const auto result = static_cast<Result>(code);
     std::cout << code << '\t' << (ResultName(result).empty() ? "-" : ResultName(result)) << '\t'
               << ResultMeaning(result) << '\n';
