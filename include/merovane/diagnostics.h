@@ -158,7 +158,7 @@ MEROVANE_API int32_t MEROVANE_CALL Merovane_SetTrace(uint32_t trace);
 typedef enum Merovane_Event {
   MEROVANE_EVENT_LOG_LINE = 1, /* text: a line of the Useful log without its time */
   MEROVANE_EVENT_CALL = 2,     /* text: the JSON object of a call, as in the trace */
-  MEROVANE_EVENT_DROPPED = 3   /* text: {"dropped":12}, lines and calls that are missing here */
+  MEROVANE_EVENT_DROPPED = 3   /* text: how many lines and calls of the port are missing here */
 } Merovane_Event;
 
 /** Told of log lines, whether or not a Useful log is written, and of calls as they end. It is

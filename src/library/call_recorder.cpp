@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <map>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "library/call_text.h"
@@ -35,6 +36,15 @@ struct Dropped {
   std::uint64_t items = 0;
   std::uint64_t traced = 0;  // of these
 };
+
+// Want of memory, or a listener that throws, costs this step and not the thread.
+template <typename Step>
+void Attempt(const Step& step) {
+  try {
+    step();
+  } catch (...) {  // NOLINT(bugprone-empty-catch): this one goes untold
+  }
+}
 
 }  // namespace
 
@@ -179,26 +189,19 @@ bool CallRecorder::Teller::Wait() {
 }
 
 void CallRecorder::Teller::Write(Batch& batch, TraceFiles& files) {
-  // Want of memory costs single lines.
-  const auto attempt = [](const auto& step) {
-    try {
-      step();
-    } catch (...) {  // NOLINT(bugprone-empty-catch): this one goes untold
-    }
-  };
   for (std::size_t at = batch.written; at < batch.items.size(); ++at) {
     Item& item = *batch.items[at];
-    attempt([&] {
+    Attempt([&] {
       if (item.call) item.line = InJson(*item.call);
       if (item.IsTraced()) files.Line(batch.folder, item.port, item.line);
     });
     if (!files.IsFull() && at + 1 < batch.items.size()) continue;
-    attempt([&] { files.Open(); });
+    Attempt([&] { files.Open(); });
     // Ahead of the write, which the system completes also for a thread that it kills meanwhile.
     batch.written = at + 1;
-    attempt([&] { files.Write(); });
+    Attempt([&] { files.Write(); });
   }
-  attempt([&] {
+  Attempt([&] {
     for (const auto& [port, dropped] : batch.dropped) {
       if (dropped.traced != 0) files.Overrun(batch.folder, port, dropped.traced);
     }
@@ -215,8 +218,9 @@ void CallRecorder::Teller::TellListener() {
     }
     item.reset();
   }
-  for (const auto& [port, dropped] : batch_.dropped) {
-    Listen(MEROVANE_EVENT_DROPPED, port, DroppedInJson(dropped.items));
+  for (const auto& entry : batch_.dropped) {
+    Attempt(
+        [&] { Listen(MEROVANE_EVENT_DROPPED, entry.first, std::to_string(entry.second.items)); });
   }
 }
 
@@ -233,7 +237,7 @@ void CallRecorder::Teller::Listen(Merovane_Event event, std::int32_t port,
     calling_ = true;
     calledListener_ = listeners_;
   }
-  listener(context, event, port, text.c_str());
+  Attempt([&] { listener(context, event, port, text.c_str()); });
   const platform::MutexLock lock(mutex_);
   calling_ = false;
   told_.NotifyAll();

@@ -184,14 +184,4 @@ std::string GapInJson(std::int32_t port, std::uint64_t lines, std::string_view w
   return text;
 }
 
-std::string DroppedInJson(std::uint64_t items) {
-  std::string text;
-  JsonWriter(text)
-      .BeginObject()
-      .Key("dropped")
-      .Number(static_cast<std::int64_t>(items))
-      .EndObject();
-  return text;
-}
-
 }  // namespace merovane::library

@@ -16,7 +16,5 @@ const char* ResultNameOf(std::int32_t result);
 std::string InJson(const CallRecord& record);
 // What stands in a trace where `lines` of it are missing.
 std::string GapInJson(std::int32_t port, std::uint64_t lines, std::string_view why);
-// What a listener hears where calls and log lines are missing.
-std::string DroppedInJson(std::uint64_t items);
 
 }  // namespace merovane::library

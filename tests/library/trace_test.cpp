@@ -3,6 +3,7 @@
 #define MEROVANE_NO_ANNOTATIONS
 
 #include <atomic>
+#include <cstdlib>
 #include <filesystem>
 #include <mutex>
 #include <nlohmann/json.hpp>
@@ -204,7 +205,7 @@ TEST_F(TraceTest, AListenerThatHangsHoldsNoCallUpAndTheTraceSaysWhatItCost) {
   const auto hang = [](void* context, std::uint32_t event, std::int32_t, const char* text) {
     auto& self = *static_cast<Hanging*>(context);
     self.released.wait(false);
-    self.heard += event == MEROVANE_EVENT_CALL ? 1 : json::parse(text)["dropped"].get<int>();
+    self.heard += event == MEROVANE_EVENT_CALL ? 1 : std::strtoull(text, nullptr, 10);
   };
   ASSERT_EQ(Merovane_SetListener(hang, &listener), PC_ERR_SUCCESS);
   ASSERT_EQ(Merovane_SetTrace(MEROVANE_TRACE_CALLS), PC_ERR_SUCCESS);
