@@ -277,6 +277,7 @@ def argument_kind(argument):
     if argument.type == "text":
         return "Text"
     many = argument.extent and argument.extent != "1"
+    # An answer need not fill a capacity; other extents are what is there.
     untold = argument.direction == "out" and many and argument.fixed_extent is None and not argument.stored
     if untold and re.fullmatch(r"\w*capacity", argument.extent) or argument.is_open_ended:
         return "Room"
