@@ -1,7 +1,9 @@
 // merovane: the command-line tool.
 #include <functional>
 #include <iostream>
+#include <string_view>
 
+#include "declared/names.h"
 #include "link/result.h"
 #include "merovane/listen.h"
 #include "merovane/log_tool.h"
@@ -25,10 +27,16 @@ struct Choice {
 };
 
 int PrintResults() {
-  for (int code = -1; code < 40; ++code) {
+  int code = -1;
+  for (const std::string_view name : library::kResultNames) {
     const auto result = static_cast<Result>(code);
-    std::cout << code << '\t' << (ResultName(result).empty() ? "-" : ResultName(result)) << '\t'
-              << ResultMeaning(result) << '\n';
+    std::cout << code << '\t' << name << '\t' << ResultMeaning(result);
+    const std::string_view logged = ResultName(result);
+    if (code >= 0 && logged != name) {
+      std::cout << " (in logs: " << (logged.empty() ? "no name" : logged) << ')';
+    }
+    std::cout << '\n';
+    ++code;
   }
   return tool::kOk;
 }
