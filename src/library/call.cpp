@@ -26,8 +26,10 @@ Call::Call(const ExportInfo& info, std::int32_t port, std::uint32_t limitMs,
       port_(port),
       limitMs_(limitMs),
       words_(words),
+      begunMs_(platform::SystemClock().NowMs()),
       outer_(running),
-      recorded_(TheLibrary().recorder.WantsCalls()) {
+      recorded_(TheLibrary().recorder.WantsCalls()),
+      begun_(recorded_ ? Exchange::Clock::now() : Exchange::Clock::time_point()) {
   running = this;
 }
 
@@ -57,14 +59,12 @@ std::int32_t Call::Returned(std::int32_t result) noexcept {
   const bool failed = result != 0 && info_.returns == ExportInfo::Returns::Result;
   if (!failed && !recorded_) return result;
   try {
-    const auto ended = Exchange::Clock::now();
     std::optional<FailedCall> failure;
     if (failed) {
-      using std::chrono::milliseconds;
-      const auto elapsed = std::chrono::duration_cast<milliseconds>(ended - begun_).count();
-      failure = {&info_, Port(), limitMs_, static_cast<std::uint32_t>(elapsed), result, evidence_};
+      const std::uint32_t elapsedMs = platform::SystemClock().NowMs() - begunMs_;
+      failure = {&info_, Port(), limitMs_, elapsedMs, result, evidence_};
     }
-    if (recorded_) Tell(result, ended, failure);
+    if (recorded_) Tell(result, failure);
     if (failure) TheLibrary().failures.Keep(std::move(*failure), platform::CurrentThreadId());
     if (recorded_ && endsSession_) {
       static_cast<void>(TheLibrary().recorder.Flush(kCompleteTraceMs));
@@ -79,8 +79,7 @@ std::int32_t Call::Port() const {
   return evidence_ ? evidence_->port : reachedPort_;
 }
 
-void Call::Tell(std::int32_t result, Exchange::Clock::time_point ended,
-                const std::optional<FailedCall>& failure) {
+void Call::Tell(std::int32_t result, const std::optional<FailedCall>& failure) {
   CallRecorder& recorder = TheLibrary().recorder;
   CallRecord record;
   record.info = &info_;
@@ -88,7 +87,7 @@ void Call::Tell(std::int32_t result, Exchange::Clock::time_point ended,
   record.thread = platform::CurrentThreadId();
   record.returned = platform::LocalTime();
   record.begun = begun_;
-  record.ended = ended;
+  record.ended = Exchange::Clock::now();
   record.result = result;
   record.trace = recorder.Trace();
   record.CopyArguments(words_);

@@ -87,16 +87,17 @@ class Call {
 
  private:
   std::int32_t Port() const;
-  void Tell(std::int32_t result, Exchange::Clock::time_point ended,
-            const std::optional<FailedCall>& failure);
+  void Tell(std::int32_t result, const std::optional<FailedCall>& failure);
 
   const ExportInfo& info_;
   const std::int32_t port_;
   const std::uint32_t limitMs_;
   const std::uintptr_t* const words_;
-  const Exchange::Clock::time_point begun_ = Exchange::Clock::now();
+  // By the clock of time limits, so that a wait that took its whole limit is not told as less.
+  const std::uint32_t begunMs_;
   Call* const outer_;
   const bool recorded_;
+  const Exchange::Clock::time_point begun_;  // where it is recorded
   bool endsSession_ = false;
   std::int32_t reachedPort_ = 0;
   std::optional<LinkEvidence> evidence_;
