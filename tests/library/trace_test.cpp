@@ -115,6 +115,7 @@ TEST_F(TraceTest, IsSwitchedWhileRunningAndTakesCallsWithoutAPort) {
   QV_SetRecvMode(0);
   EXPECT_EQ(QV_IsPhoneAssert(), 0);
   // Nothing where its pointer leads is looked at: the property is none that has a value.
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): made up on purpose
   auto* const nowhere = reinterpret_cast<std::uint32_t*>(std::uintptr_t{8});
   EXPECT_EQ(QV_GetProperty(1, 0, nowhere), PC_ERR_SUCCESS);
   EXPECT_EQ(QV_OpenPrjFile("/no/such/project.prj"), PC_ERR_PORT_NOT_OPEN);
