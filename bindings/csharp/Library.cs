@@ -95,12 +95,8 @@ namespace Merovane
 
         private static void EndListening()
         {
+            // Without a listener the thread that called it ends, for which Mono waits.
             Native.Merovane_SetListener(null, IntPtr.Zero);
-            // Mono waits for the end of every thread that was in managed code, and the library's goes on.
-            if (Type.GetType("Mono.Runtime") == null || IsWindows)
-                return;
-            Native.Merovane_Flush(1000);
-            _exit(Environment.ExitCode);
         }
 
         private static void Tell(Action<Event, int, string> listener, Event kind, int port, IntPtr text)
@@ -131,9 +127,6 @@ namespace Merovane
         }
 
         private static bool IsWindows => Environment.OSVersion.Platform == PlatformID.Win32NT;
-
-        [DllImport("libc")]
-        private static extern void _exit(int code);
 
         [DllImport("libc")]
         private static extern int pthread_sigmask(int how, byte[] signals, IntPtr former);

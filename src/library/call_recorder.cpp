@@ -52,9 +52,13 @@ class CallRecorder::Teller {
  public:
   void SetFolder(const std::filesystem::path& folder);
   void SetListener(Merovane_Listener listener, void* context);
-  // Whether calls or lines are to be expected.
-  void SetExpecting(bool expecting);
-  void Add(std::unique_ptr<Item> item);
+  // False when there is no thread to tell it: one must be begun.
+  bool Add(std::unique_ptr<Item> item);
+  // False when a thread works, or was to.
+  bool BeginWork();
+  void HasNoThread();
+  // The thread ends once it has told what it was given; the next item begins another.
+  void Retire();
   bool Flush(std::uint32_t limitMs);
   std::vector<TraceFiles::Gap> Gaps() const { return files_.Gaps(); }
 
@@ -82,14 +86,15 @@ class CallRecorder::Teller {
   void Listen(Merovane_Event event, std::int32_t port, const std::string& text);
 
   std::atomic<bool> stops_{false};
-  std::atomic<bool> expects_{false};
-  // Wakes the thread when somebody waits for it, and when nothing was expected.
+  std::atomic<bool> retires_{false};
+  // Wakes the thread when somebody waits for it.
   platform::Event wake_;
 
   platform::Mutex mutex_;
   platform::ConditionVariable told_;
   Batch waiting_ MEROVANE_GUARDED_BY(mutex_);
   std::size_t waitingBytes_ MEROVANE_GUARDED_BY(mutex_) = 0;
+  bool works_ MEROVANE_GUARDED_BY(mutex_) = false;
   // How many batches were begun, and told whole.
   std::uint64_t begunBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
   std::uint64_t toldBatches_ MEROVANE_GUARDED_BY(mutex_) = 0;
@@ -120,22 +125,35 @@ void CallRecorder::Teller::SetListener(Merovane_Listener listener, void* context
   while (calling_ && calledListener_ < mine) told_.Wait(mutex_);
 }
 
-void CallRecorder::Teller::Add(std::unique_ptr<Item> item) {
+bool CallRecorder::Teller::Add(std::unique_ptr<Item> item) {
   const std::size_t bytes = item->Bytes();
   const platform::MutexLock lock(mutex_);
   if (waitingBytes_ + bytes > kMostWaitingBytes) {
     Dropped& dropped = waiting_.dropped[item->port];
     ++dropped.items;
     if (item->IsTraced()) ++dropped.traced;
-    return;
+    return works_;
   }
   waiting_.items.push_back(std::move(item));
   waitingBytes_ += bytes;
-  if (!expects_) wake_.Set();
+  return works_;
 }
 
-void CallRecorder::Teller::SetExpecting(bool expecting) {
-  expects_ = expecting;
+bool CallRecorder::Teller::BeginWork() {
+  const platform::MutexLock lock(mutex_);
+  if (works_) return false;
+  works_ = true;
+  retires_ = false;
+  return true;
+}
+
+void CallRecorder::Teller::HasNoThread() {
+  const platform::MutexLock lock(mutex_);
+  works_ = false;
+}
+
+void CallRecorder::Teller::Retire() {
+  retires_ = true;
   wake_.Set();
 }
 
@@ -163,6 +181,7 @@ void CallRecorder::Teller::Work() {
       told_.NotifyAll();
     }
   }
+  thread_ = 0;
 }
 
 bool CallRecorder::Teller::Take(Batch& batch) {
@@ -180,11 +199,14 @@ bool CallRecorder::Teller::Take(Batch& batch) {
 
 bool CallRecorder::Teller::Wait() {
   for (;;) {
-    static_cast<void>(wake_.WaitMs(stops_ ? 0 : expects_ ? kLookMs : UINT32_MAX));
+    const bool ends = stops_ || retires_;
+    static_cast<void>(wake_.WaitMs(ends ? 0 : kLookMs));
     const platform::MutexLock lock(mutex_);
     if (!stops_) wake_.Reset();
     if (Take(batch_)) return true;
-    if (stops_) return false;
+    if (!ends) continue;
+    works_ = false;
+    return false;
   }
 }
 
@@ -262,7 +284,6 @@ void CallRecorder::Teller::WriteRest() {
 CallRecorder::CallRecorder() : teller_(std::make_shared<Teller>()) {}
 
 CallRecorder::~CallRecorder() {
-  if (!started_) return;
   teller_->Stop();
   if (thread_.WaitMs(kEndLimitMs)) {
     teller_->WriteRest();
@@ -276,50 +297,50 @@ void CallRecorder::SetFolder(const std::filesystem::path& folder) { teller_->Set
 bool CallRecorder::SetTrace(Merovane_Trace trace) {
   if (trace != MEROVANE_TRACE_OFF && !Start()) return false;
   trace_ = trace;
-  teller_->SetExpecting(WantsCalls());
+  if (!WantsCalls()) teller_->Retire();
   return true;
 }
 
-void CallRecorder::SetTraceAtLoad(Merovane_Trace trace) {
-  trace_ = trace;
-  teller_->SetExpecting(WantsCalls());
-}
+void CallRecorder::SetTraceAtLoad(Merovane_Trace trace) { trace_ = trace; }
 
 bool CallRecorder::SetListener(Merovane_Listener listener, void* context) {
   if (listener && !Start()) return false;
   listens_ = listener != nullptr;
-  teller_->SetExpecting(WantsCalls());
   teller_->SetListener(listener, context);
+  // Also while calls are traced: a program whose language waits for the threads that were in its
+  // code would wait for this one as it ends.
+  if (!listener) teller_->Retire();
   return true;
 }
 
 bool CallRecorder::Start() {
-  if (started_) return true;
   const platform::MutexLock lock(startMutex_);
-  // Once it runs, an unloading library can wait for its end.
-  if (!started_) started_ = thread_.Start([teller = teller_] { teller->Work(); });
-  return started_;
+  if (!teller_->BeginWork()) return true;
+  // Once it runs, an unloading library can wait for its end. The one before has told all.
+  if (thread_.WaitMs(kEndLimitMs) && thread_.Start([teller = teller_] { teller->Work(); })) {
+    return true;
+  }
+  teller_->HasNoThread();
+  return false;
 }
 
 void CallRecorder::Tell(CallRecord record) {
-  if (!Start()) return;
   auto item = std::make_unique<Item>();
   item->port = record.port;
   item->thread = record.thread;
   item->call = std::move(record);
-  teller_->Add(std::move(item));
+  if (!teller_->Add(std::move(item))) static_cast<void>(Start());
 }
 
 void CallRecorder::TellLine(std::int32_t port, std::string line) {
-  if (!Start()) return;
   auto item = std::make_unique<Item>();
   item->port = port;
   item->thread = platform::CurrentThreadId();
   item->line = std::move(line);
-  teller_->Add(std::move(item));
+  if (!teller_->Add(std::move(item))) static_cast<void>(Start());
 }
 
-bool CallRecorder::Flush(std::uint32_t limitMs) { return !started_ || teller_->Flush(limitMs); }
+bool CallRecorder::Flush(std::uint32_t limitMs) { return teller_->Flush(limitMs); }
 
 std::vector<TraceFiles::Gap> CallRecorder::Gaps() const { return teller_->Gaps(); }
 

@@ -59,11 +59,10 @@ class CallRecorder final : public LogObserver {
 
   std::atomic<std::uint32_t> trace_{MEROVANE_TRACE_OFF};
   std::atomic<bool> listens_{false};
-  std::atomic<bool> started_{false};
   // Its thread's, too, which can outlive this when a disk or a listener holds it.
   const std::shared_ptr<Teller> teller_;
   platform::Mutex startMutex_;
-  platform::Thread thread_;  // once started, nobody's but the destructor's
+  platform::Thread thread_;  // under that mutex, and the destructor's
 };
 
 }  // namespace merovane::library
