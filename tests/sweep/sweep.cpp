@@ -7,6 +7,8 @@
 #include <stdexcept>
 #include <thread>
 
+#include "support/temp_directory.h"
+
 namespace merovane::sweep {
 namespace {
 
@@ -45,6 +47,7 @@ void Sweep::Run() {
   WithoutSession();
   AgainstHandsets();
   OnDefaultPort();
+  WithProject();
   SessionFunctions();
 }
 
@@ -141,6 +144,29 @@ void Sweep::OnDefaultPort() {
       Try(each, station, std::nullopt, true, true);
     });
   }
+  QV_EndPhoneTest();
+}
+
+// What is looked for by name has the name of the plainest text.
+void Sweep::WithProject() {
+  const test::TempDirectory folder;
+  folder.Write("project", "TARGET = nv.bin\nMODULE = module\n");
+  folder.Write("module",
+               "MODULE = module\nBEGIN_ITEM\nITEM_NAME = 1\nITEM_ID = 1\nITEM_TYPE = SHORT\n"
+               "ITEM_LENGTH = 2\nITEM_CONTENT = 0x5\nITEM_PARENT = -1\nITEM_INDEX = 0\nEND_ITEM\n");
+  std::vector<Station> stations(1);
+  stations.front().port = kFirstPort;
+  const FarEnd handset(kFirstPort);
+  if (QV_BeginPhoneTest(kFirstPort, kBaudRate) != 0 ||
+      QV_OpenPrjFile((folder / "project").string().c_str()) != 0) {
+    throw std::runtime_error("no project");
+  }
+  const auto which = [](const Export& each) {
+    const bool holds = each.name.find("PrjFile") != std::string_view::npos;
+    return each.kind == Export::Kind::Project && !holds;
+  };
+  Share(Those(which), stations,
+        [this](const Export& each, Station& station) { Vary(each, station, true); });
   QV_EndPhoneTest();
 }
 

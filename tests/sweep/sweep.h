@@ -48,6 +48,7 @@ class Sweep {
   void WithoutSession();
   void AgainstHandsets();
   void OnDefaultPort();
+  void WithProject();
   void SessionFunctions();
   void Share(const Chosen& exports, std::vector<Station>& stations, const Work& work);
   void Vary(const Export& which, Station& station, bool open);
