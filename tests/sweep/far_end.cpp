@@ -9,6 +9,7 @@ using namespace std::chrono_literals;
 
 constexpr std::chrono::milliseconds kFloodInterval = 5ms;
 constexpr std::size_t kNoiseBytes = 512;
+constexpr std::uint8_t kRefusal = 2;
 constexpr std::uint8_t kOtherSubtypes[] = {0, 1, 3, 4, 0x80};
 // Of a frame that no command awaits.
 constexpr std::uint8_t kUnasked = 0x63;
@@ -46,11 +47,12 @@ FarEnd::~FarEnd() {
 void FarEnd::Edit(const handset::Frame& request, handset::Frame& answer) {
   ++answered_;
   if (manner_ != Manner::Answers) return;
-  answer.subtype = request.subtype;
+  // Most answers have their request's subtype; one that would be a refusal's is answered with 0.
+  answer.subtype = request.subtype == kRefusal ? 0 : request.subtype;
   answer.payload = Noise(payloadBytes_);
   // Some requests await another subtype than their own, or a second frame.
   for (const std::uint8_t subtype : kOtherSubtypes) {
-    if (subtype != request.subtype) handset_.SendFrame(answer.type, subtype, answer.payload);
+    if (subtype != answer.subtype) handset_.SendFrame(answer.type, subtype, answer.payload);
   }
 }
 
