@@ -63,8 +63,7 @@ std::vector<std::int64_t> ValuesOf(const Argument& argument) {
         values.push_back(Wrapped(argument, value));
       }
       std::ranges::sort(values);
-      const auto repeated = std::ranges::unique(values);
-      values.erase(repeated.begin(), repeated.end());
+      values.erase(std::unique(values.begin(), values.end()), values.end());
       return values;
     }
     case Role::Text: {

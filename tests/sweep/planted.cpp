@@ -4,7 +4,7 @@ namespace merovane::sweep {
 namespace {
 
 // QV_ReadFlash_MT(port, item, data, length, data_length, timeout_ms)
-std::uint8_t* Data(Words words) { return reinterpret_cast<std::uint8_t*>(words[2]); }
+std::uint8_t* Data(Words words) { return FromWord<std::uint8_t*>(words[2]); }
 std::size_t Length(Words words) { return words[3]; }
 
 std::int64_t Call(Words words, bool& stackMoved) {

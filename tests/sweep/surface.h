@@ -64,7 +64,7 @@ inline std::uintptr_t StackPointer() {
 template <typename T>
 T FromWord(Word word) {
   if constexpr (std::is_pointer_v<T>) {
-    return reinterpret_cast<T>(word);
+    return reinterpret_cast<T>(word);  // NOLINT(performance-no-int-to-ptr): it was one
   } else {
     return static_cast<T>(word);
   }
