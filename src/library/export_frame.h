@@ -14,14 +14,56 @@
 
 namespace merovane::library {
 
-// The command's result; one that ran out of memory could not make its request.
-template <typename Command>
-Result Guarded(Command&& command) noexcept {
+// The operation's result; one that ran out of memory could not make its request.
+template <typename Operation>
+Result Guarded(Operation&& operation) noexcept {
   try {
-    return std::forward<Command>(command)();
+    return std::forward<Operation>(operation)();
   } catch (...) {
     return Result::EncodeFailed;
   }
+}
+
+// What one export does on its object, called once while it stands. A reference rather than a
+// template's parameter: the frame is there once, and not in each of the exports.
+class Body {
+ public:
+  template <typename Operation>
+  explicit Body(Operation& operation)
+      : operation_(&operation), run_([](void* held, PhoneObject& phone) {
+          return (*static_cast<Operation*>(held))(phone);
+        }) {}
+  Result operator()(PhoneObject& phone) const { return run_(operation_, phone); }
+
+ private:
+  void* operation_;
+  Result (*run_)(void* held, PhoneObject& phone);
+};
+
+std::int32_t RunOnDefaultPhone(Body command) noexcept;
+std::int32_t RunOnPhone(std::int32_t port, Body command) noexcept;
+// `operation` gets the object for its NV project.
+std::int32_t RunOnDefaultProject(std::uint32_t id, Body operation) noexcept;
+std::int32_t RunOnProjectOf(std::int32_t port, std::uint32_t id, Body operation) noexcept;
+
+template <typename Command>
+std::int32_t OnDefaultPhone(Command command) noexcept {
+  return RunOnDefaultPhone(Body(command));
+}
+
+template <typename Command>
+std::int32_t OnPhone(std::int32_t port, Command command) noexcept {
+  return RunOnPhone(port, Body(command));
+}
+
+template <typename Operation>
+std::int32_t OnDefaultProject(std::uint32_t id, Operation operation) noexcept {
+  return RunOnDefaultProject(id, Body(operation));
+}
+
+template <typename Operation>
+std::int32_t OnProjectOf(std::int32_t port, std::uint32_t id, Operation operation) noexcept {
+  return RunOnProjectOf(port, id, Body(operation));
 }
 
 inline std::int32_t Reported(Result result) {
@@ -32,64 +74,6 @@ inline std::int32_t Reported(Result result) {
 inline std::int32_t ReportedUnreached(Result result) {
   TheLibrary().environment.errors.ClearReport();
   return Reported(result);
-}
-
-template <typename Command>
-std::int32_t RunCommand(PhoneObject& phone, Command&& command) noexcept {
-  const Turn turn(phone.commandTurns);
-  if (!turn) return ReportedUnreached(Result::PortNotOpen);
-  Result result = Guarded([&] {
-    const PhoneLink::NoteScope noted(phone.link, Call::Exchanges());
-    return command(phone);
-  });
-  // A command may make something else of it, or nothing.
-  if (phone.link.WasCutShort()) result = Result::PortNotOpen;
-  if (!Succeeded(result)) Call::Note(phone.link);
-  return Reported(result);
-}
-
-template <typename Operation>
-std::int32_t RunProject(PhoneObject& phone, std::uint32_t id, Operation&& operation) noexcept {
-  const Turn turn(phone.projectTurns);
-  if (!turn) return ReportedUnreached(Result::PortNotOpen);
-  TheLibrary().environment.errors.BeginOperation(id);
-  return Reported(Guarded([&] { return operation(phone); }));
-}
-
-template <typename Run>
-std::int32_t OnDefaultObject(Run&& run) noexcept {
-  const auto phone = TheLibrary().registry.Default();
-  if (!phone) return ReportedUnreached(Result::PortNotOpen);
-  Call::Reached(phone->link.Port());
-  return run(*phone);
-}
-
-template <typename Run>
-std::int32_t OnObjectOf(std::int32_t port, Run&& run) noexcept {
-  Result failure = Result::Success;
-  const auto phone = TheLibrary().registry.Find(port, failure);
-  return phone ? run(*phone) : ReportedUnreached(failure);
-}
-
-template <typename Command>
-std::int32_t OnDefaultPhone(Command&& command) noexcept {
-  return OnDefaultObject([&](PhoneObject& phone) { return RunCommand(phone, command); });
-}
-
-template <typename Command>
-std::int32_t OnPhone(std::int32_t port, Command&& command) noexcept {
-  return OnObjectOf(port, [&](PhoneObject& phone) { return RunCommand(phone, command); });
-}
-
-// `operation` gets the object for its NV project.
-template <typename Operation>
-std::int32_t OnDefaultProject(std::uint32_t id, Operation&& operation) noexcept {
-  return OnDefaultObject([&](PhoneObject& phone) { return RunProject(phone, id, operation); });
-}
-
-template <typename Operation>
-std::int32_t OnProjectOf(std::int32_t port, std::uint32_t id, Operation&& operation) noexcept {
-  return OnObjectOf(port, [&](PhoneObject& phone) { return RunProject(phone, id, operation); });
 }
 
 inline nvproject::ImageContext ImageContextNow() {
